@@ -44,10 +44,12 @@ function(vexel_library name)
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_compile_features(${target} PUBLIC cxx_std_20)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:vexel_options>)
-  # Every exported symbol carries the version of the binary interface, and none may be left undefined. (Sanitized
-  # libraries find the sanitizer's own symbols in the program.)
-  target_link_options(${target} PRIVATE
-    LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/vexel.map $<$<NOT:$<BOOL:${VEXEL_SANITIZE}>>:LINKER:-z,defs>)
+  # Every exported symbol carries the version of the binary interface, and none may be left undefined; only sanitized
+  # libraries find the sanitizer's own symbols in the program.
+  target_link_options(${target} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/vexel.map)
+  if(NOT VEXEL_SANITIZE)
+    target_link_options(${target} PRIVATE LINKER:-z,defs)
+  endif()
 
   if(VEXEL_INSTALL)
     install(TARGETS ${target} EXPORT vexel-${component}-targets

@@ -4,7 +4,8 @@ include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vexel)
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-file(RELATIVE_PATH VEXEL_PC_PREFIX /prefix/${pkgconfig_dir} /prefix)
+set(prefix /prefix)
+cmake_path(RELATIVE_PATH prefix BASE_DIRECTORY /prefix/${pkgconfig_dir} OUTPUT_VARIABLE VEXEL_PC_PREFIX)
 
 # vexel_component(NAME LIBRARY requires description): the files of one installed component.
 function(vexel_component component library requires description)
