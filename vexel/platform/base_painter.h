@@ -1,0 +1,144 @@
+#pragma once
+
+#include "vexel/export.h"
+#include "vexel/platform/clip_region.h"
+#include "vexel/platform/paint_device.h"
+#include "vexel/platform/painter.h"
+
+#include <string>
+#include <vector>
+
+namespace vexelbase
+{
+
+/// The painter of all backends: mapping, rounding, clip, bracket, shapes and text layout on an IPaintDevice.
+class VEXEL_API CBasePainter : public IPainter
+{
+public:
+    /// `device` must outlive the painter. `picture`: every paint is a full one.
+    CBasePainter(IPaintDevice& device, bool picture);
+    ~CBasePainter() override;
+
+    /// The next ssPaint bracket is a full paint: the surface is new, resized or lost content.
+    void RequestFullPaint() { m_FullPaint = true; }
+    IPaintDevice& GetDevice() { return m_Device; }
+
+    // From IPainter -----------------------------------------------------------------------------------------------
+    void BeginPaint(StdSettings settings) override;
+    void EndPaint() override;
+    bool IsFullPaint() override { return m_Picture || m_FullPaint; }
+    void SetCoordSystem(MapMode mode, CoordInfo const* info) override;
+    void GetCoordSystem(MapMode& mode, CoordInfo* info) const override;
+    void ConvertCoord1(point<double>* value, bool extent) const override;
+    void DeconvertCoord1(point<double>* value, bool extent) const override;
+    void ConvertCoord2(point<double>* values, bool extent) const override;
+    void DeconvertCoord2(point<double>* values, bool extent) const override;
+    rectangle<double> GetClipRect() const override;
+    void SetClipRect(double left, double top, double right, double bottom, bool exclude) override;
+    void SimpleSetClipRect(rectangle<double> const& rect, bool exclude) override;
+    void ResetClip() override;
+    void SetPen(pen const& value) override { m_Pen = value; }
+    pen GetPen() const override { return m_Pen; }
+    void SetBrush(brush const& value) override { m_Brush = value; }
+    brush GetBrush() const override { return m_Brush; }
+    void SetFont(font const& value) override;
+    font GetFont() const override { return m_Font; }
+    void SetTextColor(_color const& color) override { m_TextColor = color; }
+    _color GetTextColor() const override { return m_TextColor; }
+    void SetBkColor(_color const& color) override { m_BkColor = color; }
+    _color GetBkColor() const override { return m_BkColor; }
+    void SetDrawMode(RasterOperation mode) override { m_DrawMode = mode; }
+    RasterOperation GetDrawMode() const override { return m_DrawMode; }
+    void MoveTo(double x, double y) override;
+    void LineTo(double x, double y) override;
+    void Rectangle(double left, double top, double right, double bottom) override;
+    void FillRect(double left, double top, double right, double bottom) override;
+    void RoundRect(double left, double top, double right, double bottom, double radiusX, double radiusY) override;
+    void Polygon(point<double> const* points, int count) override;
+    void FocusRect(double left, double top, double right, double bottom) override;
+    void SetPixel(double x, double y, _color color) override;
+    _color GetPixel(double x, double y) const override;
+    using IPainter::DrawString;
+    size<double> DrawString(rectangle<double> const& rect, char const* text, int flags, int count) override;
+    size<double> DrawStringEx(rectangle<double> const& rect, char const* text, int flags, int count,
+                              char const* delimiters, ITextFormatter* formatter) override;
+    size<double> GetTextSize(std::string const& text, font const* textFont, int count, bool logical,
+                             bool rotated) override;
+    rectangle<double> GetTextRect(rectangle<double> const& rect, size<double> const& textSize, int flags) override;
+    void GetFontMetrics(fontmetrics* metrics) override;
+    int MeasureRun(char const* text, int length) override;
+    void DrawRun(int x, int y, char const* text, int length) override;
+    rectangle<int> RunToDevice(rectangle<int> const& rect) const override;
+    void DrawControlElement(ControlElement element, double left, double top, double right, double bottom,
+                            int state) override;
+    void DrawRasterPicture(IRasterPicture* picture, double left, double top, double right, double bottom,
+                           RasterOperation operation) override;
+    void DrawRasterPictureEx(IRasterPicture* picture, double left, double top, double right, double bottom,
+                             double sourceLeft, double sourceTop, double sourceRight, double sourceBottom,
+                             RasterOperation operation) override;
+    void ExtractRasterPicture(IRasterPicture* picture, double left, double top, double right, double bottom) override;
+    void ExtractRasterPictureEx(IRasterPicture* picture, double left, double top, double right, double bottom,
+                                double targetLeft, double targetTop, double targetRight,
+                                double targetBottom) override;
+    void AlphaBlend(double left, double top, double right, double bottom, IRasterPicture* picture, int alpha) override;
+    void DrawXPM(XPMImage const& image, double x, double y, int sourceX, int sourceY, int sourceWidth,
+                 int sourceHeight, RasterOperation operation) override;
+    double GetDPIScale() const override;
+
+    using IPainter::ConvertCoord2;
+    using IPainter::DeconvertCoord2;
+
+protected:
+    /// The device rectangle (half-open) of an inclusive logical one: corners mapped, ordered, rounded down.
+    rectangle<int> ToDevice(double left, double top, double right, double bottom) const;
+    point<int> ToDevice(double x, double y) const;
+    void FillDevice(rectangle<int> const& area, std::uint32_t pixel, RasterOperation operation);
+
+private:
+    // One axis of the mapping: device = offset + logical * ratio.
+    struct SAxis
+    {
+        double offset = 0;
+        double ratio = 1;
+    };
+    // What an inner bracket keeps of the outer one.
+    struct SSaved
+    {
+        MapMode mode;
+        CoordInfo info;
+        CClipRegion clip;
+        font textFont;
+        StdSettings settings;
+    };
+    // Where and how the text frame of the string being drawn lies on the device.
+    struct STextFrame
+    {
+        point<int> origin;
+        bool active = false;
+    };
+
+    void UpdateMapping();
+    font const& EffectiveFont() const;
+
+    IPaintDevice& m_Device;
+    bool const m_Picture;
+    bool m_FullPaint = true;
+    std::vector<SSaved> m_Brackets;
+
+    MapMode m_Mode = mmDevice;
+    CoordInfo m_Info;
+    SAxis m_AxisX;
+    SAxis m_AxisY;
+    CClipRegion m_Clip;
+
+    pen m_Pen;
+    brush m_Brush;
+    font m_Font;
+    _color m_TextColor = color_table[1];
+    _color m_BkColor = color_table[9];
+    RasterOperation m_DrawMode = roCopy;
+    point<double> m_Position;
+    STextFrame m_Frame;
+};
+
+} // namespace vexelbase

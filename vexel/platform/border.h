@@ -1,0 +1,31 @@
+#pragma once
+
+#include "vexel/export.h"
+#include "vexel/platform/geometry.h"
+
+namespace vexelbase
+{
+
+class IPainter;
+
+enum BorderShape : int
+{
+    bsBox = 0,       ///< Edge of two lines.
+    bsThinBox = 1,   ///< Edge of one line.
+    bsTopLine = 2,
+    bsBottomLine = 3,
+    bsLeftLine = 4,
+    bsRightLine = 5,
+    bsNothing = 6,
+    bsFrame = 7      ///< One line around, never filled.
+};
+
+enum BorderStyle : int { bsFlat = 0, bsRaised = 1, bsSunken = 2 };
+
+/// Draws an edge on the inclusive logical rectangle, with the painter's palette or else the default one.
+/// `fill`: boxes (shapes 0 and 1) are filled with the face colour; other shapes never are.
+/// Leaves the painter's pen and brush as they were.
+VEXEL_API void DrawBorder(IPainter* painter, rectangle<double> const& rect, BorderShape shape, BorderStyle style,
+                          bool fill);
+
+} // namespace vexelbase

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "vexel/export.h"
+#include "vexel/platform/font.h"
+#include "vexel/platform/geometry.h"
+#include "vexel/platform/painter.h"
+
+#include <cstdint>
+
+namespace vexelbase
+{
+
+class CPixelBuffer;
+
+/// What a backend must be able to do for the painter. All coordinates are device pixels; rectangles exclude their right
+/// and bottom edge and have already been cut to the clip, but not to the surface. Pixels are words 0xFFRRGGBB.
+class VEXEL_API IPaintDevice
+{
+public:
+    virtual ~IPaintDevice();
+
+    virtual size<int> GetSize() const = 0;
+
+    // Pixels ------------------------------------------------------------------------------------------------------
+    virtual void Fill(rectangle<int> const& area, std::uint32_t pixel, IPainter::RasterOperation operation) = 0;
+    virtual std::uint32_t ReadPixel(int x, int y) const = 0;  ///< White outside the surface.
+    /// Draws `source` (a part of `picture`) stretched over `target` (nearest pixel), only what lies in `clip`.
+    virtual void Blit(rectangle<int> const& target, rectangle<int> const& clip, CPixelBuffer const& picture,
+                      rectangle<int> const& source, IPainter::RasterOperation operation) = 0;
+    /// Blends one to one: pixel (x, y) of `area` with (x - origin.x, y - origin.y) of the picture.
+    virtual void Blend(rectangle<int> const& area, CPixelBuffer const& picture, point<int> const& origin,
+                       int alpha) = 0;
+    /// Copies `area` of the surface to `position` of the picture.
+    virtual void Extract(rectangle<int> const& area, CPixelBuffer& picture, point<int> const& position) = 0;
+
+    // Text: one unbroken run, UTF-8, ill-formed bytes shown as replacement characters ------------------------------
+    struct SRun
+    {
+        font const* textFont = nullptr;  ///< Effective: size set, not default.
+        char const* text = nullptr;
+        int length = 0;
+        int x = 0;  ///< Left-top of the upright run; the run is turned about this point by the font's rotation.
+        int y = 0;
+        std::uint32_t pixel = 0xFF000000u;
+        rectangle<int> clip;
+    };
+    virtual int MeasureRun(font const& textFont, char const* text, int length) = 0;
+    virtual void DrawRun(SRun const& run) = 0;
+    virtual void GetMetrics(font const& textFont, fontmetrics& metrics) = 0;
+
+    // Parts -------------------------------------------------------------------------------------------------------
+    /// Covers `area` wholly with the part's picture, only what lies in `clip`.
+    virtual void DrawControlElement(IPainter::ControlElement element, rectangle<int> const& area,
+                                    rectangle<int> const& clip, int state) = 0;
+};
+
+} // namespace vexelbase

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "vexel/export.h"
+#include "vexel/platform/color.h"
+#include "vexel/platform/geometry.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace vexelbase
+{
+
+/// A 32-bit picture in memory: one word 0xFFRRGGBB a pixel, rows from the top without gaps.
+class VEXEL_API CPixelBuffer
+{
+public:
+    CPixelBuffer() = default;
+    explicit CPixelBuffer(size<int> const& extent, std::uint32_t pixel = 0xFFFFFFFFu) { Resize(extent, pixel); }
+
+    size<int> GetSize() const { return m_Size; }
+    int GetWidth() const { return m_Size.width; }
+    int GetHeight() const { return m_Size.height; }
+    std::uint32_t* Row(int y) { return m_Pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_Size.width); }
+    std::uint32_t const* Row(int y) const
+    {
+        return m_Pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_Size.width);
+    }
+    bool Contains(int x, int y) const { return x >= 0 && y >= 0 && x < m_Size.width && y < m_Size.height; }
+
+    /// Takes a new size; what lies in both sizes stays, the rest gets `pixel`. Negative extents count as 0.
+    void Resize(size<int> const& extent, std::uint32_t pixel);
+
+    /// Cuts a half-open rectangle to the picture; false if nothing is left.
+    bool Cut(rectangle<int>& area) const;
+
+    static constexpr std::uint32_t ToPixel(_color const& color)
+    {
+        std::uint32_t const v = color.m_Value;
+        return 0xFF000000u | (v & 0xFFu) << 16 | (v & 0xFF00u) | (v >> 16 & 0xFFu);
+    }
+    static constexpr _color ToColor(std::uint32_t pixel)
+    {
+        return _color(0xFF000000u | (pixel & 0xFFu) << 16 | (pixel & 0xFF00u) | (pixel >> 16 & 0xFFu));
+    }
+
+private:
+    size<int> m_Size;
+    std::vector<std::uint32_t> m_Pixels;
+};
+
+} // namespace vexelbase
