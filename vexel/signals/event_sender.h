@@ -151,7 +151,8 @@ private:
 template <class Sender> class CImplEventSender<Sender>::CFiring
 {
 public:
-    explicit CFiring(CImplEventSender* sender) : m_Sender(sender), m_Outer(sender->m_firing)
+    // Not inline, for GCC takes the stored address for one that is left behind.
+    [[gnu::noinline]] explicit CFiring(CImplEventSender* sender) : m_Sender(sender), m_Outer(sender->m_firing)
     {
         sender->m_firing = this;
     }
