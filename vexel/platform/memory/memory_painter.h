@@ -9,7 +9,6 @@ namespace vexelbase::memory
 {
 
 class CMemoryPainter;
-class CMemorySystem;
 
 /// Hears every call that is made on a painter of the memory backend.
 class VEXEL_MEMORY_API IPaintRecorder
@@ -20,6 +19,9 @@ public:
     /// draws inside a DrawStringEx, else 0.
     virtual void PainterCalled(CMemoryPainter& painter, int depth, std::string const& call) = 0;
 };
+
+/// Takes the recorder of all painters of the backend; not owned, null: nobody. Returns the one before.
+VEXEL_MEMORY_API IPaintRecorder* SetPaintRecorder(IPaintRecorder* recorder);
 
 /// The painter of windows and pictures in memory. Tells the recorder, if there is one, of each call before it is
 /// carried out; calls that the painter makes on itself are left out, and so are queries and texts that are only measured.

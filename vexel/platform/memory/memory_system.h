@@ -16,7 +16,6 @@ namespace vexelbase::memory
 
 class CRunnerQueue;
 class CTimerQueue;
-class IPaintRecorder;
 
 /// A machine in memory: nothing in it happens by itself. Time passes in Advance, background work runs in RunBackground,
 /// posted work in RunQueues, frames in CMemoryWindow::RunFrame, and the user's mouse and keyboard are operations of this
@@ -61,9 +60,6 @@ public:
     void SetScale(double scale);              ///< The default font follows in its pixels, not in its points.
     void SetMetric(int metric, int pixels);   ///< Both are 16 at first, at any scale.
     CMemoryPalette& GetMemoryPalette() { return m_Palette; }
-    /// Told of the calls of all painters; null: nobody. Not owned.
-    void SetPaintRecorder(IPaintRecorder* recorder) { m_Recorder = recorder; }
-    IPaintRecorder* GetPaintRecorder() const { return m_Recorder; }
 
     // The user's mouse: screen pixels -----------------------------------------------------------------------------
     void MovePointer(point<int> const& screen);  ///< No event where the position is the same.
@@ -133,8 +129,11 @@ private:
     };
 
     void NodeGone(CMemoryNode* node);
+    void NodeHidden(CMemoryNode* node);
     CMemoryNode* PointerTarget();
     void SettlePointer();
+    void CloseOtherPopups(CMemoryNode* pressed);
+    bool IsPopup(CMemoryNode* node) const;
     CMouseEvent MakeMouseEvent(CMemoryNode& node, MouseButton button) const;
     MouseButton GetHeldButton() const;
 
@@ -145,7 +144,6 @@ private:
     double m_Scale = 1.0;
     int m_Metrics[2] = {16, 16};
     CMemoryPalette m_Palette;
-    IPaintRecorder* m_Recorder = nullptr;
     CPointer m_Pointer{*this};
     CClipboard m_Clipboard;
 

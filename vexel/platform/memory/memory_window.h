@@ -4,6 +4,8 @@
 #include "vexel/platform/base_window.h"
 #include "vexel/platform/memory/memory_node.h"
 
+#include <atomic>
+#include <memory>
 #include <string>
 
 namespace vexelbase::memory
@@ -38,8 +40,9 @@ public:
     /// Runs the pending frame if there is one, the window is visible and its drawing isn't locked. Returns whether it ran.
     bool RunFrame();
     void LoseSurface();                              ///< The next paint, asked for at once, is a full one.
-    void RunPosted() { RunQueue(); }                 ///< What is queued now.
+    int RunPosted();                                 ///< What is queued now. Returns how many runnables ran.
     int GetPostedCount() const;
+    void DropPosted();                               ///< Deletes what is queued, unrun.
     /// Asks the control for a tip at the pointer. Returns whether one is shown now.
     bool AskTooltip();
     void AskContextMenu();                           ///< At the pointer.
@@ -51,6 +54,7 @@ public:
     bool IsTracking() const { return m_Tracking; }   ///< Asked for hover and leave since the pointer came in.
     STooltip const& GetTooltip() const { return m_Tooltip; }
     int GetFrameCount() const { return m_Frames; }   ///< Native paints so far.
+    static int GetCount();                           ///< Living windows of the process.
 
     // From ISysWindow ---------------------------------------------------------------------------------------------
     void SetFocus() override;
@@ -66,6 +70,7 @@ public:
     vexel_ptr<IEdit> CreateEdit(bool option) override;
     vexel_ptr<IComboBox> CreateComboBox(bool editable) override;
     vexel_ptr<IPopup> CreatePopup() override;
+    void Post(IRunnable* runnable) override;
 
     // From CMemoryNode --------------------------------------------------------------------------------------------
     CMemoryWindow* GetWindowNode() override { return this; }
@@ -86,15 +91,27 @@ protected:  // From CBaseWindow
     void PresentDamage() override;
     void WakeQueue() override {}
     void AfterPaint() override;
+    std::unique_ptr<CBasePainter> CreatePainter(CRasterDevice& device) override;
 
 private:
-    void FillTooltipEvent(CTooltipEvent& event) const;
+    class CPosted;
+    struct SQueueCounts
+    {
+        std::atomic<int> waiting{0};
+        std::atomic<int> ran{0};
+        std::atomic<bool> dropping{false};
+    };
+
+    point<int> GetPointer() const;  // window pixels
+    bool ShowsTooltipAt(point<int> const& position) const;
 
     int m_Cursor = 1;
     bool m_Tracking = false;
     bool m_Destroyed = false;
+    bool m_PressedHere = false;
     STooltip m_Tooltip;
     int m_Frames = 0;
+    std::shared_ptr<SQueueCounts> m_QueueCounts = std::make_shared<SQueueCounts>();
 };
 
 } // namespace vexelbase::memory
