@@ -36,10 +36,13 @@ public:
     // Text: one unbroken run, UTF-8, ill-formed bytes shown as replacement characters ------------------------------
     struct SRun
     {
-        font const* textFont = nullptr;  ///< Effective: size set, not default.
+        font const* textFont = nullptr;  ///< Effective: family and size set, the size already multiplied by the factor.
         char const* text = nullptr;
         int length = 0;
-        int x = 0;  ///< Left-top of the upright run; the run is turned about this point by the font's rotation.
+        /// Left-top of the upright run; the run is turned about this point by the font's rotation. The point is a corner
+        /// between pixels: a run of width w and height h covers the columns x to x + h - 1 and the rows y - w to y - 1
+        /// at rotation 900, and the columns x - h to x - 1 and the rows y to y + w - 1 at 2700.
+        int x = 0;
         int y = 0;
         std::uint32_t pixel = 0xFF000000u;
         rectangle<int> clip;
