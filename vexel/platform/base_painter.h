@@ -5,6 +5,8 @@
 #include "vexel/platform/paint_device.h"
 #include "vexel/platform/painter.h"
 
+#include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,9 +21,14 @@ public:
     CBasePainter(IPaintDevice& device, bool picture);
     ~CBasePainter() override;
 
-    /// The next ssPaint bracket is a full paint: the surface is new, resized or lost content.
-    void RequestFullPaint() { m_FullPaint = true; }
+    /// The next ssPaint bracket is a full paint: the surface is new, resized or lost content. Asked for within a
+    /// bracket, it holds for the rest of that and for the next one.
+    void RequestFullPaint();
     IPaintDevice& GetDevice() { return m_Device; }
+    int GetBracketDepth() const { return m_Depth; }
+    /// Ends the brackets above this depth, which an exception has left open. A paint so ended is not a full one: the
+    /// full-paint question stays as it was.
+    void AbandonBrackets(int depth);
 
     // From IPainter -----------------------------------------------------------------------------------------------
     void BeginPaint(StdSettings settings) override;
@@ -92,24 +99,49 @@ protected:
     /// The device rectangle (half-open) of an inclusive logical one: corners mapped, ordered, rounded down.
     rectangle<int> ToDevice(double left, double top, double right, double bottom) const;
     point<int> ToDevice(double x, double y) const;
-    void FillDevice(rectangle<int> const& area, std::uint32_t pixel, RasterOperation operation);
+    /// Fills what the clip leaves of the area.
+    void FillDevice(rectangle<int> const& area, std::uint32_t pixel, RasterOperation operation)
+    {
+        m_Clip.ForEach(area, [&](rectangle<int> const& part) { m_Device.Fill(part, pixel, operation); });
+    }
 
 private:
-    // One axis of the mapping: device = offset + logical * ratio.
+    // One axis of the mapping: device = device origin + (logical - logical origin) * device extent / logical extent.
+    // The division comes last, so that whole pixels stay whole.
     struct SAxis
     {
-        double offset = 0;
-        double ratio = 1;
+        double logicalOrigin = 0;
+        double deviceOrigin = 0;
+        double logicalExtent = 1;
+        double deviceExtent = 1;
+        bool oneToOne = true;
+
+        double Map(double value) const
+        {
+            double const distance = value - logicalOrigin;
+            return deviceOrigin + (oneToOne ? distance : distance * deviceExtent / logicalExtent);
+        }
+        double MapExtent(double value) const { return oneToOne ? value : value * deviceExtent / logicalExtent; }
+        double Unmap(double value) const
+        {
+            double const distance = value - deviceOrigin;
+            return logicalOrigin + (oneToOne ? distance : distance * logicalExtent / deviceExtent);
+        }
+        double UnmapExtent(double value) const { return oneToOne ? value : value * logicalExtent / deviceExtent; }
     };
-    // What an inner bracket keeps of the outer one.
+    // What a bracket keeps to put back at its end.
     struct SSaved
     {
-        MapMode mode;
+        MapMode mode = mmDevice;
         CoordInfo info;
         CClipRegion clip;
         font textFont;
-        StdSettings settings;
+        StdSettings settings = ssMeasure;
     };
+    // Memory of the shapes, kept from one to the next.
+    struct SScratch;
+    class CFillSink;
+    class CUnionSink;
     // Where and how the text frame of the string being drawn lies on the device.
     struct STextFrame
     {
@@ -118,12 +150,23 @@ private:
     };
 
     void UpdateMapping();
+    void ResetTools();
+    void CloseBracket(bool completed);
+    SScratch& Scratch();
+    template <class Draw> void DrawOutline(bool overlaps, Draw draw);
+    rectangle<int> GetVisible() const;
+    bool HasBrush() const { return m_Brush.style != brush::bsNone && !m_Brush.color.m_None; }
+    bool HasPen() const { return m_Pen.style != pen::psNone && !m_Pen.color.m_None; }
+    CPixelBuffer const& PrepareSource(CPixelBuffer const& pixels, rectangle<int>& source);
     font const& EffectiveFont() const;
 
     IPaintDevice& m_Device;
     bool const m_Picture;
     bool m_FullPaint = true;
-    std::vector<SSaved> m_Brackets;
+    bool m_FullPaintAnew = false;  // asked for since the outermost ssPaint bracket began
+    int m_Depth = 0;
+    int m_PaintDepth = 0;             // ssPaint brackets among them
+    std::vector<SSaved> m_Brackets;   // at least m_Depth; those above keep their memory
 
     MapMode m_Mode = mmDevice;
     CoordInfo m_Info;
@@ -139,6 +182,7 @@ private:
     RasterOperation m_DrawMode = roCopy;
     point<double> m_Position;
     STextFrame m_Frame;
+    std::unique_ptr<SScratch> m_Scratch;
 };
 
 } // namespace vexelbase
