@@ -25,18 +25,22 @@ public:
     virtual void Fill(rectangle<int> const& area, std::uint32_t pixel, IPainter::RasterOperation operation) = 0;
     virtual std::uint32_t ReadPixel(int x, int y) const = 0;  ///< White outside the surface.
     /// Draws `source` (a part of `picture`) stretched over `target` (nearest pixel), only what lies in `clip`.
+    /// What lies beyond the picture draws nothing. The picture is never the device's own target.
     virtual void Blit(rectangle<int> const& target, rectangle<int> const& clip, CPixelBuffer const& picture,
                       rectangle<int> const& source, IPainter::RasterOperation operation) = 0;
-    /// Blends one to one: pixel (x, y) of `area` with (x - origin.x, y - origin.y) of the picture.
+    /// Blends one to one: pixel (x, y) of `area` with (x - origin.x, y - origin.y) of the picture. `alpha`: 0 to 255.
+    /// What lies beyond the picture blends nothing. The picture is never the device's own target.
     virtual void Blend(rectangle<int> const& area, CPixelBuffer const& picture, point<int> const& origin,
                        int alpha) = 0;
-    /// Copies `area` of the surface to `position` of the picture.
+    /// Copies `area` of the surface to `position` of the picture; what lies beyond either is left out.
     virtual void Extract(rectangle<int> const& area, CPixelBuffer& picture, point<int> const& position) = 0;
+    /// The pixels that are painted on, so that a picture drawn onto itself is recognized; null if there are none.
+    virtual CPixelBuffer const* GetTarget() const { return nullptr; }
 
     // Text: one unbroken run, UTF-8, ill-formed bytes shown as replacement characters ------------------------------
     struct SRun
     {
-        font const* textFont = nullptr;  ///< Effective: family and size set, the size already multiplied by the factor.
+        font const* textFont = nullptr;  ///< Effective: family and size set; the factor is still to be applied.
         char const* text = nullptr;
         int length = 0;
         /// Left-top of the upright run; the run is turned about this point by the font's rotation. The point is a corner

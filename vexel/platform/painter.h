@@ -30,7 +30,7 @@ public:
     };
 
     /// device = device origin + (logical - logical origin) * device extent / logical extent, on each axis.
-    /// A negative extent turns the axis round; a logical extent of 0 counts as ratio 1.
+    /// A negative extent turns the axis round; where an extent is 0 or no number the ratio is 1.
     struct CoordInfo
     {
         bool m_Flag1 = false;
@@ -92,7 +92,8 @@ public:
     virtual ~IPainter();
 
     // Bracket -----------------------------------------------------------------------------------------------------
-    /// Every use stands between these two. An inner bracket keeps and restores mapping, clip and font of the outer one.
+    /// Every use stands between these two; they may nest. Each end puts back mapping, clip and font as they were at its
+    /// beginning. The outermost ssPaint also starts with all tools and modes at their defaults.
     virtual void BeginPaint(StdSettings settings) = 0;
     virtual void EndPaint() = 0;
     /// True if what the surface shows is not what was last painted (new, resized, content lost), so that everything
@@ -117,7 +118,9 @@ public:
     virtual rectangle<double> GetClipRect() const = 0;
     /// Logical, edges included. Narrows the present clip to the rectangle, or takes the rectangle out of it (`exclude`).
     virtual void SetClipRect(double left, double top, double right, double bottom, bool exclude) = 0;
-    /// Device, right and bottom excluded; fractions round outward. Replaces the present clip (or takes the rectangle out).
+    /// Device, right and bottom excluded; fractions round outward. Replaces the present clip, or takes the rectangle out
+    /// of it (`exclude`). What GetClipRect returned is put back faithfully: all zero means no clip, any other rectangle
+    /// without area that nothing may be painted.
     virtual void SimpleSetClipRect(rectangle<double> const& rect, bool exclude) = 0;
     /// Drops the clip. Whoever calls it clears m_ClipCache right after.
     virtual void ResetClip() = 0;
