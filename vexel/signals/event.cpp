@@ -1,0 +1,8 @@
+#include "vexel/signals/event.h"
+
+namespace vexelbase
+{
+
+CEvent::~CEvent() = default;
+
+}  // namespace vexelbase
