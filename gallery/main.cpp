@@ -144,11 +144,8 @@ int Main(int argc, char** argv)
     return app.Run();
 }
 
-} // namespace
+}  // namespace
 
-} // namespace gallery
+}  // namespace gallery
 
-int main(int argc, char** argv)
-{
-    return gallery::Main(argc, argv);
-}
+int main(int argc, char** argv) { return gallery::Main(argc, argv); }
