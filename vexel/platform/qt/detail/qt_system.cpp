@@ -17,7 +17,8 @@
 #include <QScreen>
 #include <QStyle>
 
-#include <cmath>
+#include <algorithm>
+#include <cstdlib>
 
 namespace vexelbase::qt
 {
@@ -144,7 +145,7 @@ font CQtSystem::GetDefaultFont()
         QScreen const* const screen = QGuiApplication::primaryScreen();
         points = native.pixelSize() * 72.0 / (screen ? screen->logicalDotsPerInchY() : 96.0);
     }
-    result.size = std::max(1, ToInt(std::lround(points)));
+    result.size = std::max(1, qRound(points));
     if (native.bold())
         result.style |= font::fsBold;
     if (native.italic())

@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace vexelbase::qt
@@ -125,7 +126,7 @@ CQtDevice& CQtWindow::GetQtDevice()
 
 size<int> CQtWindow::GetWantedSize() const
 {
-    auto const pixels = [this](int extent) { return ToInt(std::lround(std::max(0, extent) * m_Ratio)); };
+    auto const pixels = [this](int extent) { return ToInt(std::round(std::max(0, extent) * m_Ratio)); };
     return {pixels(m_Widget->width()), pixels(m_Widget->height())};
 }
 
