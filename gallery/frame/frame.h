@@ -34,7 +34,8 @@ public:
         bool repaints = false;
     };
 
-    explicit CFrame(CBaseControl& control, SHooks hooks = {}, SState const& state = {});
+    explicit CFrame(CBaseControl& control, SHooks hooks = {});
+    CFrame(CBaseControl& control, SHooks hooks, SState const& state);
     ~CFrame() override;
 
     SState GetState() const;
