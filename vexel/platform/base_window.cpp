@@ -268,18 +268,8 @@ void CBaseWindow::StartDestroying()
 
     CWindowEvent event;
     Deliver(&CVexelControl::OnDestroy, &event);
-    if (life.expired() || !m_Target)
-        return;
-    try
-    {
-        m_Target->SetSysWindow(nullptr);
-    }
-    catch (...)
-    {
-        ReportException();
-    }
-    if (!life.expired())
-        m_Target = nullptr;
+    if (!life.expired() && m_Target)
+        std::exchange(m_Target, nullptr)->ForgetWindow();
 }
 
 } // namespace vexelbase
