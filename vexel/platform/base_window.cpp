@@ -13,6 +13,9 @@ namespace vexelbase
 
 CBaseWindow::~CBaseWindow()
 {
+    // Still there if the window is deleted by its own OnDestroy.
+    if (m_Target)
+        m_Target->ForgetWindow();
     CloseQueue();
 }
 
