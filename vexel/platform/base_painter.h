@@ -142,12 +142,38 @@ private:
     struct SScratch;
     class CFillSink;
     class CUnionSink;
-    // Where and how the text frame of the string being drawn lies on the device.
+    // How the frame of the text under way lies on the device: turned about a pivot, which both have in common.
     struct STextFrame
     {
-        point<int> origin;
-        bool active = false;
+        point<int> pivot;
+        int rotation = 0;  // 0 to 3599
+        double cosine = 1;
+        double sine = 0;
+        bool cut = false;  // to the half-open rectangle `limit`
+        rectangle<int> limit;
+        bool ownColor = false;  // what formatters set doesn't count
+        _color color;
+
+        point<int> ToDevice(int x, int y) const;
     };
+    // One line of the text being laid out.
+    struct STextLine
+    {
+        int start = 0;  // from the text's begin
+        int length = 0;
+        int width = 0;
+    };
+    // The lines of one text: a part of m_TextLines, which nested texts use as a stack.
+    struct STextLayout
+    {
+        std::size_t first = 0;
+        int lineCount = 0;   // all lines
+        int keptCount = 0;   // those that are in m_TextLines
+        int width = 0;       // of the widest line, unshortened
+        int lineHeight = 0;
+    };
+    struct STextPlace;
+    class CTextScope;
 
     void UpdateMapping();
     void ResetTools();
@@ -159,6 +185,16 @@ private:
     bool HasPen() const { return m_Pen.style != pen::psNone && !m_Pen.color.m_None; }
     CPixelBuffer const& PrepareSource(CPixelBuffer const& pixels, rectangle<int>& source);
     font const& EffectiveFont() const;
+    fontmetrics const& EffectiveMetrics() const;
+    rectangle<double> ToDeviceBox(rectangle<double> const& rect) const;
+    size<double> DeviceTextSize(int width, double height, bool rotated) const;
+    size<double> ToLogicalSize(size<double> const& extent) const;
+    size<double> LayOutAndDraw(rectangle<double> const& rect, char const* text, int length, int flags,
+                               char const* delimiters, ITextFormatter& formatter);
+    STextLayout LayOut(char const* text, int length, int maxWidth, char const* delimiters, ITextFormatter& formatter,
+                       int kept);
+    void DrawLines(STextLayout const& layout, STextPlace const& place, char const* text, int flags,
+                   ITextFormatter& formatter);
 
     IPaintDevice& m_Device;
     bool const m_Picture;
@@ -183,6 +219,12 @@ private:
     point<double> m_Position;
     STextFrame m_Frame;
     std::unique_ptr<SScratch> m_Scratch;
+    std::vector<STextLine> m_TextLines;
+    font m_MeasuredFont;                   // memory of GetTextSize
+    mutable font m_EffectiveFont;          // valid while m_EffectiveStamp is the present stamp
+    mutable fontmetrics m_EffectiveMetrics;
+    mutable unsigned m_EffectiveStamp = 0;  // 0: to be found anew
+    mutable unsigned m_MetricsStamp = 0;
 };
 
 } // namespace vexelbase

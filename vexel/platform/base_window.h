@@ -45,8 +45,13 @@ public:
 
 protected:
     CBaseWindow() = default;
-    /// To be called once by the backend's constructor.
+    /// To be called once by the backend's constructor. Takes the painter from CreatePainter.
     void SetDevice(std::unique_ptr<CRasterDevice> device);
+    /// Makes the painter on the device; a backend may give one of its own.
+    virtual std::unique_ptr<CBasePainter> CreatePainter(CRasterDevice& device)
+    {
+        return std::make_unique<CBasePainter>(device, false);
+    }
 
     // For the backend ---------------------------------------------------------------------------------------------
     virtual void RequestFrame() = 0;    ///< A frame is wanted: call PaintFrame later, once. Never called while locked.

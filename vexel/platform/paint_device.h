@@ -40,7 +40,7 @@ public:
     // Text: one unbroken run, UTF-8, ill-formed bytes shown as replacement characters ------------------------------
     struct SRun
     {
-        font const* textFont = nullptr;  ///< Effective: family and size set, the size already multiplied by the factor.
+        font const* textFont = nullptr;  ///< Effective: family and size set; the factor is still to be applied.
         char const* text = nullptr;
         int length = 0;
         /// Left-top of the upright run; the run is turned about this point by the font's rotation. The point is a corner

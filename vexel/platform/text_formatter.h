@@ -3,9 +3,8 @@
 #include "vexel/export.h"
 #include "vexel/platform/painter.h"
 
+#include <cstddef>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace vexelbase
 {
@@ -75,7 +74,7 @@ private:
         int targetLength = 0;
         bool told = false;  // the target was handed to OnDrawLink
 
-        int Style() const;
+        int GetStyle() const;
     };
     // A place where a line may end.
     struct SBreak
@@ -86,19 +85,21 @@ private:
         SState state;
     };
 
-    char const* EndFor(char const* text) const;
-    /// Applies the tag at `text` to the state; returns its length, 0 if there is none. Sets `lineBreak` for <br>.
+    /// Applies the tag at `text`, if there is one, to the state; returns its length. Sets `lineBreak` for <br>.
     static int ReadTag(char const* text, char const* end, SState& state, bool& lineBreak);
-    /// Resolves what stands from `text` to the next word end into m_Run; returns its length in the source, at most
-    /// `limit` resolved characters of it.
+    /// Resolves the text up to the next word end, tag or line feed into m_Run, at most `limit` characters of it. Returns
+    /// its length in the source.
     int ReadRun(char const* text, char const* end, char const* delimiters, std::size_t limit);
-    void ApplyStyle(IPainter* painter, int style);
+    int MeasureRun(IPainter* painter);
     int MeasureLine(IPainter* painter, char const* text, char const* end, SState state);
-    void DrawLinkPart(IPainter* painter, int x, int y, int width);
+    void ApplyStyle(IPainter* painter, int style);
+    int GetBaselineShift(IPainter* painter) const;
+    void DrawLinkPart(IPainter* painter, int x, int y);
 
     SState m_State;
     bool m_Active = false;  // between BeforeFormatting and AfterFormatting
     font m_BaseFont;
+    fontmetrics m_BaseMetrics;
     font m_StyledFont;
     int m_Style = 0;  // what the painter's font has beyond the base font
     _color m_BaseColor;
