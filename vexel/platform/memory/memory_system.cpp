@@ -347,7 +347,7 @@ void CMemorySystem::SetHeldKeys(int keys)
     m_Keys = keys & (ksShift | ksControl | ksAlt);
 }
 
-bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise)
+bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise, bool* passOn)
 {
     CMemoryNode* const target = m_Focus ? m_Focus : otherwise;
     if (!target)
@@ -355,6 +355,8 @@ bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise)
     std::weak_ptr<int> const life = target->GetNodeLife();
     CKeyboardEvent event(GetKeyState(), virtualKey);
     bool const done = target->NodeKeyDown(event);
+    if (passOn)
+        *passOn = event.m_PassOn;
     if (!done && virtualKey == vkTab && !(m_Keys & (ksControl | ksAlt)) && !life.expired())
         TabFrom(target, !(m_Keys & ksShift));
     SettlePointer();
