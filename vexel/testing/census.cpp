@@ -24,8 +24,6 @@ struct SBaseline
 {
     SMemoryCounts counts;
     vexelbase::ISystem* system = nullptr;
-    double scale = 1.0;
-    bool autoScale = true;
 };
 
 SBaseline& Baseline()
@@ -63,15 +61,21 @@ std::string ListLivingElements()
     return text;
 }
 
+void PutBack()
+{
+    if (CMemorySystem* const system = detail::FindKitSystem())
+        system->Reset();
+    vexelbase::SetDPIAutoScale(true);
+    CElementWatch::Get().ForgetAll();
+    detail::ForgetElementNames();
+}
+
 } // namespace
 
 void CCensus::Begin()
 {
-    CMemorySystem& system = detail::KitSystem();
-    system.Reset();
-    vexelbase::SetDPIAutoScale(true);
-    detail::ForgetElementNames();
-    CElementWatch::Get().ForgetAll();
+    CAssertionWatch::Install();  // a test may have put another reporter in its place
+    PutBack();
     Baseline() = {vexelbase::memory::GetMemoryCounts(), vexelbase::GetCurrentSystem()};
 }
 
@@ -94,16 +98,13 @@ std::vector<std::string> CCensus::Look()
     AddLine(lines, now.nativeControls - before.nativeControls, "native control", "native controls");
     AddLine(lines, now.popups - before.popups, "popup", "popups");
 
-    if (vexelbase::GetCurrentSystem() != Baseline().system)
-    {
-        lines.push_back("the current system was left changed");
+    CMemorySystem* const system = detail::FindKitSystem();
+    if (!system)
         return lines;
-    }
-    CMemorySystem& system = detail::KitSystem();
-    if (system.GetCaptureNode())
+    if (system->GetCaptureNode())
         lines.push_back("the mouse capture was left taken");
-    AddLine(lines, system.GetRunningRunners(), "piece of background work", "pieces of background work");
-    AddLine(lines, system.GetPostedCount(), "posted runnable", "posted runnables");
+    AddLine(lines, system->GetRunningRunners(), "piece of background work", "pieces of background work");
+    AddLine(lines, system->GetPostedCount(), "posted runnable", "posted runnables");
     return lines;
 }
 
@@ -111,10 +112,7 @@ std::vector<std::string> CCensus::End()
 {
     std::vector<std::string> lines = Look();
     vexelbase::SetCurrentSystem(Baseline().system);
-    detail::KitSystem().Reset();
-    vexelbase::SetDPIAutoScale(true);
-    CElementWatch::Get().ForgetAll();
-    detail::ForgetElementNames();
+    PutBack();
     return lines;
 }
 
@@ -128,11 +126,15 @@ void InstallKit()
     static bool installed = false;
     if (std::exchange(installed, true))
         return;
-    detail::KitSystem();
     CElementWatch::Get().Install();
     CAssertionWatch::Install();
+    if (WarmUps().empty())
+        return;
+    vexelbase::ISystem* const before = vexelbase::GetCurrentSystem();
+    detail::KitSystem();
     for (void (*const function)() : WarmUps())
         function();
+    vexelbase::SetCurrentSystem(before);
 }
 
 } // namespace vexel::test

@@ -55,6 +55,7 @@ public:
     bool HasControl() const { return m_Control != nullptr; }
     vexelbase::memory::CMemoryWindow& Window() const { return *m_Window; }
     bool HasWindow() const { return m_Window != nullptr; }
+    /// The memory system, which it makes the current one if there is none. Needs no host.
     static vexelbase::memory::CMemorySystem& System();
     CTestClock& Clock() { return m_Clock; }
     CMouse& Mouse() { return m_Mouse; }

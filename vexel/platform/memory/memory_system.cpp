@@ -186,6 +186,11 @@ int CMemorySystem::GetSystemMetric(int metric)
     return metric == smScrollBarWidth || metric == smScrollBarHeight ? m_Metrics[metric] : 0;
 }
 
+rectangle<int> CMemorySystem::GetWorkArea(point<int> const&)
+{
+    return {0, 0, ScreenSize.width, ScreenSize.height};
+}
+
 vexel_ptr<ISysTimer> CMemorySystem::CreateTimer(int period, int)
 {
     return MakeRef<CMemoryTimer>(m_Timers, period);

@@ -100,6 +100,7 @@ public:
     font GetDefaultFont() override;              ///< "Square", sans, size 8.
     int GetSystemMetric(int metric) override;
     double GetScale() override { return m_Scale; }
+    rectangle<int> GetWorkArea(point<int> const& screen) override;  ///< The whole screen.
     vexel_ptr<ISysTimer> CreateTimer(int period, int option) override;
     vexel_ptr<IRasterPicture> CreateRasterPicture(size<int> const& pictureSize) override;
     vexel_ptr<IRasterPicture> CreateRasterPicture(XPMBuf const& buffer) override;

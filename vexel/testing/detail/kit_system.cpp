@@ -3,15 +3,30 @@
 namespace vexel::test::detail
 {
 
+namespace
+{
+// Never deleted: class-wide timers and pictures, and statics of tests, may outlive all else.
+vexelbase::memory::CMemorySystem* g_Own = nullptr;
+} // namespace
+
+vexelbase::memory::CMemorySystem* FindKitSystem()
+{
+    auto* const current = dynamic_cast<vexelbase::memory::CMemorySystem*>(vexelbase::GetCurrentSystem());
+    return current ? current : g_Own;
+}
+
 vexelbase::memory::CMemorySystem& KitSystem()
 {
-    if (auto* const current = dynamic_cast<vexelbase::memory::CMemorySystem*>(vexelbase::GetCurrentSystem()))
-        return *current;
-    // Never deleted: class-wide timers and pictures, and statics of tests, may outlive all else.
-    static auto* const own = new vexelbase::memory::CMemorySystem;
-    if (!vexelbase::GetCurrentSystem())
-        vexelbase::SetCurrentSystem(own);
-    return *own;
+    vexelbase::ISystem* const current = vexelbase::GetCurrentSystem();
+    if (!FindKitSystem())
+    {
+        g_Own = new vexelbase::memory::CMemorySystem;
+        if (current)
+            vexelbase::SetCurrentSystem(current);
+    }
+    else if (!current)
+        vexelbase::SetCurrentSystem(g_Own);
+    return *FindKitSystem();
 }
 
 } // namespace vexel::test::detail
