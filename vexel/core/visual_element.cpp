@@ -3,6 +3,7 @@
 #include "vexel/core/control.h"
 #include "vexel/core/detail/element_parts.h"
 #include "vexel/core/dpi.h"
+#include "vexel/core/element_observer.h"
 #include "vexel/platform/sys_window.h"
 #include "vexel/signals/assertion.h"
 
@@ -17,6 +18,8 @@ unsigned long CVisualElement::s_DestroyCount = 0;
 CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, Alignment alignment)
     : m_Size(extent), m_Alignment(alignment), m_Children(this)
 {
+    if (IElementObserver* const observer = GetElementObserver())
+        observer->ElementMade(this);
     ApplyDPIScale(m_Size);
     try
     {
@@ -42,6 +45,8 @@ CVisualElement::~CVisualElement()
 // The last steps of an element's life: nobody knows it afterwards.
 void CVisualElement::Withdraw() noexcept
 {
+    if (IElementObserver* const observer = GetElementObserver())
+        observer->ElementGone(this);
     m_Destroying = true;
     if (m_Parent)
     {
