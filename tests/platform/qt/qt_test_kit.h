@@ -202,6 +202,7 @@ class CHosted
 public:
     explicit CHosted(int width = 100, int height = 80)
     {
+        m_Top.setWindowFlags(Qt::FramelessWindowHint);  // then it stands where it is put
         m_Top.resize(width, height);
         m_Window = HostWindow(&m_Top);
         m_Control = std::make_unique<CRecorder>(m_Window.get());
