@@ -71,8 +71,7 @@ public:
     void OnCustomEvent(CCustomEvent* event) override;
 
 private:
-    template <class Event>
-    void Pass(Event* event, void (CBaseControlImp::*process)(Event*), void (CVexelControl::*base)(Event*));
+    template <class Process, class Base> void Pass(Process const& process, Base const& base);
 
     CBaseControlImp* m_Imp = nullptr;  // null while it is being deleted
     bool m_CopyShortcut = false;

@@ -12,6 +12,7 @@
 #include "vexel/platform/ref_ptr.h"
 #include "vexel/signals/signal.h"
 
+#include <memory>
 #include <string>
 
 namespace vexel
@@ -107,27 +108,28 @@ private:
         mfRefused = 256           // no new attempt until the button comes up
     };
 
-    // A layout pass on the stack; elements that die are taken out of its entries.
     struct SPass;
-    class CPaint;
     class CFlagScope;
 
     ISysWindow* FindWindow() const;
+    void SetWindowCursor(int cursor) const;
     CVisualElement* GetMouseTarget() const { return m_Capture ? m_Capture : m_Root; }
     CVisualElement* GetKeyTarget() const { return m_FocusedElement ? m_FocusedElement : m_Root; }
     CVisualElement* GetTabWalker(CVisualElement* from) const;
     void Forget(CVisualElement* element);
     void HandleRootDestroy(CVisualElement* root);
-    void WatchRoot(CVisualElement* root);
+    void ReleaseRoot();
 
-    bool LayOutForPaint();
-    void PaintTree(IPainter* painter, ISysWindow* window);
-    void PrepareDragBackground(IPainter* painter);
-    void DrawDragItem(IPainter* painter);
+    void LayOutForPaint();
+    void PaintTree(IPainter* painter);
+    void PaintDragBackground(IPainter* painter);
+    void PaintDragItem(IPainter* painter);
 
-    void TryStartDrag(point<int> const& position);
+    void LeaveMouseElement(CVisualElement* next);
+    void TryStartDrag();
     void MoveDrag(point<int> const& position);
-    void FinishDrag(CVisualElement* dragged, point<int> const& position);
+    void FinishDrag(CVisualElement* draggedElement, point<int> const& position);
+    void FocusFirst();
 
     CBaseControl* const m_Host;
     CVisualElement* m_Root = nullptr;  // owned if dynamic
@@ -140,7 +142,7 @@ private:
     CVisualElement* m_TabHandler = nullptr;
     CElementList m_Updates;     // wait for a repaint
     CElementList m_Rearranges;  // their children wait for a layout
-    SPass* m_Passes = nullptr;
+    SPass* m_Passes = nullptr;  // layout passes on the stack, innermost first
     bool m_FullUpdate = false;  // the next paint paints everything
     bool m_RearrangeNeeded = true;
     bool m_RearrangeAgain = false;  // asked for during a layout
@@ -153,7 +155,7 @@ private:
     CVisualElement* m_PressedElement = nullptr;
     vexel_ptr<IRasterPicture> m_DragBackground;
     size<int> m_DragStartSensitivity{2, 2};
-    DragInfo m_DragInfo;
+    std::shared_ptr<DragInfo> m_DragInfo;  // shared with the steps of a drag under way, which may outlive the control
     unsigned m_MouseFlags = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexel/core/alive_guard.h"
 #include "vexel/core/fwd.h"
 #include "vexel/export.h"
 
@@ -77,6 +78,7 @@ class VEXEL_API CElementList final : public IVisualElements
 {
 public:
     CElementList() = default;
+    ~CElementList() override { CAliveLink::Forget(this); }
 
     int GetCount() const override { return static_cast<int>(m_Items.size()) - m_Holes; }
     /// Null outside the list, and for what Reduce has taken out.
@@ -89,6 +91,7 @@ public:
     bool Contains(CVisualElement const* element) const;
     /// Sets the entries that have an ancestor in the list to null. The indices stay, and so does the count.
     void Reduce();
+    void DropHidden();  ///< Sets the entries that are not displayable to null.
     void Clear(int keep);  ///< Drops the entries from index `keep` on, all of them if it is below 1.
     /// Takes over the entries of the other list, which is empty afterwards. Keeps the memory of both.
     void TakeFrom(CElementList& other);
@@ -100,13 +103,21 @@ public:
     class CWalk
     {
     public:
-        explicit CWalk(CElementList& list) : m_List(list) { ++m_List.m_Walks; }
-        ~CWalk() { --m_List.m_Walks; }
+        explicit CWalk(CElementList& list) : m_List(&list)
+        {
+            list.Compact();
+            ++list.m_Walks;
+        }
+        ~CWalk()
+        {
+            if (m_List)
+                --m_List->m_Walks;
+        }
         CWalk(CWalk const&) = delete;
         CWalk& operator=(CWalk const&) = delete;
 
     private:
-        CElementList& m_List;
+        CAlivePtr<CElementList> m_List;
     };
 
 private:

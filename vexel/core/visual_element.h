@@ -8,6 +8,7 @@
 #include "vexel/core/types.h"
 #include "vexel/export.h"
 #include "vexel/platform/color.h"
+#include "vexel/platform/convert.h"
 #include "vexel/platform/events.h"
 #include "vexel/platform/font.h"
 #include "vexel/platform/geometry.h"
@@ -186,7 +187,10 @@ public:
     size<int> const& GetSize() const { return m_Size; }     ///< What is asked for when docked.
     void SetWidth(int width, bool scale);    ///< By SetSize; with `scale` the other member is scaled as well.
     void SetHeight(int height, bool scale);
-    rectangle<int> GetBounds() const { return {0, 0, m_Pos.right - m_Pos.left, m_Pos.bottom - m_Pos.top}; }
+    rectangle<int> GetBounds() const
+    {
+        return {0, 0, SubtractSaturated(m_Pos.right, m_Pos.left), SubtractSaturated(m_Pos.bottom, m_Pos.top)};
+    }
     rectangle<int> GetValidRect() const;     ///< The part whose picture still stands; own pixels.
     void SetValidRect(rectangle<int> const& rect) { m_ValidRect = rect; }  ///< Parent's pixels.
     Alignment GetAlignment() const { return m_Alignment; }
@@ -313,10 +317,15 @@ private:
     void LayOutChildren(bool force);
     void SetUpPainter(IPainter* painter) const;
     CVisualElement* RunChangeChain(CVisualElement* element, UpdateType type);
-    void Detach();
-    template <class Fire, class Handle> bool RunKeyChain(bool handled, Fire const& fire, Handle const& handle);
+    void LeaveParent();
+    void Withdraw() noexcept;
+    template <class Fire, class Handle, class Pass>
+    bool RunKeyChain(bool handled, Fire const& fire, Handle const& handle, Pass const& pass);
     template <class Fire> void WalkUpFocus(CVisualElement* element, CVisualElement* other, bool got, Fire const& fire);
     void ForgetKeyDelegates(IControl const* leaving);
+
+    static unsigned long s_TreeVersion;   // changes with every rectangle and parent
+    static unsigned long s_DestroyCount;  // of elements
 
     // What layout, hit tests and painting touch stands close together.
     rectangle<int> m_Pos;

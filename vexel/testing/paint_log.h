@@ -15,7 +15,7 @@ namespace vexel::test
 ///
 ///     SetBrush yellow                     SetBrush none                 (style none)
 ///     SetPen grey                         SetPen red dash 3             (style if not solid, width if not 1)
-///     SetFont "Square" 8 bold italic      SetFont "" 0 rotation 2700 factor 1.3 family 2
+///     SetFont "Square" 8 bold italic      SetFont "" 0 rotation 2700 factor 1.3 family 2   (family if not 1 or 4)
 ///     SetTextColor #1E90FF                SetTextColor none
 ///     FillRect 0 0 99 19                  RoundRect 0 9 20 29 20 20     FocusRect 1.5 2 18 9
 ///     MoveTo 0 4                          LineTo 9 4                    Polygon 0 0 4 4 8 0

@@ -18,6 +18,6 @@ VEXEL_MEMORY_API std::string DescribeCharacter(char value);            ///< 'x'.
 VEXEL_MEMORY_API std::string DescribeColor(_color const& color);       ///< A name of the colour table, or #RRGGBB; "/AA" behind it.
 VEXEL_MEMORY_API std::string DescribePen(pen const& value);            ///< red, red dash 3, none.
 VEXEL_MEMORY_API std::string DescribeBrush(brush const& value);        ///< red, none.
-VEXEL_MEMORY_API std::string DescribeFont(font const& value);          ///< "Square" 8 bold.
+VEXEL_MEMORY_API std::string DescribeFont(font const& value);          ///< "Square" 8 bold; family 1 and 4 go unsaid.
 
 } // namespace vexelbase::memory
