@@ -2,6 +2,7 @@
 
 #include "vexel/core/control.h"
 #include "vexel/core/draw_elements.h"
+#include "vexel/core/element_observer.h"
 #include "vexel/core/scroll_on_set_pos.h"
 #include "vexel/core/visual_element.h"
 #include "vexel/platform/convert.h"
@@ -67,6 +68,8 @@ void CVisualElement::OnDraw(IPainter* painter)
     if (painter->IsFullPaint())
         Invalidate();
 
+    if (IElementObserver* const observer = GetElementObserver())
+        observer->ElementPainted(this, painter);
     CAliveGuard const alive(this);
     CAlivePtr<IPainter> const surface(painter);
     CDisabledMode const disabled(surface, !m_Enabled);
