@@ -13,9 +13,9 @@ void EnableAll(CVisualElement* element, bool enabled)
         EnableAll(element->GetChildren()->GetItem(i), enabled);
 }
 
-CFrame::CFrame(CBaseControl& control, SHooks hooks) : m_Control(control), m_Hooks(std::move(hooks))
+CFrame::CFrame(CBaseControl& control, SHooks hooks, SState const& state) : m_Control(control), m_Hooks(std::move(hooks))
 {
-    Build();
+    Build(state);
     BuildPage();
     CLog::Get().m_SigLine.connect(this, &CFrame::LineWritten);
 }
@@ -23,13 +23,19 @@ CFrame::CFrame(CBaseControl& control, SHooks hooks) : m_Control(control), m_Hook
 // The elements go before the page that they report to.
 CFrame::~CFrame() { m_Control.GetContent()->GetChildren()->Clear(); }
 
-void CFrame::Build()
+CFrame::SState CFrame::GetState() const
+{
+    return {m_List->GetCurrent(), m_Enable->IsOn(), m_Scale && m_Scale->IsOn(), m_Repaints && m_Repaints->IsOn()};
+}
+
+void CFrame::Build(SState const& state)
 {
     CVisualElement* const root = m_Control.GetContent();
     std::vector<std::string> titles;
     for (SPage const& page : GetPages())
         titles.emplace_back(page.title);
     m_List = new CPageList(root, {210, 0}, alLeft, std::move(titles));
+    m_List->SetCurrent(state.page);
     m_List->m_SigChosen.connect(this, &CFrame::PageChosen);
 
     m_Title = new CLabel(root, {0, 34}, alTop, "");
@@ -41,16 +47,18 @@ void CFrame::Build()
 
     auto* const bar = new CPanel(root, {0, 30}, alTop);
     m_Enable = new CToggle(bar, {120, 0}, alLeft, "Enabled");
-    m_Enable->SetOn(true);
+    m_Enable->SetOn(state.enabled);
     m_Enable->m_SigToggled.connect(this, &CFrame::EnableToggled);
     if (m_Hooks.setScale)
     {
         m_Scale = new CToggle(bar, {150, 0}, alLeft, "Twice the size");
+        m_Scale->SetOn(state.twice);
         m_Scale->m_SigToggled.connect(this, &CFrame::ScaleToggled);
     }
     if (m_Hooks.setShowRepaints)
     {
         m_Repaints = new CToggle(bar, {170, 0}, alLeft, "Flash repaints");
+        m_Repaints->SetOn(state.repaints);
         m_Repaints->m_SigToggled.connect(this, &CFrame::RepaintsToggled);
     }
 
@@ -84,8 +92,7 @@ void CFrame::EnableToggled(CToggle*, bool on)
         EnableAll(m_Area->GetChildren()->GetItem(i), on);
 }
 
-// Sizes are scaled when elements are made, so a change of scale makes them anew. Not inside the switch's own signal,
-// which would lose its element: the hook posts it.
+// Sizes are scaled when elements are made, so the hook makes the frame anew; later, since this is the switch's signal.
 void CFrame::ScaleToggled(CToggle*, bool on) { m_Hooks.setScale(on ? 2.0 : 1.0); }
 
 void CFrame::RepaintsToggled(CToggle*, bool on) { m_Hooks.setShowRepaints(on); }

@@ -25,10 +25,19 @@ public:
         std::function<void(bool)> setShowRepaints;
     };
 
-    explicit CFrame(CBaseControl& control, SHooks hooks = {});
+    /// What outlives a frame that is made anew.
+    struct SState
+    {
+        int page = 0;
+        bool enabled = true;
+        bool twice = false;
+        bool repaints = false;
+    };
+
+    CFrame(CBaseControl& control, SHooks hooks, SState const& state);
     ~CFrame() override;
 
-    int GetPage() const { return m_List->GetCurrent(); }
+    SState GetState() const;
     void SetPage(int index);
     CVisualElement* GetPageArea() const { return m_Area; }  ///< Holds the page's elements.
     CToggle* GetEnableSwitch() const { return m_Enable; }
@@ -36,7 +45,7 @@ public:
     CToggle* GetRepaintSwitch() const { return m_Repaints; }  ///< Null without the hook.
 
 private:
-    void Build();
+    void Build(SState const& state);
     void BuildPage();
     void PageChosen(CPageList* list, int index);
     void EnableToggled(CToggle* toggle, bool on);

@@ -17,7 +17,7 @@ IPainter* CBasePicture::GetPainter()
     if (!m_Painter)
     {
         m_Device = CreateDevice(m_Pixels);
-        m_Painter = std::make_unique<CBasePainter>(*m_Device, true);
+        m_Painter = CreatePainter(*m_Device);
     }
     return m_Painter.get();
 }

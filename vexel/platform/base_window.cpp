@@ -1,11 +1,8 @@
 #include "vexel/platform/base_window.h"
 
 #include "vexel/platform/convert.h"
-#include "vexel/signals/cancel_processing.h"
-#include "vexel/signals/event.h"
+#include "vexel/platform/exception_report.h"
 
-#include <cstdio>
-#include <exception>
 #include <utility>
 
 namespace vexelbase
@@ -19,29 +16,12 @@ CBaseWindow::~CBaseWindow()
 void CBaseWindow::SetDevice(std::unique_ptr<CRasterDevice> device)
 {
     m_Device = std::move(device);
-    m_Painter = std::make_unique<CBasePainter>(*m_Device, false);
+    m_Painter = CreatePainter(*m_Device);
 }
 
 void CBaseWindow::ReportException()
 {
-    try
-    {
-        throw;
-    }
-    catch (vexel::cancel_processing const&)
-    {
-    }
-    catch (cancel_processing const&)
-    {
-    }
-    catch (std::exception const& exception)
-    {
-        std::fprintf(stderr, "vexel: an event handler has thrown: %s\n", exception.what());
-    }
-    catch (...)
-    {
-        std::fprintf(stderr, "vexel: an event handler has thrown something\n");
-    }
+    vexelbase::ReportException("an event handler");
 }
 
 // Area and frames --------------------------------------------------------------------------------------------------

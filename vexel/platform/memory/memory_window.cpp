@@ -276,7 +276,6 @@ void CMemoryWindow::NodeMouseMove(CMouseEvent& event)
 void CMemoryWindow::NodeButtonDown(CMouseEvent& event, bool doubled)
 {
     HideTooltip();
-    m_PressedHere = true;
     CMouseEvent second = event;
     std::weak_ptr<int> const life = GetLifeToken();
     Deliver(&CVexelControl::OnButtonDown, &event);
@@ -286,12 +285,7 @@ void CMemoryWindow::NodeButtonDown(CMouseEvent& event, bool doubled)
 
 void CMemoryWindow::NodeButtonUp(CMouseEvent& event)
 {
-    bool const click = std::exchange(m_PressedHere, false);
-    CMouseEvent second = event;
-    std::weak_ptr<int> const life = GetLifeToken();
     Deliver(&CVexelControl::OnButtonUp, &event);
-    if (click && !life.expired())
-        Deliver(&CVexelControl::OnClick, &second);
 }
 
 void CMemoryWindow::NodeWheel(CMouseWheelEvent& event)

@@ -108,7 +108,6 @@ private:
     int m_Cursor = 1;
     bool m_Tracking = false;
     bool m_Destroyed = false;
-    bool m_PressedHere = false;
     STooltip m_Tooltip;
     int m_Frames = 0;
     std::shared_ptr<SQueueCounts> m_QueueCounts = std::make_shared<SQueueCounts>();

@@ -1,6 +1,6 @@
 #include "vexel/platform/memory/detail/timer_queue.h"
 
-#include "vexel/platform/memory/detail/report_exception.h"
+#include "vexel/platform/exception_report.h"
 #include "vexel/platform/events.h"
 #include "vexel/signals/notify.h"
 

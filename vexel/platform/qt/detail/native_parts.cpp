@@ -122,8 +122,6 @@ void CNativeParts::Draw(QImage& image, rectangle<int> const& area, IPainter::Con
     DrawPart(QApplication::style(), element, painter, rect, state);
 }
 
-} // namespace
-
 CNativeParts& CNativeParts::Get()
 {
     static CNativeParts* const parts = new CNativeParts;  // holds nothing of Qt; never destroyed

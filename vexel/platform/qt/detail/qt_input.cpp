@@ -15,10 +15,12 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace vexelbase::qt
 {

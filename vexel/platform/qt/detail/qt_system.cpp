@@ -17,7 +17,8 @@
 #include <QScreen>
 #include <QStyle>
 
-#include <cmath>
+#include <algorithm>
+#include <cstdlib>
 
 namespace vexelbase::qt
 {
@@ -144,7 +145,7 @@ font CQtSystem::GetDefaultFont()
         QScreen const* const screen = QGuiApplication::primaryScreen();
         points = native.pixelSize() * 72.0 / (screen ? screen->logicalDotsPerInchY() : 96.0);
     }
-    result.size = std::max(1, ToInt(std::lround(points)));
+    result.size = std::max(1, qRound(points));
     if (native.bold())
         result.style |= font::fsBold;
     if (native.italic())
@@ -165,7 +166,7 @@ int CQtSystem::GetSystemMetric(int metric)
 double CQtSystem::GetScale()
 {
     QScreen const* const screen = qApp ? QGuiApplication::primaryScreen() : nullptr;
-    return screen ? screen->devicePixelRatio() : 1.0;
+    return (screen ? screen->devicePixelRatio() : 1.0) * m_Zoom;
 }
 
 vexel_ptr<ISysTimer> CQtSystem::CreateTimer(int period, int)
@@ -218,6 +219,12 @@ rectangle<int> CQtSystem::GetWorkArea(point<int> const& screen)
     QRect const area = found->availableGeometry();
     return {FloorToInt(area.x() * scale), FloorToInt(area.y() * scale), FloorToInt((area.x() + area.width()) * scale),
             FloorToInt((area.y() + area.height()) * scale)};
+}
+
+void CQtSystem::SetZoom(double factor)
+{
+    m_Zoom = factor == factor ? std::clamp(factor, 0.25, 8.0) : 1.0;
+    RefreshLook();
 }
 
 void CQtSystem::RefreshLook()
