@@ -48,6 +48,8 @@ CVisualElement::~CVisualElement()
 // The last steps of an element's life: nobody knows it afterwards.
 void CVisualElement::Withdraw() noexcept
 {
+    if (IElementObserver* const observer = GetElementObserver())
+        observer->ElementGone(this);
     m_Destroying = true;
     if (m_Parent)
     {

@@ -65,6 +65,8 @@ void CVisualElement::OnDraw(IPainter* painter)
 {
     if (m_Pos.IsEmpty() || !m_Visible)
         return;
+    if (IElementObserver* const observer = GetElementObserver())
+        observer->ElementPainted(this, painter);
     if (painter->IsFullPaint())
         Invalidate();
 
