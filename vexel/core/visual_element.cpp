@@ -63,8 +63,6 @@ void CVisualElement::Withdraw() noexcept
     DropFont();
     ++s_TreeVersion;
     ++s_DestroyCount;
-    if (IElementObserver* const observer = GetElementObserver())
-        observer->ElementGone(this);
 }
 
 // Tree --------------------------------------------------------------------------------------------------------------------

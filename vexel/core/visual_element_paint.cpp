@@ -70,8 +70,6 @@ void CVisualElement::OnDraw(IPainter* painter)
     if (painter->IsFullPaint())
         Invalidate();
 
-    if (IElementObserver* const observer = GetElementObserver())
-        observer->ElementPainted(this, painter);
     CAliveGuard const alive(this);
     CAlivePtr<IPainter> const surface(painter);
     CDisabledMode const disabled(surface, !m_Enabled);
