@@ -5,6 +5,8 @@
 #include "vexel/signals/notify.h"
 #include "vexel/testing/test_kit.h"
 
+#include <gmock/gmock.h>
+
 #include <functional>
 #include <memory>
 #include <stdexcept>
@@ -159,7 +161,7 @@ TEST_F(MemoryTimer, ATickMayDropTheLastReferenceToItsTimer)
     a.Start();
     m_System.Advance(100);
     EXPECT_EQ(m_Log, "a10");
-    EXPECT_EQ(GetMemoryCounts().timers, 0);
+    EXPECT_THAT(CCensus::Look(), ::testing::IsEmpty());
 }
 
 TEST_F(MemoryTimer, ATickMayDeleteAnotherTimerThatIsDueAtTheSameMoment)

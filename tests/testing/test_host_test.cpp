@@ -112,6 +112,19 @@ TEST(TestHost, AFullPaintDrawsEverythingAnew)
     EXPECT_EQ(paint.GetFrames(), 1);
 }
 
+TEST(TestHost, ComparesWhatWasPaintedByPartsWithAFullPaint)
+{
+    CTestHost host(30, 10);
+    CLamp lamp(host.Root(), {10, 10}, alLeft);
+    lamp.SetBkColor(color_table[4]);
+    EXPECT_EQ(host.CompareWithFullPaint(), "");
+    lamp.SetLit(true);
+    EXPECT_EQ(host.CompareWithFullPaint(), "");
+    host.Window().GetPixels().Row(1)[2] = 0xFF00FF00u;  // as if a pixel had been forgotten
+    EXPECT_THAT(host.CompareWithFullPaint(), ::testing::StartsWith("first difference at (2, 1): "));
+    EXPECT_EQ(host.CompareWithFullPaint(), "");
+}
+
 TEST(TestHost, ANewSizeLaysOutAndPaintsEverything)
 {
     CTestHost host(100, 40);
