@@ -34,7 +34,7 @@ public:
         bool repaints = false;
     };
 
-    explicit CFrame(CBaseControl& control, SHooks hooks = {}, SState const& state = {});
+    CFrame(CBaseControl& control, SHooks hooks, SState const& state);
     ~CFrame() override;
 
     SState GetState() const;

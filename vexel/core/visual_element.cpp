@@ -7,6 +7,7 @@
 #include "vexel/platform/sys_window.h"
 #include "vexel/signals/assertion.h"
 
+#include <cstddef>
 #include <utility>
 
 namespace vexel
@@ -16,7 +17,7 @@ unsigned long CVisualElement::s_TreeVersion = 1;
 unsigned long CVisualElement::s_DestroyCount = 0;
 
 CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, Alignment alignment)
-    : m_Size(extent), m_Alignment(alignment), m_Children(this)
+    : m_Alignment(alignment), m_Size(extent), m_Children(this)
 {
     if (IElementObserver* const observer = GetElementObserver())
         observer->ElementMade(this);
@@ -27,6 +28,7 @@ CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, 
     }
     catch (...)
     {
+        CAliveLink::Forget(this, sizeof *this);
         Withdraw();  // a slot threw, and the destructor won't run
         throw;
     }
@@ -35,7 +37,8 @@ CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, 
 CVisualElement::~CVisualElement()
 {
     m_Destroying = true;
-    CAliveGuard::Forget(this);  // no chain on the stack comes back to what is left
+    m_DestroyTop = m_Parent && m_Parent->m_Destroying ? m_Parent->m_DestroyTop : this;
+    CAliveLink::Forget(this, sizeof *this);  // no chain on the stack comes back to what is left
     m_SigDestroy(this);
     OnChange(this, utRemoved);
     m_Children.Clear();
@@ -60,7 +63,6 @@ void CVisualElement::Withdraw() noexcept
     DropFont();
     ++s_TreeVersion;
     ++s_DestroyCount;
-    CAliveGuard::Forget(this);
 }
 
 // Tree --------------------------------------------------------------------------------------------------------------------
@@ -186,9 +188,15 @@ bool CVisualElement::IsChildrenAvailable(int count) const
 
 CVisualElement* CVisualElement::FindChildAt(int x, int y) const
 {
-    for (CVisualElement* const child : m_Children)
-        if (child->m_Visible && child->m_Pos.Contains(x, y))
-            return child;
+    constexpr std::ptrdiff_t ahead = 8;  // siblings lie far apart in memory: have them fetched in time
+    CVisualElement* const* const end = m_Children.end();
+    for (CVisualElement* const* child = m_Children.begin(); child != end; ++child)
+    {
+        if (end - child > ahead)
+            __builtin_prefetch(&child[ahead]->m_Pos);
+        if ((*child)->m_Visible && (*child)->m_Pos.Contains(x, y))
+            return *child;
+    }
     return nullptr;
 }
 
