@@ -16,7 +16,7 @@ vexel_ptr<IRasterPicture> Flag()
                        "yc#\n");
 }
 
-} // namespace
+}  // namespace
 
 // One to one -------------------------------------------------------------------------------------------------------
 
@@ -396,4 +396,4 @@ TEST(PainterControlElement, IsHandedToTheDeviceWithItsAreaAndWhatMayBePainted)
     EXPECT_EQ(canvas.Device().m_Parts.size(), before);
 }
 
-} // namespace vexelbase::tests
+}  // namespace vexelbase::tests

@@ -28,7 +28,7 @@ bool IsCovered(CDamage const& damage, int x, int y)
     return false;
 }
 
-} // namespace
+}  // namespace
 
 // Rounding ---------------------------------------------------------------------------------------------------------
 
@@ -198,18 +198,22 @@ TEST(RasterDeviceMove, MovesInAllDirectionsThoughTheAreasOverlap)
         int dy;
         char const* expected;
     };
-    SCase const cases[] = {{1, 0, "rrgb\n"
-                                  "yycm\n"
-                                  "rgby\n"},
-                           {-1, 0, "gbyy\n"
-                                   "cm##\n"
-                                   "rgby\n"},
-                           {0, 1, "rgby\n"
-                                  "rgby\n"
-                                  "ycm#\n"},
-                           {1, 1, "rgby\n"
-                                  "yrgb\n"
-                                  "rycm\n"}};
+    SCase const cases[] = {{1, 0,
+                            "rrgb\n"
+                            "yycm\n"
+                            "rgby\n"},
+                           {-1, 0,
+                            "gbyy\n"
+                            "cm##\n"
+                            "rgby\n"},
+                           {0, 1,
+                            "rgby\n"
+                            "rgby\n"
+                            "ycm#\n"},
+                           {1, 1,
+                            "rgby\n"
+                            "yrgb\n"
+                            "rycm\n"}};
     for (SCase const& entry : cases)
     {
         CCanvas canvas("rgby\n"
@@ -302,4 +306,4 @@ TEST(BasePicture, ScalesToTheNearestPixel)
     EXPECT_EQ(ToText(MakeRef<CPixelPicture>(size<int>{0, 0})->Scale({2, 1})->GetPixels()), "..\n");
 }
 
-} // namespace vexelbase::tests
+}  // namespace vexelbase::tests

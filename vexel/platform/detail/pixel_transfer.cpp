@@ -10,10 +10,7 @@ namespace vexelbase::detail
 namespace
 {
 
-std::size_t ByteCount(int pixels)
-{
-    return static_cast<std::size_t>(pixels) * sizeof(std::uint32_t);
-}
+std::size_t ByteCount(int pixels) { return static_cast<std::size_t>(pixels) * sizeof(std::uint32_t); }
 
 // Walks along one axis of a stretched picture: the source pixel under the centre of each target pixel,
 // floor((2 i + 1) * source extent / (2 * target extent)), without a division per pixel.
@@ -69,7 +66,7 @@ inline void FillRow(std::uint32_t* row, int width, std::uint32_t pixel)
     std::memcpy(row + width - 4, four, sizeof four);
 }
 
-} // namespace
+}  // namespace
 
 void FillPixels(CPixelBuffer& target, rectangle<int> const& area, std::uint32_t pixel,
                 IPainter::RasterOperation operation)
@@ -88,7 +85,8 @@ void FillPixels(CPixelBuffer& target, rectangle<int> const& area, std::uint32_t 
             for (int x = 0; x < width; ++x)
                 row[x] &= pixel | 0xFF000000u;
             break;
-        default: FillRow(row, width, pixel | 0xFF000000u);
+        default:
+            FillRow(row, width, pixel | 0xFF000000u);
         }
     }
 }
@@ -175,4 +173,4 @@ void StretchPixels(CPixelBuffer& target, rectangle<int> const& to, rectangle<int
     }
 }
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail
