@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vexel/export.h"
+#include "vexel/platform/base_painter.h"
 #include "vexel/platform/paint_device.h"
 #include "vexel/platform/pixel_buffer.h"
 #include "vexel/platform/raster_picture.h"
@@ -9,8 +10,6 @@
 
 namespace vexelbase
 {
-
-class CBasePainter;
 
 /// The raster picture of all backends. A backend derives from it to say what device paints on its pixels.
 class VEXEL_API CBasePicture : public IRasterPicture
@@ -29,6 +28,11 @@ public:
 protected:
     virtual std::unique_ptr<IPaintDevice> CreateDevice(CPixelBuffer& pixels) const = 0;
     virtual vexel_ptr<IRasterPicture> CreateSame(size<int> const& extent) const = 0;
+    /// Makes the painter on the device; a backend may give one of its own.
+    virtual std::unique_ptr<CBasePainter> CreatePainter(IPaintDevice& device) const
+    {
+        return std::make_unique<CBasePainter>(device, true);
+    }
 
 private:
     CPixelBuffer m_Pixels;

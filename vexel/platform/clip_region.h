@@ -15,11 +15,19 @@ class VEXEL_API CClipRegion
 {
 public:
     bool IsUnlimited() const { return m_Unlimited; }
-    void Reset();                                      ///< Everything may be painted.
-    void Set(rectangle<int> const& area);              ///< Only the rectangle.
-    void Intersect(rectangle<int> const& area);        ///< What is in both.
-    void Exclude(rectangle<int> const& area, rectangle<int> const& surface);  ///< Takes it out; `surface` stands for everything.
-    rectangle<int> GetBounds() const;                  ///< All zero if unlimited; an empty rectangle that isn't all zero if nothing is left.
+    /// Everything may be painted.
+    void Reset()
+    {
+        m_Unlimited = true;
+        m_First = {};
+        m_More.clear();
+    }
+    void Set(rectangle<int> const& area);        ///< Only the rectangle; nothing if it is empty.
+    void Intersect(rectangle<int> const& area);  ///< What is in both.
+    /// Takes the rectangle out; `surface` stands for everything where the region is unlimited.
+    void Exclude(rectangle<int> const& area, rectangle<int> const& surface);
+    /// All zero if unlimited. If nothing is left, an empty rectangle that isn't all zero and that Set takes as such.
+    rectangle<int> GetBounds() const;
 
     /// Calls `draw` with each part of `area` that may be painted.
     template <class Draw> void ForEach(rectangle<int> const& area, Draw&& draw) const
@@ -44,8 +52,12 @@ public:
     }
 
 private:
+    std::size_t GetCount() const { return 1 + m_More.size(); }
+    rectangle<int>& At(std::size_t index) { return index == 0 ? m_First : m_More[index - 1]; }
+    void DropEmpty();
+
     bool m_Unlimited = true;
-    rectangle<int> m_First;
+    rectangle<int> m_First;  // empty: then nothing may be painted, and there are no more
     std::vector<rectangle<int>> m_More;
 };
 

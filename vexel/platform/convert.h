@@ -20,7 +20,10 @@ inline int ToInt(double value)
 /// The pixel that a coordinate falls in: rounds down, also below zero. Saturates like ToInt.
 inline int FloorToInt(double value)
 {
-    return ToInt(std::floor(value));
+    if (!(value >= -2147483648.0 && value < 2147483648.0))
+        return ToInt(value);
+    int const truncated = static_cast<int>(value);
+    return truncated > value ? truncated - 1 : truncated;
 }
 
 /// Rounds up. Saturates like ToInt.

@@ -104,7 +104,9 @@ public:
     virtual void DrawDisabled(IPainter* painter, int index, double x, double y) = 0;
 };
 
-/// Shows the popup below the rectangle (control pixels of the popup's owner), above it where there is no room.
+/// Shows the popup with its left-top at the rectangle's left-bottom (control pixels of the popup's owner). Where the
+/// system tells its work area: above the rectangle if there is more room and it doesn't fit below, and moved sideways
+/// into the area, its left end first. Null, or a popup whose owner is gone, does nothing.
 VEXEL_API void PositionPopup(vexel_ptr<IPopup> popup, screen_rectangle<int> const& owner);
 
 } // namespace vexelbase

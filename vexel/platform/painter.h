@@ -30,7 +30,7 @@ public:
     };
 
     /// device = device origin + (logical - logical origin) * device extent / logical extent, on each axis.
-    /// A negative extent turns the axis round; a logical extent of 0 counts as ratio 1.
+    /// A negative extent turns the axis round; where an extent is 0 or no number the ratio is 1.
     struct CoordInfo
     {
         bool m_Flag1 = false;
@@ -92,7 +92,8 @@ public:
     virtual ~IPainter();
 
     // Bracket -----------------------------------------------------------------------------------------------------
-    /// Every use stands between these two. An inner bracket keeps and restores mapping, clip and font of the outer one.
+    /// Every use stands between these two; they may nest. Each end puts back mapping, clip and font as they were at its
+    /// beginning. The outermost ssPaint also starts with all tools and modes at their defaults.
     virtual void BeginPaint(StdSettings settings) = 0;
     virtual void EndPaint() = 0;
     /// True if what the surface shows is not what was last painted (new, resized, content lost), so that everything
@@ -117,7 +118,9 @@ public:
     virtual rectangle<double> GetClipRect() const = 0;
     /// Logical, edges included. Narrows the present clip to the rectangle, or takes the rectangle out of it (`exclude`).
     virtual void SetClipRect(double left, double top, double right, double bottom, bool exclude) = 0;
-    /// Device, right and bottom excluded; fractions round outward. Replaces the present clip (or takes the rectangle out).
+    /// Device, right and bottom excluded; fractions round outward. Replaces the present clip, or takes the rectangle out
+    /// of it (`exclude`). What GetClipRect returned is put back faithfully: all zero means no clip, any other rectangle
+    /// without area that nothing may be painted.
     virtual void SimpleSetClipRect(rectangle<double> const& rect, bool exclude) = 0;
     /// Drops the clip. Whoever calls it clears m_ClipCache right after.
     virtual void ResetClip() = 0;
@@ -149,8 +152,11 @@ public:
     virtual _color GetPixel(double x, double y) const = 0;  ///< Value 0x??BBGGRR; white outside the surface.
 
     // Text --------------------------------------------------------------------------------------------------------
-    /// Draws lines parted by "\n". `count`: characters, -1 for all. Returns the unshortened size in logical units.
-    /// Without AlignSingleLine the output is cut to the rectangle.
+    /// Draws lines parted by "\n". `count`: bytes, -1 for all; a character that it cuts in two is left out. Null draws
+    /// nothing. Returns the unshortened size in logical units. Without AlignSingleLine the output is cut to the rectangle.
+    /// Alignment reckons with right - left and bottom - top; each line begins at a whole pixel, rounded down. A rotated
+    /// text is laid out upright, with the extents that the rectangle has in its reading direction, and aligned as a box.
+    /// With rotations that are no quarter turns, lines are neither wrapped nor shortened.
     virtual size<double> DrawString(rectangle<double> const& rect, char const* text, int flags, int count) = 0;
     size<double> DrawString(rectangle<double> const& rect, std::string const& text, int flags, int count);
     /// The same, wrapped behind delimiters and laid out by the formatter (null: plain text).
@@ -160,7 +166,8 @@ public:
     /// `textFont`: null for the current one. `logical` false: device pixels. `rotated` false: as if upright.
     virtual size<double> GetTextSize(std::string const& text, font const* textFont, int count = -1, bool logical = true,
                                      bool rotated = true) = 0;
-    /// Where a text of this size stands in the rectangle with these flags.
+    /// Where a text of this size stands in the rectangle with these flags; with AlignFitText it is no larger than the
+    /// rectangle. From left and top it reaches to left + width and top + height.
     virtual rectangle<double> GetTextRect(rectangle<double> const& rect, size<double> const& textSize, int flags) = 0;
     virtual void GetFontMetrics(fontmetrics* metrics) = 0;  ///< Current font, device pixels.
 
@@ -201,7 +208,7 @@ public:
 
     // State that the framework reads and writes -------------------------------------------------------------------
     bool m_Painting = false;       ///< A bracket is open.
-    bool m_DisabledMode = false;   ///< The element being drawn is disabled; pictures are drawn grey.
+    bool m_DisabledMode = false;   ///< The element being drawn is disabled: pictures are grey, text keeps the one colour.
     _color m_DisabledBkColor{0, true};
     bool m_PenDirty = false;
     rectangle<double> m_ClipCache;
@@ -230,11 +237,16 @@ public:
     /// On return `text` is where the line after it begins, `length` how many characters belong to this line
     /// (from the old `text` on) and `width` its width in frame pixels. False: no line left.
     /// A line ends at "\n", or behind the last delimiter before `maxWidth` (below 0: no limit); a word wider than that
-    /// stays whole.
+    /// stays whole. Blanks at which a line is wrapped don't count.
     virtual bool GetTextLine(IPainter* painter, char const*& text, int& length, int& width, int maxWidth,
                              char const* delimiters) = 0;
     /// Draws one line with its left-top at (x, y) of the text frame.
     virtual void DrawTextLine(IPainter* painter, int x, int y, char const* text, int length) = 0;
+
+    /// How many characters from the start of the line fit into `maxWidth`, and their width. By default all of them.
+    virtual int FitTextLine(IPainter* painter, char const* text, int length, int maxWidth, int& width);
+    /// Goes past a part of a line that is not drawn, for the sake of the mark-up in it.
+    virtual void SkipText(char const* text, int length);
 };
 
 } // namespace vexelbase

@@ -46,8 +46,9 @@ public:
 class VEXEL_API ICustomPaletteEx : public CBase, public ICustomPalette
 {
 public:
-    /// Sets number 3 to `color` and derives 4 lighter, 5 half as light, 6 darker, 7 darkest.
-    /// All other numbers stay those of the system until set.
+    /// Sets number 3 to `color` and derives from it 4 (80 hundredths of the way to white), 5 (40 of them), 6 (35
+    /// hundredths of the way to black) and 7 (65 of them), also where these had been set. None gives the five numbers back
+    /// to the system. All other numbers stay as they are.
     virtual void SetBaseColor(_color const& color) = 0;
     virtual _color GetBaseColor() const = 0;  ///< None until set.
 };
@@ -55,6 +56,7 @@ public:
 /// The current system's palette; never null in practice, null without a system.
 VEXEL_API ISysPalette* GetSysPalette();
 /// The system's colours seen as a custom palette; setting a colour of it does nothing. Follows theme changes.
+/// Without a system it has plain grey ones of its own, so it always answers.
 VEXEL_API ICustomPalette* GetDefaultPalette();
 /// A new palette that shows the system's colours until colours are set.
 VEXEL_API vexel_ptr<ICustomPaletteEx> CreateCustomPalette();

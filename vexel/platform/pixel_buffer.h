@@ -21,6 +21,7 @@ public:
     size<int> GetSize() const { return m_Size; }
     int GetWidth() const { return m_Size.width; }
     int GetHeight() const { return m_Size.height; }
+    rectangle<int> GetRect() const { return {0, 0, m_Size.width, m_Size.height}; }  ///< Half-open.
     std::uint32_t* Row(int y) { return m_Pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_Size.width); }
     std::uint32_t const* Row(int y) const
     {
@@ -30,9 +31,15 @@ public:
 
     /// Takes a new size; what lies in both sizes stays, the rest gets `pixel`. Negative extents count as 0.
     void Resize(size<int> const& extent, std::uint32_t pixel);
+    /// Takes a new size for other pixels: what the rows hold afterwards is not told. Keeps the memory for the next time.
+    void Renew(size<int> const& extent);
 
     /// Cuts a half-open rectangle to the picture; false if nothing is left.
-    bool Cut(rectangle<int>& area) const;
+    bool Cut(rectangle<int>& area) const
+    {
+        area.Intersect(GetRect());
+        return !area.IsEmpty();
+    }
 
     static constexpr std::uint32_t ToPixel(_color const& color)
     {

@@ -10,7 +10,7 @@ namespace vexelbase
 {
 
 /// A few rectangles that together cover what was touched. Adding never loses a pixel; where there are too many, those
-/// that waste least are joined.
+/// that waste least are joined. They may overlap.
 class VEXEL_API CDamage
 {
 public:
@@ -22,7 +22,11 @@ public:
     rectangle<int> const& operator[](int index) const { return m_Rects[static_cast<std::size_t>(index)]; }
 
 private:
+    void Remove(int index);
+    rectangle<int>& At(int index) { return m_Rects[static_cast<std::size_t>(index)]; }
+
     int m_Count = 0;
+    int m_Last = 0;  // the one that took up the last area
     std::array<rectangle<int>, Capacity> m_Rects;
 };
 
@@ -40,6 +44,7 @@ public:
               rectangle<int> const& source, IPainter::RasterOperation operation) override;
     void Blend(rectangle<int> const& area, CPixelBuffer const& picture, point<int> const& origin, int alpha) override;
     void Extract(rectangle<int> const& area, CPixelBuffer& picture, point<int> const& position) override;
+    CPixelBuffer const* GetTarget() const override { return &m_Pixels; }
 
     /// Moves the pixels of `area` now, overlaps included; source and target are cut to the surface.
     /// Returns false if some target pixel of the surface had its source outside.

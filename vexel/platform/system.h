@@ -62,6 +62,10 @@ public:
     virtual vexel_ptr<IRasterPicture> CreateRasterPicture(XPMBuf const& buffer) = 0;
     virtual vexel_ptr<IRunner> GetRunner() = 0;  ///< A fresh one each time.
     virtual vexel_ptr<ILock> CreateLock() = 0;
+
+    /// The part of the screen around the point that windows may cover, in screen pixels, right and bottom excluded.
+    /// All zero, as here: unknown.
+    virtual rectangle<int> GetWorkArea(point<int> const& screen);
 };
 
 /// The backend that is installed; null before the first one and after the last one went.

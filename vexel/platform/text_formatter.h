@@ -3,9 +3,8 @@
 #include "vexel/export.h"
 #include "vexel/platform/painter.h"
 
+#include <cstddef>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace vexelbase
 {
@@ -21,10 +20,12 @@ public:
     bool GetTextLine(IPainter* painter, char const*& text, int& length, int& width, int maxWidth,
                      char const* delimiters) override;
     void DrawTextLine(IPainter* painter, int x, int y, char const* text, int length) override;
+    int FitTextLine(IPainter* painter, char const* text, int length, int maxWidth, int& width) override;
 
 protected:
-    /// Finds the next word of at most `count` characters: it ends behind a delimiter, at "\n" or at something special.
-    /// Sets its length and its width in frame pixels.
+    /// Finds the next word of at most `count` characters: it ends behind a delimiter, and further blanks if that was a
+    /// blank, at "\n" or at something special. Sets its length and its width in frame pixels. Null or empty
+    /// delimiters: there are none.
     virtual void GetNextWord(IPainter* painter, char const* text, int& length, int& width, int count,
                              char const* delimiters);
     /// True where the text is mark-up, which has no width and is no word.
@@ -33,7 +34,9 @@ protected:
 
 /// Text with mark-up: <b>, <i>, <u>, <br>, <a href="target">, and the entities &lt; &gt; &amp; &quot; &apos; &nbsp; and
 /// &#...;. Names in any case. Unknown tags are dropped, a "<" that begins no tag and an unknown "&" stand for themselves.
-/// Takes time in proportion to the text, however it is nested; tags that were never opened or closed do no harm.
+/// Tags of one kind nest; a link ends the link around it, and so does an <a> without target. Mark-up at the end makes no
+/// line of its own. Takes time in proportion to the text, however it is nested; tags that were never opened or closed
+/// do no harm.
 class VEXEL_API CHTMLTextFormatter : public CDefTextFormatter
 {
 public:
@@ -43,6 +46,8 @@ public:
     bool GetTextLine(IPainter* painter, char const*& text, int& length, int& width, int maxWidth,
                      char const* delimiters) override;
     void DrawTextLine(IPainter* painter, int x, int y, char const* text, int length) override;
+    int FitTextLine(IPainter* painter, char const* text, int length, int maxWidth, int& width) override;
+    void SkipText(char const* text, int length) override;
 
     /// A part of a link was drawn. `target`: the link's target, `length` characters, not terminated; null for the
     /// further parts of a link that is spread over several lines or styles. `rect`: device pixels of the window, edges
@@ -50,12 +55,57 @@ public:
     virtual void OnDrawLink(char const* target, int length, rectangle<int> const& rect);
 
 protected:
+    /// At mark-up the word is the mark-up, of width 0.
     void GetNextWord(IPainter* painter, char const* text, int& length, int& width, int count,
                      char const* delimiters) override;
     bool IsSpecial(char const* text) const override;
-    /// Offers a part of a link to be drawn by the owner at (x, y) of the text frame; true: it was.
-    /// Otherwise it is drawn underlined in the link colour.
+    /// Offers a part of a link to be drawn by the owner at (x, y) of the text frame; true: it was. The text has its
+    /// entities resolved. Otherwise it is drawn underlined in the link colour.
     virtual bool OwnerDrawLink(IPainter* painter, int x, int y, char const* text, int length);
+
+private:
+    // What mark-up read so far says of the text that follows.
+    struct SState
+    {
+        int bold = 0;
+        int italic = 0;
+        int underline = 0;
+        char const* target = nullptr;  // null: no link
+        int targetLength = 0;
+        bool told = false;  // the target was handed to OnDrawLink
+
+        int GetStyle() const;
+    };
+    // A place where a line may end.
+    struct SBreak
+    {
+        char const* lineEnd = nullptr;  // null: there is none
+        char const* next = nullptr;
+        int width = 0;
+        SState state;
+    };
+
+    /// Applies the tag at `text`, if there is one, to the state; returns its length. Sets `lineBreak` for <br>.
+    static int ReadTag(char const* text, char const* end, SState& state, bool& lineBreak);
+    /// Resolves the text up to the next word end, tag or line feed into m_Run, at most `limit` characters of it. Returns
+    /// its length in the source.
+    int ReadRun(char const* text, char const* end, char const* delimiters, std::size_t limit);
+    int MeasureRun(IPainter* painter);
+    int MeasureLine(IPainter* painter, char const* text, char const* end, SState state);
+    void ApplyStyle(IPainter* painter, int style);
+    int GetBaselineShift(IPainter* painter) const;
+    void DrawLinkPart(IPainter* painter, int x, int y);
+
+    SState m_State;
+    bool m_Active = false;  // between BeforeFormatting and AfterFormatting
+    font m_BaseFont;
+    fontmetrics m_BaseMetrics;
+    font m_StyledFont;
+    int m_Style = 0;  // what the painter's font has beyond the base font
+    _color m_BaseColor;
+    char const* m_End = nullptr;  // of the text under way
+    std::string m_Run;
+    std::string m_Target;
 };
 
 /// The text without link mark-up; all other mark-up stays.

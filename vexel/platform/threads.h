@@ -15,19 +15,21 @@ public:
     virtual bool IsDynamicRunnable() const { return false; }
 };
 
-/// Runs a runnable on a background thread of its own. All operations belong to the GUI thread, but for Stop and
-/// IsRunning, which the running work may call too.
+/// Runs a runnable on a background thread of its own. All operations belong to the GUI thread, but for Stop, IsRunning
+/// and SetWait, which the running work may call too.
 class VEXEL_API IRunner : public CBase
 {
 public:
     /// Starts `while (runnable->Run())`, waiting the set time before each round. The runnable is not owned and must
-    /// live until Stop has returned. Does nothing while one runs already.
+    /// live until Stop has returned. Does nothing while one runs already. After a Stop by the running work it waits for
+    /// the end of that round.
     virtual void Run(IRunnable* runnable) = 0;
     /// Ends the loop, a wait included, and returns when the runnable is no longer in use; called from the running work
     /// itself it returns at once and the loop ends after the round.
     virtual void Stop() = 0;
-    virtual bool IsRunning() const = 0;
-    virtual void SetWait(int milliseconds) = 0;  ///< Before each round; 0 by default, below 0 counts as 0.
+    virtual bool IsRunning() const = 0;  ///< False as soon as it is to stop, or the runnable answered false.
+    /// Before each round; 0 by default, below 0 counts as 0. A wait under way keeps its length.
+    virtual void SetWait(int milliseconds) = 0;
 };
 
 /// Takes work to the GUI thread.

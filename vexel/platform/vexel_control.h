@@ -28,7 +28,8 @@ class VEXEL_API CVexelControl : public IDrawingNotify,
                                 public CImplEventSender<IEventSender>
 {
 public:
-    /// `window`: may be null until SetSysWindow. `owns`: the control deletes the window when it goes.
+    /// `window`: may be null until SetSysWindow. `owns`: the control deletes each window that it was given, when it
+    /// takes another one or goes.
     CVexelControl(ISysWindow* window, bool owns);
     ~CVexelControl() override;
     CVexelControl(CVexelControl const&) = delete;
@@ -36,6 +37,8 @@ public:
 
     ISysWindow* GetWindow() const { return m_Window; }  ///< Null once the window is destroyed.
     virtual void SetSysWindow(ISysWindow* window);      ///< Leaves the present window and takes this one's events.
+    /// The window is gone natively. Called by it once OnDestroy has returned; an owned one is deleted later all the same.
+    void ForgetWindow() { m_Window = nullptr; }
     virtual void* GetHandle() const;                    ///< The window, as an opaque value.
     virtual bool CanBeFocused() const { return true; }
     virtual void Refresh();                             ///< Paints the whole window now.
@@ -49,7 +52,7 @@ public:
     void NoticeStarted(IEventSender*) override {}
     void NoticeStopped(IEventSender*) override {}
 
-    // Native events, on the GUI thread ----------------------------------------------------------------------------
+    // Native events, on the GUI thread. A subscriber may delete the control; what overrides these must take care ----
     void OnDraw(IPainter* painter) override;
     void OnButtonDown(CMouseEvent* event) override;
     void OnButtonUp(CMouseEvent* event) override;
@@ -64,7 +67,7 @@ public:
     void OnChar(CKeyboardEvent* event) override;
     void OnResize(CWindowEvent* event) override;
     void OnMove(CWindowEvent* event) override;
-    void OnDestroy(CWindowEvent* event) override;  ///< The window is forgotten when it returns to the backend.
+    void OnDestroy(CWindowEvent* event) override;  ///< The window is there until it returns to the backend.
     void OnShow(CWindowEvent* event) override;
     void OnHide(CWindowEvent* event) override;
     void OnGetFocus(CFocusEvent* event) override;
@@ -79,7 +82,8 @@ public:
 
 private:
     ISysWindow* m_Window = nullptr;
-    bool m_OwnsWindow = false;
+    ISysWindow* m_OwnedWindow = nullptr;  // still to be deleted, also after it was forgotten
+    bool const m_OwnsWindow;
     IImageList* m_ImageList = nullptr;
 };
 

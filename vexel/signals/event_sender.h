@@ -153,10 +153,17 @@ private:
 template <class Sender> class CImplEventSender<Sender>::CFiring
 {
 public:
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdangling-pointer"  // the destructor takes it back, unless the sender has died
+#endif
     explicit CFiring(CImplEventSender* sender) : m_Sender(sender), m_Outer(sender->m_firing)
     {
         sender->m_firing = this;
     }
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic pop
+#endif
     ~CFiring()
     {
         if (m_Sender)

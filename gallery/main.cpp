@@ -1,0 +1,157 @@
+// The gallery: every widget alive, a page each.
+
+#include "gallery/frame/frame.h"
+#include "gallery/frame/log.h"
+#include "gallery/frame/native_log.h"
+#include "gallery/options.h"
+#include "gallery/pages.h"
+#include "vexel/platform/base_window.h"
+#include "vexel/platform/convert.h"
+#include "vexel/platform/qt/application.h"
+#include "vexel/platform/threads.h"
+
+#include <QDir>
+#include <QImage>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+
+namespace gallery
+{
+
+namespace
+{
+
+/// As large as the pages need at this scale.
+vexelbase::size<int> GetWindowSize(double scale)
+{
+    return {vexelbase::ToInt(1000 * scale), vexelbase::ToInt(700 * scale)};
+}
+
+/// Work for the window's queue.
+class CLater : public vexelbase::IRunnable
+{
+public:
+    explicit CLater(std::function<void()> work) : m_Work(std::move(work)) {}
+
+    bool Run() override
+    {
+        m_Work();
+        return false;
+    }
+
+private:
+    std::function<void()> const m_Work;
+};
+
+/// The window with its control, and the frame that is made anew when the scale changes.
+class CProgram
+{
+public:
+    CProgram(vexelbase::qt::CApplication& app, SOptions const& options, int page)
+        : m_App(app), m_BaseScale(options.scale),
+          m_Window(app.CreateMainWindow("vexel gallery", GetWindowSize(options.scale))), m_Control(m_Window.get()),
+          m_NativeLog(m_Control)
+    {
+        MakeFrame({.page = page});
+    }
+
+    bool SavePictures(std::string const& folder, std::string const& only);
+
+private:
+    void MakeFrame(CFrame::SState const& state)
+    {
+        CFrame::SHooks hooks;
+        hooks.setScale = [this](double factor) { ChangeScale(factor); };
+        hooks.setShowRepaints = [this](bool show) { m_App.SetShowRepaints(show); };
+        m_Frame = std::make_unique<CFrame>(m_Control, std::move(hooks), state);
+    }
+    // Called in a signal of the frame.
+    void ChangeScale(double factor)
+    {
+        m_Window->Post(new CLater(
+            [this, factor]
+            {
+                CFrame::SState const state = m_Frame->GetState();
+                m_Frame.reset();
+                m_App.SetZoom(m_BaseScale * factor);
+                MakeFrame(state);
+            }));
+    }
+
+    vexelbase::qt::CApplication& m_App;
+    double const m_BaseScale;
+    std::unique_ptr<vexelbase::ISysWindow> m_Window;
+    vexel::CBaseControl m_Control;
+    CNativeLog m_NativeLog;
+    std::unique_ptr<CFrame> m_Frame;
+};
+
+bool CProgram::SavePictures(std::string const& folder, std::string const& only)
+{
+    if (!QDir().mkpath(QString::fromStdString(folder)))
+    {
+        std::fprintf(stderr, "vexel-gallery: can't make the folder %s\n", folder.c_str());
+        return false;
+    }
+    for (SPage const& page : GetPages())
+    {
+        if (!only.empty() && only != page.name)
+            continue;
+        m_Frame->SetPage(FindPage(page.name));
+        m_Window->UpdateNow();
+        vexelbase::CPixelBuffer const& pixels = static_cast<vexelbase::CBaseWindow&>(*m_Window).GetPixels();
+        QImage const image(reinterpret_cast<uchar const*>(pixels.Row(0)), pixels.GetWidth(), pixels.GetHeight(),
+                           QImage::Format_RGB32);
+        std::string const file = folder + "/" + page.name + ".png";
+        if (!image.save(QString::fromStdString(file)))
+        {
+            std::fprintf(stderr, "vexel-gallery: can't write %s\n", file.c_str());
+            return false;
+        }
+        std::printf("%s\n", file.c_str());
+    }
+    return true;
+}
+
+int Main(int argc, char** argv)
+{
+    SOptions const options = ReadOptions(argc, argv);
+    int const page = options.page.empty() ? 0 : FindPage(options.page);
+    if (!options.error.empty() || page < 0)
+    {
+        std::string const error = options.error.empty() ? "no page " + options.page : options.error;
+        std::fprintf(stderr, "vexel-gallery: %s\n%s", error.c_str(), GetUsage());
+        return 2;
+    }
+    if (options.help)
+    {
+        std::fputs(GetUsage(), stdout);
+        return 0;
+    }
+    if (options.list)
+    {
+        for (SPage const& each : GetPages())
+            std::printf("%-10s %s\n", each.name, each.title);
+        return 0;
+    }
+
+    bool const pictures = !options.screenshots.empty();
+    if (pictures)
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    vexelbase::qt::CApplication app(argc, argv);
+    app.SetZoom(options.scale);
+    CLog::Get().SetEcho(options.log);
+    CProgram program(app, options, page);
+    if (pictures)
+        return program.SavePictures(options.screenshots, options.page) ? 0 : 1;
+    return app.Run();
+}
+
+}  // namespace
+
+}  // namespace gallery
+
+int main(int argc, char** argv) { return gallery::Main(argc, argv); }

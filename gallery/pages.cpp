@@ -1,0 +1,58 @@
+#include "gallery/pages.h"
+
+#include "gallery/pages/docking_page.h"
+#include "gallery/pages/drag_drop_page.h"
+#include "gallery/pages/flashing_page.h"
+#include "gallery/pages/focus_page.h"
+#include "gallery/pages/html_text_page.h"
+#include "gallery/pages/input_log_page.h"
+#include "gallery/pages/overlap_page.h"
+#include "gallery/pages/painter_page.h"
+#include "gallery/pages/partial_repaint_page.h"
+#include "gallery/pages/parts_page.h"
+#include "gallery/pages/tooltip_page.h"
+
+namespace gallery
+{
+
+namespace
+{
+
+template <class Page> std::unique_ptr<CPage> Make() { return std::make_unique<Page>(); }
+
+SPage const g_Pages[] = {
+    {"docking", "Docking", "Click a panel to dock it to the next edge; the wheel makes it thicker or thinner.",
+     &Make<CDockingPage>},
+    {"overlap", "Overlap and transparency", "Drag the sheets. The last child is painted on top, the first one is hit.",
+     &Make<COverlapPage>},
+    {"repaint", "Partial repaint", "Each cell counts how often it was painted. Pointing at one repaints it alone.",
+     &Make<CPartialRepaintPage>},
+    {"input", "Input log", "Mouse, wheel and keys, as the two boxes hear them: the inner one first, but for the wheel.",
+     &Make<CInputLogPage>},
+    {"focus", "Focus and tab order", "Walk with Tab and Shift+Tab; an arrow key goes to the delegate of the lower box.",
+     &Make<CFocusPage>},
+    {"tooltip", "Tooltips and context menu", "Let the pointer rest on a panel, or press the right button.",
+     &Make<CTooltipPage>},
+    {"drag", "Drag and drop", "Drag a tile onto the left bin. The right one takes nothing.", &Make<CDragDropPage>},
+    {"flashing", "Flashing", "A timer switches colours and palettes of these elements.", &Make<CFlashingPage>},
+    {"painter", "Painter", "Every shape, pen, text flag and raster operation.", &Make<CPainterPage>},
+    {"parts", "Native parts and borders",
+     "Each part plain, hot, pressed and disabled; each border flat, raised, sunken.", &Make<CPartsPage>},
+    {"html", "Text with mark-up", "Links tell when they are clicked; narrow columns wrap.", &Make<CHtmlTextPage>},
+};
+
+}  // namespace
+
+std::span<SPage const> GetPages() { return g_Pages; }
+
+int FindPage(std::string const& name)
+{
+    for (std::size_t i = 0; i < std::size(g_Pages); ++i)
+    {
+        if (name == g_Pages[i].name)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+}  // namespace gallery

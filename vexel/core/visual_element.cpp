@@ -1,0 +1,318 @@
+#include "vexel/core/visual_element.h"
+
+#include "vexel/core/control.h"
+#include "vexel/core/detail/element_parts.h"
+#include "vexel/core/dpi.h"
+#include "vexel/platform/sys_window.h"
+#include "vexel/signals/assertion.h"
+
+#include <utility>
+
+namespace vexel
+{
+
+unsigned long CVisualElement::s_TreeVersion = 1;
+unsigned long CVisualElement::s_DestroyCount = 0;
+
+CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, Alignment alignment)
+    : m_Size(extent), m_Alignment(alignment), m_Children(this)
+{
+    ApplyDPIScale(m_Size);
+    try
+    {
+        ReParent(parent, true);
+    }
+    catch (...)
+    {
+        Withdraw();  // a slot threw, and the destructor won't run
+        throw;
+    }
+}
+
+CVisualElement::~CVisualElement()
+{
+    m_Destroying = true;
+    CAliveGuard::Forget(this);  // no chain on the stack comes back to what is left
+    m_SigDestroy(this);
+    OnChange(this, utRemoved);
+    m_Children.Clear();
+    Withdraw();
+}
+
+// The last steps of an element's life: nobody knows it afterwards.
+void CVisualElement::Withdraw() noexcept
+{
+    m_Destroying = true;
+    if (m_Parent)
+    {
+        m_Parent->m_Children.RemoveItem(this);
+        LeaveParent();
+    }
+    if (m_IsKeyDelegate)
+        ForgetKeyDelegates(nullptr);
+    if (m_KeyDelegate)
+        SetKeyDelegate(nullptr);
+    DropFont();
+    ++s_TreeVersion;
+    ++s_DestroyCount;
+    CAliveGuard::Forget(this);
+}
+
+// Tree --------------------------------------------------------------------------------------------------------------------
+
+void CVisualElement::ReParent(CVisualElement* parent, bool rearrange)
+{
+    if (parent == m_Parent)
+        return;
+    if (parent && (parent == this || (m_Children.GetCount() > 0 && IsAncestor(parent, this))))
+    {
+        plinth::ReportAssertion("!IsAncestor(parent, this)", "core/visual_element", __LINE__,
+                                "void vexel::CVisualElement::ReParent(CVisualElement *, bool)");
+        return;
+    }
+
+    CAliveGuard const alive(this);
+    CAlivePtr<CVisualElement> const target(parent);
+    CAlivePtr<CVisualElement> const oldParent(m_Parent);
+    if (m_Parent)
+    {
+        if (rearrange && m_Visible && m_Alignment != alNone)
+        {
+            OnRearrange(this);
+            if (!alive || m_Parent != oldParent.get())
+                return;
+        }
+        m_Parent->m_Children.RemoveItem(this);
+        if (m_Parent->m_KeyDelegate == this)
+            m_Parent->SetKeyDelegate(nullptr);
+        m_Parent = nullptr;
+        ++s_TreeVersion;
+    }
+
+    if (target)
+    {
+        target->m_Children.Append(this);
+        m_Parent = target.get();
+        ++s_TreeVersion;
+        SetControl(m_Parent->m_Control);
+        if (!alive || !target || m_Parent != target.get())
+            return;
+        if (!HasSameFont(*m_Parent))
+        {
+            ShareFont(*m_Parent);
+            AttributeChanged();
+            if (!alive || !target || m_Parent != target.get())
+                return;
+        }
+        target->AddNewChild(this);
+        if (!alive || !target || m_Parent != target.get())
+            return;
+        if (rearrange && m_Visible && m_Alignment != alNone)
+        {
+            OnRearrange(this);
+            if (!alive)
+                return;
+        }
+    }
+    else
+    {
+        SetControl(nullptr);
+        if (!alive)
+            return;
+    }
+    ChangeParent(oldParent.get());
+}
+
+// The parent's list has let go of this element already.
+void CVisualElement::LeaveParent()
+{
+    CAliveGuard const alive(this);
+    CAlivePtr<CVisualElement> const oldParent(m_Parent);
+    if (m_Parent && m_Parent->m_KeyDelegate == this)
+        m_Parent->SetKeyDelegate(nullptr);
+    m_Parent = nullptr;
+    ++s_TreeVersion;
+    SetControl(nullptr);
+    if (alive)
+        ChangeParent(oldParent.get());
+}
+
+void CVisualElement::SetControl(IControl* control)
+{
+    if (control == m_Control)
+        return;
+    CAliveGuard const alive(this);
+    ProcessSetControl(control);
+    if (!alive)
+        return;
+    if (m_Control)
+    {
+        // Told also if an ancestor swallows the change, or if the element goes straight to another control.
+        IControl* const old = m_Control;
+        bool const told = !control && RunChangeChain(this, utRemoved) == this;
+        if (!alive)
+            return;
+        if (!told && m_Control == old)
+            old->UpdateElement(this, utRemoved);
+    }
+    else if (!control)
+    {
+        return;
+    }
+    m_Control = control;
+    for (int i = 0; i < m_Children.GetCount(); ++i)
+    {
+        m_Children.GetItem(i)->SetControl(control);
+        if (!alive || m_Control != control)
+            return;
+    }
+    if (control)
+    {
+        AttributeChanged();
+        if (alive && m_Control == control)
+            AfterSetControl();
+    }
+}
+
+bool CVisualElement::IsChildrenAvailable(int count) const
+{
+    return count < 1 ? m_Children.GetCount() > 0 : m_Children.GetCount() == count;
+}
+
+CVisualElement* CVisualElement::FindChildAt(int x, int y) const
+{
+    for (CVisualElement* const child : m_Children)
+        if (child->m_Visible && child->m_Pos.Contains(x, y))
+            return child;
+    return nullptr;
+}
+
+CVisualElement* CVisualElement::FindVisualElement(int x, int y) const
+{
+    CVisualElement* found = nullptr;
+    for (CVisualElement* child = FindChildAt(x, y); child; child = child->FindChildAt(x, y))
+    {
+        found = child;
+        x = SubtractSaturated(x, child->m_Pos.left);
+        y = SubtractSaturated(y, child->m_Pos.top);
+    }
+    return found;
+}
+
+CVisualElement* CVisualElement::FindVisualElement(unsigned long const& id, bool visibleOnly) const
+{
+    if (m_Id == id && (!visibleOnly || IsDisplayable()))
+        return const_cast<CVisualElement*>(this);
+    for (CVisualElement const* const child : m_Children)
+        if (CVisualElement* const found = child->FindVisualElement(id, visibleOnly))
+            return found;
+    return nullptr;
+}
+
+// State -------------------------------------------------------------------------------------------------------------------
+
+bool CVisualElement::IsDisplayable() const
+{
+    for (CVisualElement const* element = this; element; element = element->m_Parent)
+        if (!element->m_Visible)
+            return false;
+    return true;
+}
+
+void CVisualElement::SetVisible(bool visible)
+{
+    if (visible == m_Visible)
+        return;
+    CAliveGuard const alive(this);
+    m_Visible = visible;
+    m_SigVisible(this, visible);
+    if (!alive)
+        return;
+    ProcessSetVisible(visible);
+    if (!alive)
+        return;
+    SetParentVisible(visible);
+    if (alive && m_Alignment != alNone)
+        OnRearrange(this);
+}
+
+void CVisualElement::SetParentVisible(bool visible)
+{
+    CAliveGuard const alive(this);
+    for (int i = 0; i < m_Children.GetCount(); ++i)
+    {
+        m_Children.GetItem(i)->SetParentVisible(visible);
+        if (!alive)
+            return;
+    }
+    ProcessSetParentVisible(visible);
+}
+
+void CVisualElement::SetEnabled(bool enabled)
+{
+    if (enabled == m_Enabled)
+        return;
+    m_Enabled = enabled;
+    AttributeChanged();
+}
+
+void CVisualElement::SetCursor(int cursor)
+{
+    if (cursor == m_Cursor)
+        return;
+    m_Cursor = cursor;
+    if (m_Control && m_Control->GetMouseElement() == this)
+        if (ISysWindow* const window = m_Control->GetWindow())
+            window->SetCursor(cursor);
+}
+
+void CVisualElement::SetHelpId(std::string const& id)
+{
+    if (m_Texts || !id.empty())
+        GetTexts().m_HelpId = id;
+}
+
+void CVisualElement::SetTooltip(std::string const& text)
+{
+    if (m_Texts || !text.empty())
+        GetTexts().m_Tooltip = text;
+}
+
+std::string const& CVisualElement::GetHelpId() const
+{
+    return m_Texts ? m_Texts->m_HelpId : detail::NoText();
+}
+
+std::string const& CVisualElement::GetTooltip() const
+{
+    return m_Texts ? m_Texts->m_Tooltip : detail::NoText();
+}
+
+CVisualElement::STexts& CVisualElement::GetTexts()
+{
+    if (!m_Texts)
+        m_Texts = std::make_unique<STexts>();
+    return *m_Texts;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+
+CContent::~CContent() = default;
+
+bool CanHaveFocus(CVisualElement* element)
+{
+    return element && element->GetCanHaveFocus() && element->IsDisplayable() && element->IsEnabled() &&
+           element->GetControl();
+}
+
+bool IsAncestor(CVisualElement const* element, CVisualElement const* ancestor)
+{
+    if (!ancestor)
+        return false;
+    for (; element; element = element->GetParent())
+        if (element == ancestor)
+            return true;
+    return false;
+}
+
+} // namespace vexel

@@ -1,0 +1,108 @@
+#include "vexel/platform/qt/detail/qt_widget.h"
+
+#include "vexel/platform/qt/detail/guard.h"
+#include "vexel/platform/qt/detail/qt_window.h"
+
+#include <QEvent>
+#include <QPaintEvent>
+#include <QPointer>
+
+namespace vexelbase::qt
+{
+
+CQtWidget::CQtWidget(CQtWindow& window, QWidget* parent) : QWidget(parent), m_Window(&window)
+{
+    // Every pixel comes from the window's surface.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_NoSystemBackground);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    if (parent)
+    {
+        FillParent();
+        parent->installEventFilter(this);
+    }
+}
+
+CQtWidget::~CQtWidget()
+{
+    if (m_Window)
+        Guarded([this] { m_Window->WidgetGoes(); });
+}
+
+void CQtWidget::FillParent()
+{
+    if (QWidget const* const parent = parentWidget())
+        setGeometry(parent->contentsRect());
+}
+
+int CQtWidget::FrameEvent()
+{
+    static int const type = QEvent::registerEventType();
+    return type;
+}
+
+int CQtWidget::QueueEvent()
+{
+    static int const type = QEvent::registerEventType();
+    return type;
+}
+
+int CQtWidget::RatioEvent()
+{
+    static int const type = QEvent::registerEventType();
+    return type;
+}
+
+bool CQtWidget::event(QEvent* event)
+{
+    QPointer<CQtWidget> const self(this);
+    ++m_Depth;
+    bool handled = false;
+    bool result = true;
+    if (m_Window && m_Window->IsForWindow(*event))
+    {
+        // What Qt keeps of its own comes first: afterwards the widget may be gone.
+        if (CQtWindow::NeedsQtFirst(*event))
+            result = QWidget::event(event);
+        handled = true;
+        Guarded([&] { result = m_Window->HandleEvent(*event) && result; });
+    }
+    if (!handled)
+        result = QWidget::event(event);
+    if (self)
+        --m_Depth;
+    return result;
+}
+
+bool CQtWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parent() && (event->type() == QEvent::Resize || event->type() == QEvent::ContentsRectChange))
+    {
+        QPointer<CQtWidget> const self(this);
+        ++m_Depth;
+        FillParent();
+        if (m_Window)
+            Guarded([this] { m_Window->SyncSurface(); });
+        if (!self)
+            return true;
+        --m_Depth;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void CQtWidget::paintEvent(QPaintEvent* event)
+{
+    if (m_Window)
+        m_Window->Show(event->region());
+}
+
+QVariant CQtWidget::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    if (query == Qt::ImEnabled)
+        return m_Window != nullptr;
+    return QWidget::inputMethodQuery(query);
+}
+
+} // namespace vexelbase::qt

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QWidget>
+
+namespace vexelbase::qt
+{
+
+class CQtWindow;
+
+/// The native side of a window: hands Qt's events to it and shows its pixels. Any event may end in the deletion of the
+/// window, or of the widget itself.
+class CQtWidget final : public QWidget
+{
+public:
+    /// With a parent it fills the parent's contents and follows their size.
+    CQtWidget(CQtWindow& window, QWidget* parent);
+    ~CQtWidget() override;
+
+    void Detach() { m_Window = nullptr; }  ///< The window goes before the widget.
+    bool IsInEvent() const { return m_Depth > 0; }
+    /// Moves the focus to the next or previous widget, as Tab does. False if there is none.
+    bool MoveFocus(bool forward) { return QWidget::focusNextPrevChild(forward); }
+    void FillParent();
+
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
+    static int FrameEvent();  ///< Types of the events that a window posts to its widget.
+    static int QueueEvent();
+    static int RatioEvent();
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    // The window's business; Qt would repaint everything.
+    void focusInEvent(QFocusEvent*) override {}
+    void focusOutEvent(QFocusEvent*) override {}
+
+private:
+    CQtWindow* m_Window;
+    int m_Depth = 0;
+};
+
+} // namespace vexelbase::qt

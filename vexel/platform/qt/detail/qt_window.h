@@ -1,0 +1,96 @@
+#pragma once
+
+#include "vexel/platform/base_window.h"
+#include "vexel/platform/qt/detail/qt_input.h"
+
+#include <QRegion>
+
+#include <memory>
+#include <mutex>
+
+class QEvent;
+class QWidget;
+
+namespace vexelbase::qt
+{
+
+class CQtDevice;
+class CQtWidget;
+
+/// A window on a widget of its own: a top-level one, or one that fills another widget.
+/// Its pixels are the screen's: size and positions are Qt's times the widget's pixel ratio. The surface is as large as
+/// that product, rounded to the next whole number; where Qt gives the widget a pixel more, the last one is shown twice.
+/// The window outlives its widget when the latter goes first (with its parent, or with the application object); then it
+/// stays empty and silent.
+class CQtWindow final : public CBaseWindow
+{
+public:
+    /// `parent`: the widget to fill; null makes a top-level widget.
+    explicit CQtWindow(QWidget* parent);
+    ~CQtWindow() override;
+
+    static void DestroyAll();  ///< Deletes all widgets; to be called while the application object still lives.
+
+    static void SyncAllScales();  ///< The system's scale may have changed.
+    static void SetShowRepaints(bool show);
+
+    QWidget* GetWidget() const;  ///< Null when the native side is gone.
+    double GetRatio() const { return m_Ratio; }
+
+    // From ISysWindow ---------------------------------------------------------------------------------------------
+    void SetFocus() override;
+    bool HasFocus() const override;
+    void SetCursor(int cursor) override;
+    void CaptureMouse() override;
+    void ReleaseMouse() override;
+    void TrackPointer() override {}  // Qt always tells
+    void HideTooltip() override { m_Input.HideTooltip(); }
+    void ScreenToClient(point<int>* position) const override;
+    void ClientToScreen(point<int>* position) const override;
+    vexel_ptr<IScrollBar> CreateScrollBar(int type) override;
+    vexel_ptr<IEdit> CreateEdit(bool option) override;
+    vexel_ptr<IComboBox> CreateComboBox(bool editable) override;
+    vexel_ptr<IPopup> CreatePopup() override;
+
+    // From the widget ---------------------------------------------------------------------------------------------
+    bool IsForWindow(QEvent const& event) const;
+    static bool NeedsQtFirst(QEvent const& event);
+    /// Deals with an event; false leaves it to the widget's parents. The window may be gone afterwards.
+    bool HandleEvent(QEvent& event);
+    void Show(QRegion const& region);  ///< Shows this part of the surface, in the widget's coordinates.
+    void SyncSurface();                ///< The surface takes the widget's size and ratio.
+    void WidgetGoes();
+
+    /// Calls a handler of the control. False: the window is gone.
+    template <class Event> bool Send(void (CVexelControl::*handler)(Event*), Event* event)
+    {
+        std::weak_ptr<int> const life = GetLifeToken();
+        Deliver(handler, event);
+        return !life.expired();
+    }
+
+protected:
+    void RequestFrame() override;
+    void PresentDamage() override;
+    void WakeQueue() override;
+
+private:
+    CQtDevice& GetQtDevice();
+    bool SyncScale();
+    bool LookChanged();
+    bool FocusEntered(int reason);
+    size<int> GetWantedSize() const;
+
+    void FlashRepaint(QRegion const& region);
+
+    static bool s_ShowRepaints;
+
+    CQtWidget* m_Widget = nullptr;
+    QRegion m_Flash;  // what is shown as just repainted
+    std::mutex m_WidgetMutex;  // between posting threads and the end of the widget
+    double m_Ratio = 1.0;
+    int m_Cursor = 0;
+    CQtInput m_Input{*this};
+};
+
+} // namespace vexelbase::qt
