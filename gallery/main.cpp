@@ -6,6 +6,7 @@
 #include "gallery/options.h"
 #include "gallery/pages.h"
 #include "vexel/platform/base_window.h"
+#include "vexel/platform/convert.h"
 #include "vexel/platform/qt/application.h"
 #include "vexel/platform/threads.h"
 
@@ -23,7 +24,11 @@ namespace gallery
 namespace
 {
 
-constexpr vexelbase::size<int> g_WindowSize{1000, 700};
+/// As large as the pages need at this scale.
+vexelbase::size<int> GetWindowSize(double scale)
+{
+    return {vexelbase::ToInt(1000 * scale), vexelbase::ToInt(700 * scale)};
+}
 
 /// Work for the window's queue.
 class CLater : public vexelbase::IRunnable
@@ -46,8 +51,9 @@ class CProgram
 {
 public:
     CProgram(vexelbase::qt::CApplication& app, SOptions const& options, int page)
-        : m_App(app), m_BaseScale(options.scale), m_Window(app.CreateMainWindow("vexel gallery", g_WindowSize)),
-          m_Control(m_Window.get()), m_NativeLog(m_Control)
+        : m_App(app), m_BaseScale(options.scale),
+          m_Window(app.CreateMainWindow("vexel gallery", GetWindowSize(options.scale))), m_Control(m_Window.get()),
+          m_NativeLog(m_Control)
     {
         MakeFrame({.page = page});
     }
@@ -144,11 +150,8 @@ int Main(int argc, char** argv)
     return app.Run();
 }
 
-} // namespace
+}  // namespace
 
-} // namespace gallery
+}  // namespace gallery
 
-int main(int argc, char** argv)
-{
-    return gallery::Main(argc, argv);
-}
+int main(int argc, char** argv) { return gallery::Main(argc, argv); }

@@ -56,4 +56,4 @@ SOptions ReadOptions(int argc, char const* const* argv)
     return options;
 }
 
-} // namespace gallery
+}  // namespace gallery

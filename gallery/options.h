@@ -14,10 +14,10 @@ struct SOptions
     std::string page;         ///< Empty: the first.
     std::string screenshots;  ///< A folder; empty: show a window.
     double scale = 1.0;
-    std::string error;        ///< Not empty: the command line is wrong, and this says how.
+    std::string error;  ///< Not empty: the command line is wrong, and this says how.
 };
 
 SOptions ReadOptions(int argc, char const* const* argv);
 char const* GetUsage();
 
-} // namespace gallery
+}  // namespace gallery

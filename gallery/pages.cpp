@@ -9,6 +9,7 @@
 #include "gallery/pages/overlap_page.h"
 #include "gallery/pages/painter_page.h"
 #include "gallery/pages/partial_repaint_page.h"
+#include "gallery/pages/parts_page.h"
 #include "gallery/pages/tooltip_page.h"
 
 namespace gallery
@@ -35,6 +36,8 @@ SPage const g_Pages[] = {
     {"drag", "Drag and drop", "Drag a tile onto the left bin. The right one takes nothing.", &Make<CDragDropPage>},
     {"flashing", "Flashing", "A timer switches colours and palettes of these elements.", &Make<CFlashingPage>},
     {"painter", "Painter", "Every shape, pen, text flag and raster operation.", &Make<CPainterPage>},
+    {"parts", "Native parts and borders",
+     "Each part plain, hot, pressed and disabled; each border flat, raised, sunken.", &Make<CPartsPage>},
     {"html", "Text with mark-up", "Links tell when they are clicked; narrow columns wrap.", &Make<CHtmlTextPage>},
 };
 

@@ -13,10 +13,7 @@ void EnableAll(CVisualElement* element, bool enabled)
         EnableAll(element->GetChildren()->GetItem(i), enabled);
 }
 
-CFrame::CFrame(CBaseControl& control, SHooks hooks) : CFrame(control, std::move(hooks), SState()) {}
-
-CFrame::CFrame(CBaseControl& control, SHooks hooks, SState const& state)
-    : m_Control(control), m_Hooks(std::move(hooks))
+CFrame::CFrame(CBaseControl& control, SHooks hooks, SState const& state) : m_Control(control), m_Hooks(std::move(hooks))
 {
     Build(state);
     BuildPage();

@@ -34,7 +34,6 @@ public:
         bool repaints = false;
     };
 
-    explicit CFrame(CBaseControl& control, SHooks hooks = {});
     CFrame(CBaseControl& control, SHooks hooks, SState const& state);
     ~CFrame() override;
 

@@ -18,8 +18,7 @@ rectangle<double> ToDouble(rectangle<int> const& rect)
 
 CPanel::CPanel(CVisualElement* parent, size<int> const& extent, Alignment alignment)
     : CVisualElement(parent, extent, alignment)
-{
-}
+{}
 
 void CPanel::SetText(std::string const& text)
 {
@@ -77,8 +76,7 @@ CLabel::CLabel(CVisualElement* parent, size<int> const& extent, Alignment alignm
 
 CGrid::CGrid(CVisualElement* parent, size<int> const& extent, Alignment alignment, size<int> const& cell, int gap)
     : CPanel(parent, extent, alignment), m_Cell(cell), m_Gap(gap)
-{
-}
+{}
 
 void CGrid::SetPos(rectangle<int> const& rect, bool force)
 {
@@ -101,8 +99,7 @@ void CGrid::SetPos(rectangle<int> const& rect, bool force)
 
 CSample::CSample(CVisualElement* parent, std::string const& caption, Draw draw)
     : CVisualElement(parent, {0, 0}, alNone), m_Caption(caption), m_Draw(std::move(draw))
-{
-}
+{}
 
 void CSample::DrawContent(IPainter* painter)
 {

@@ -33,8 +33,7 @@ template <class T> std::string Describe(T const& value)
 
 /// A connection that writes a line for each emission.
 class IReporter : public vexel::subscriber_base_t
-{
-};
+{};
 
 namespace detail
 {

@@ -93,8 +93,7 @@ class CPictureGround : public CPanel
 public:
     CPictureGround(CVisualElement* parent, size<int> const& extent, Alignment alignment)
         : CPanel(parent, extent, alignment), m_Picture(MakePicture())
-    {
-    }
+    {}
 
 protected:
     bool HandleGetBkImage(vexel_ptr<IRasterPicture>& picture, _color& color, rectangle<int>& placement) override

@@ -46,6 +46,17 @@ std::unique_ptr<ISysWindow> CApplication::CreateMainWindow(std::string const& ti
     return window;
 }
 
+void CApplication::SetZoom(double factor)
+{
+    CQtSystem::Get().SetZoom(factor);
+    CQtWindow::SyncAllScales();
+}
+
+void CApplication::SetShowRepaints(bool show)
+{
+    CQtWindow::SetShowRepaints(show);
+}
+
 int CApplication::Run()
 {
     return QApplication::exec();

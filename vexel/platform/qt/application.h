@@ -31,6 +31,12 @@ public:
     /// returns. Like HostWindow's it makes no native controls yet.
     std::unique_ptr<ISysWindow> CreateMainWindow(std::string const& title, size<int> const& extent);
 
+    /// Makes everything larger or smaller than the desktop says: multiplies the scale of the system, from 0.25 to 8 (others
+    /// count as the nearest). Controls hear of it as of a theme change; elements made before keep their sizes.
+    void SetZoom(double factor);
+    /// Shows for a moment, in colour over the windows, what each paint has changed. For finding needless repaints.
+    void SetShowRepaints(bool show);
+
     int Run();               ///< The event loop; returns what Quit was given, 0 after the last window was closed.
     void Quit(int code = 0);  ///< Ends the loop after the present event.
     void ProcessEvents();    ///< What waits now, without waiting for more.

@@ -166,7 +166,7 @@ int CQtSystem::GetSystemMetric(int metric)
 double CQtSystem::GetScale()
 {
     QScreen const* const screen = qApp ? QGuiApplication::primaryScreen() : nullptr;
-    return screen ? screen->devicePixelRatio() : 1.0;
+    return (screen ? screen->devicePixelRatio() : 1.0) * m_Zoom;
 }
 
 vexel_ptr<ISysTimer> CQtSystem::CreateTimer(int period, int)
@@ -219,6 +219,12 @@ rectangle<int> CQtSystem::GetWorkArea(point<int> const& screen)
     QRect const area = found->availableGeometry();
     return {FloorToInt(area.x() * scale), FloorToInt(area.y() * scale), FloorToInt((area.x() + area.width()) * scale),
             FloorToInt((area.y() + area.height()) * scale)};
+}
+
+void CQtSystem::SetZoom(double factor)
+{
+    m_Zoom = factor == factor ? std::clamp(factor, 0.25, 8.0) : 1.0;
+    RefreshLook();
 }
 
 void CQtSystem::RefreshLook()

@@ -57,6 +57,8 @@ public:
     vexel_ptr<ILock> CreateLock() override;
     rectangle<int> GetWorkArea(point<int> const& screen) override;
 
+    /// A factor on top of the desktop's scale; not-a-number counts as 1.
+    void SetZoom(double factor);
     /// The desktop's look may have changed: font, scale, colours, style.
     void RefreshLook();
 
@@ -79,6 +81,7 @@ private:
     CPointer m_Pointer;
     CClipboard m_Clipboard;
     CQtPalette m_Palette;
+    double m_Zoom = 1.0;
     ISystem* m_Before = nullptr;
     bool m_Installed = false;
 };

@@ -15,7 +15,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QRegion>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -53,6 +53,8 @@ Qt::CursorShape ToShape(int cursor)
 }
 
 } // namespace
+
+bool CQtWindow::s_ShowRepaints = false;
 
 CQtWindow::CQtWindow(QWidget* parent)
 {
@@ -182,8 +184,42 @@ void CQtWindow::PresentDamage()
             region += QRect(left, top, CeilToInt(rect.right / m_Ratio) - left, CeilToInt(rect.bottom / m_Ratio) - top);
         }
         m_Widget->update(region);
+        if (s_ShowRepaints)
+            FlashRepaint(region);
     }
     damage.Clear();
+}
+
+// The colour lies over what is shown, never on the surface.
+void CQtWindow::FlashRepaint(QRegion const& region)
+{
+    m_Flash += region;
+    QTimer::singleShot(250, m_Widget,
+                       [this, life = GetLifeToken()]
+                       {
+                           if (life.expired() || !m_Widget)
+                               return;
+                           m_Widget->update(m_Flash);
+                           m_Flash = QRegion();
+                       });
+}
+
+void CQtWindow::SetShowRepaints(bool show)
+{
+    s_ShowRepaints = show;
+}
+
+void CQtWindow::SyncAllScales()
+{
+    // A control that hears of it may delete windows.
+    std::vector<std::pair<CQtWindow*, std::weak_ptr<int>>> all;
+    for (CQtWindow* const window : AllWindows())
+        all.emplace_back(window, window->GetLifeToken());
+    for (auto const& [window, life] : all)
+    {
+        if (!life.expired() && window->m_Widget)
+            window->SyncScale();
+    }
 }
 
 void CQtWindow::Show(QRegion const& region)
@@ -222,6 +258,12 @@ void CQtWindow::Show(QRegion const& region)
             painter.drawImage(QRect(left, image.height(), right - left, bottom - image.height()), image,
                               QRect(left, image.height() - 1, right - left, 1));
     }
+    if (m_Flash.isEmpty())
+        return;
+    painter.resetTransform();
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    for (QRect const& rect : region.intersected(m_Flash))
+        painter.fillRect(rect, QColor(255, 120, 0, 110));
 }
 
 void CQtWindow::WakeQueue()

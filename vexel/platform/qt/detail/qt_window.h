@@ -3,11 +3,12 @@
 #include "vexel/platform/base_window.h"
 #include "vexel/platform/qt/detail/qt_input.h"
 
+#include <QRegion>
+
 #include <memory>
 #include <mutex>
 
 class QEvent;
-class QRegion;
 class QWidget;
 
 namespace vexelbase::qt
@@ -29,6 +30,9 @@ public:
     ~CQtWindow() override;
 
     static void DestroyAll();  ///< Deletes all widgets; to be called while the application object still lives.
+
+    static void SyncAllScales();  ///< The system's scale may have changed.
+    static void SetShowRepaints(bool show);
 
     QWidget* GetWidget() const;  ///< Null when the native side is gone.
     double GetRatio() const { return m_Ratio; }
@@ -77,7 +81,12 @@ private:
     bool FocusEntered(int reason);
     size<int> GetWantedSize() const;
 
+    void FlashRepaint(QRegion const& region);
+
+    static bool s_ShowRepaints;
+
     CQtWidget* m_Widget = nullptr;
+    QRegion m_Flash;  // what is shown as just repainted
     std::mutex m_WidgetMutex;  // between posting threads and the end of the widget
     double m_Ratio = 1.0;
     int m_Cursor = 0;
