@@ -34,7 +34,7 @@ public:
     virtual ~IEventSender();
 
     /// Puts `subscriber` before, or behind, all others of the type; with `notify` it gets NoticeStarted. Nothing keeps
-    /// one from standing twice. False: the type is not supported, nothing happens.
+    /// one from standing twice. False: the type is not supported, nothing happens. A notice that throws undoes it.
     virtual bool SubscribeToFront(INotify* subscriber, std::type_info const& type, bool notify) = 0;
     virtual bool Subscribe(INotify* subscriber, std::type_info const& type, bool notify) = 0;
 
@@ -140,6 +140,8 @@ public:
 private:
     class CFiring;
 
+    void GiveNoticeStarted(ISubscribersList* list, INotify* subscriber);
+
     ISubscribersTable* m_subscribers;
     bool m_stopped = false;
     CFiring* m_firing = nullptr;  ///< The innermost firing under way.
@@ -201,7 +203,7 @@ bool CImplEventSender<Sender>::SubscribeToFront(INotify* subscriber, std::type_i
         return false;
     list->AddToFront(subscriber);
     if (notify)
-        subscriber->NoticeStarted(this);
+        GiveNoticeStarted(list, subscriber);
     return true;
 }
 
@@ -213,8 +215,22 @@ bool CImplEventSender<Sender>::Subscribe(INotify* subscriber, std::type_info con
         return false;
     list->Add(subscriber);
     if (notify)
-        subscriber->NoticeStarted(this);
+        GiveNoticeStarted(list, subscriber);
     return true;
+}
+
+/// A subscriber that cannot remember the sender would not leave it when it dies.
+template <class Sender> void CImplEventSender<Sender>::GiveNoticeStarted(ISubscribersList* list, INotify* subscriber)
+{
+    try
+    {
+        subscriber->NoticeStarted(this);
+    }
+    catch (...)
+    {
+        list->Remove(subscriber);
+        throw;
+    }
 }
 
 template <class Sender>

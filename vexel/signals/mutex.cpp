@@ -10,7 +10,6 @@
 namespace plinth::threading
 {
 
-constinit thread_local char this_thread_mark = 0;
 constinit waiting_group waiting_groups[waiting_group_count];
 
 namespace

@@ -3,6 +3,8 @@
 #include "vexel/signals/signal_base.h"
 
 #include <bit>
+#include <cstddef>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -60,29 +62,35 @@ public:
     /// and pointers are handed on as they are. The first exception of a slot ends the emission and reaches the caller.
     void operator()(Args... args) const
     {
-        if (is_unconnected())
+        if (this->is_unconnected())
             return;
-        onstack_signal_state_t state;
-        connection_node_t const* node = begin_call(state);
-        try
+        arguments_pack arguments(args...);
+        this->emit_by(&call_slots, &arguments);
+    }
+
+private:
+    using arguments_pack = std::tuple<std::conditional_t<std::is_scalar_v<Args>, Args, Args&>...>;
+
+    static void call_slots(connection_node_t const* node, onstack_signal_state_t const& state, void* arguments)
+    {
+        call_slots(node, state.m_flag, *static_cast<arguments_pack*>(arguments), std::index_sequence_for<Args...>());
+    }
+
+    template <std::size_t... Indices>
+    static void call_slots(connection_node_t const* node, bool const* valid, arguments_pack const& arguments,
+                           std::index_sequence<Indices...>)
+    {
+        using caster_t = void (*)(void*, typeless_connection_t, Args...);
+        for (; node; node = node->m_next)
         {
-            for (; node; node = node->m_next)
-            {
-                connection_t const& connection = node->m_connection;
-                if (!connection.m_subscriber)
-                    continue;
-                reinterpret_cast<void (*)(void*, typeless_connection_t, Args...)>(connection.m_caster)(
-                    connection.m_receiver, connection.m_method, args...);
-                if (!check_valid_state_after_call(state))
-                    return;
-            }
+            connection_t const& connection = node->m_connection;
+            if (!connection.m_subscriber)
+                continue;
+            reinterpret_cast<caster_t>(connection.m_caster)(connection.m_receiver, connection.m_method,
+                                                            std::get<Indices>(arguments)...);
+            if (!*valid)
+                return;
         }
-        catch (...)
-        {
-            abandon_call(state);
-            throw;
-        }
-        post_call(state);
     }
 };
 

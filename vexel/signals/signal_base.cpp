@@ -107,10 +107,21 @@ void subscriber_base_t::die()
 
 // Signals -------------------------------------------------------------------------------------------------------------
 
+namespace
+{
+
+void report_unknown_connection()
+{
+    ReportAssertion("\"signal_t::disconnect: attempt to disconnect unknown connection\" && subscriber_found",
+                    "functor/signal", 314, "void plinth::_internal::signal_base_t::_erase(const connection_t &)");
+}
+
+}  // namespace
+
 void signal_base_t::_insert(connection_t const& connection)
 {
     signal_state_t& state = get_signal_state();
-    core_guard const guard(state.m_mutex);
+    core_guard const guard(state);
     if (state.m_connections.find(connection)) [[unlikely]]
     {
         ReportAssertion("\"signal_t::_insert: this connection is already exists.\" == NULL", "functor/signal", 299,
@@ -125,15 +136,14 @@ void signal_base_t::_insert(connection_t const& connection)
 
 void signal_base_t::_erase(connection_t const& connection)
 {
-    signal_state_t& state = get_signal_state();
-    core_guard const guard(state.m_mutex);
+    signal_state_t* const found_state = find_signal_state();
+    if (!found_state) [[unlikely]]
+        return report_unknown_connection();
+    signal_state_t& state = *found_state;
+    core_guard const guard(state);
     connection_node_t* const found = state.m_connections.find(connection);
     if (!found) [[unlikely]]
-    {
-        ReportAssertion("\"signal_t::disconnect: attempt to disconnect unknown connection\" && subscriber_found",
-                        "functor/signal", 314, "void plinth::_internal::signal_base_t::_erase(const connection_t &)");
-        return;
-    }
+        return report_unknown_connection();
     if (state.m_is_valid_flag)
         state.m_connections.invalidate(found);
     else
@@ -147,7 +157,7 @@ void signal_base_t::_erase_all()
     signal_state_t* const state = find_signal_state();
     if (!state)
         return;
-    core_guard const guard(state->m_mutex);
+    core_guard const guard(*state);
     bool const emitting = state->m_is_valid_flag != nullptr;
     for (connection_node_t* node = state->m_connections.first(); node; node = node->m_next)
     {
@@ -166,7 +176,7 @@ void signal_base_t::on_subscriber_destroy(subscriber_base_t* subscriber)
     signal_state_t* const state = find_signal_state();
     if (!state)
         return;
-    core_guard const guard(state->m_mutex);
+    core_guard const guard(*state);
     while (connection_node_t* const node = state->m_connections.find_subscriber(subscriber))
     {
         if (state->m_is_valid_flag)
@@ -181,7 +191,7 @@ std::size_t signal_base_t::connection_count() const
     signal_state_t* const state = find_signal_state();
     if (!state)
         return 0;
-    core_guard const guard(state->m_mutex);
+    core_guard const guard(*state);
     return state->m_connections.size();
 }
 
@@ -196,53 +206,87 @@ void signal_base_t::leave_connections()
 
 // Emission ------------------------------------------------------------------------------------------------------------
 
-connection_node_t const* signal_base_t::begin_call(onstack_signal_state_t& state) const
+namespace
 {
-    signal_state_t& signal = *find_signal_state();
-    state.m_state = &signal;
-    state.m_mutex = &signal.m_mutex;
-    mutex_core::acquire(signal.m_mutex);
 
+inline void begin_call(signal_state_t& signal, onstack_signal_state_t& state)
+{
+    mutex_core::acquire(signal);
+    state.m_mutex = &signal;
     state.m_valid = true;
     state.m_nested = signal.m_is_valid_flag != nullptr;
     if (!state.m_nested)
         signal.m_is_valid_flag = &state.m_valid;
     state.m_flag = signal.m_is_valid_flag;
-    return *state.m_flag ? signal.m_connections.first() : nullptr;
 }
 
-void signal_base_t::post_call(onstack_signal_state_t& state) const
+// `signal`: the state, which a signal that died in its emission has left to the emission.
+
+inline bool check_valid(signal_state_t& signal, onstack_signal_state_t& state)
+{
+    if (*state.m_flag) [[likely]]
+        return true;
+    mutex_core::release(signal);
+    if (!state.m_nested)
+        subscriber_state_t::destroy(&signal, true);
+    return false;
+}
+
+inline void end_call(signal_state_t& signal, onstack_signal_state_t& state)
 {
     if (*state.m_flag && !state.m_nested)
     {
-        state.m_state->m_is_valid_flag = nullptr;
-        remove_invalid_connections();
+        signal.m_is_valid_flag = nullptr;
+        signal.m_connections.tidy();
     }
-    mutex_core::release(*state.m_mutex);
+    mutex_core::release(signal);
 }
 
-void signal_base_t::abandon_call(onstack_signal_state_t& state) const
+}  // namespace
+
+void signal_base_t::emit_by(slot_loop_t loop, void* arguments) const
 {
-    if (check_valid_state_after_call(state))
-        post_call(state);
+    signal_state_t& signal = *find_signal_state();
+    onstack_signal_state_t state;
+    begin_call(signal, state);
+    connection_node_t const* const first = signal.m_connections.first();
+    if (first && *state.m_flag)
+    {
+        try
+        {
+            loop(first, state, arguments);
+        }
+        catch (...)
+        {
+            if (check_valid(signal, state))
+                end_call(signal, state);
+            throw;
+        }
+        if (!check_valid(signal, state))
+            return;
+    }
+    end_call(signal, state);
 }
 
-void signal_base_t::leave_dead_signal(onstack_signal_state_t& state)
+bool signal_base_t::check_valid_state_after_call(onstack_signal_state_t& state)
 {
-    mutex_core::release(*state.m_mutex);
-    if (!state.m_nested)
-        subscriber_state_t::destroy(state.m_state, true);
+    return check_valid(signal_state_t::of(state), state);
 }
+
+void signal_base_t::post_call(onstack_signal_state_t& state) { end_call(signal_state_t::of(state), state); }
 
 void signal_base_t::remove_invalid_connections() const
 {
     signal_state_t* const state = find_signal_state();
     if (!state)
         return;
+    core_guard const guard(*state);
     if (state->m_is_valid_flag) [[unlikely]]
         ReportAssertion("!m_is_valid_flag", "functor/signal", 348,
                         "void plinth::_internal::signal_base_t::remove_invalid_connections() const");
     state->m_connections.remove_invalid();
+    if (!state->m_is_valid_flag)
+        state->m_connections.tidy();
 }
 
 }  // namespace plinth::_internal

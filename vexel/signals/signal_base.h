@@ -58,10 +58,9 @@ struct connection_node_t
 struct onstack_signal_state_t
 {
     threading::mutex_t* m_mutex;
-    bool m_valid;             ///< The flag of the outermost emission; false: the signal is gone.
-    bool* m_flag;             ///< The flag in use: the outermost emission's.
-    bool m_nested;            ///< This is not the outermost emission.
-    signal_state_t* m_state;  ///< Holds the mutex; freed by the outermost emission of a signal that died in it.
+    bool m_valid;   ///< The flag of the outermost emission; false: the signal is gone.
+    bool* m_flag;   ///< The flag in use: the outermost emission's.
+    bool m_nested;  ///< This is not the outermost emission.
 };
 
 /// Anything that may be the target of a connection. When it dies it leaves all signals that it knows.
@@ -146,18 +145,12 @@ public:
     std::size_t connection_count() const;
 
     // The emission's helpers ---------------------------------------------------------------------------------------
+    // The first two don't touch the signal, which may be gone.
 
-    /// False: the slot just called has destroyed the signal. Everything is released then, and the emission must return
-    /// without touching the signal. Doesn't touch it either.
-    static bool check_valid_state_after_call(onstack_signal_state_t& state)
-    {
-        if (*state.m_flag) [[likely]]
-            return true;
-        leave_dead_signal(state);
-        return false;
-    }
+    /// After a slot: false when it has destroyed the signal. This level of the emission is then over, its mutex released.
+    static bool check_valid_state_after_call(onstack_signal_state_t& state);
     /// Ends an emission: the outermost one removes what was cleared.
-    void post_call(onstack_signal_state_t& state) const;
+    static void post_call(onstack_signal_state_t& state);
     /// Removes what was cleared. Not during an emission, which is reported to the assertion reporter.
     void remove_invalid_connections() const;
 
@@ -165,16 +158,16 @@ protected:
     /// Nothing was ever connected to this signal, nor was it a slot itself.
     bool is_unconnected() const { return m_word.load(std::memory_order_relaxed) <= signal_tag; }
 
-    /// Begins an emission. Returns the first place of the list, or null when there is nothing to call.
-    connection_node_t const* begin_call(onstack_signal_state_t& state) const;
-    /// Ends an emission in which a slot threw.
-    void abandon_call(onstack_signal_state_t& state) const;
+    /// What an emission does per signature: calls the connections from `node` on, until state's flag is false.
+    using slot_loop_t = void (*)(connection_node_t const* node, onstack_signal_state_t const& state, void* arguments);
+
+    /// Emits; the signal must not be unconnected.
+    void emit_by(slot_loop_t loop, void* arguments) const;
 
 private:
     signal_state_t* find_signal_state() const;
     signal_state_t& get_signal_state();
     void leave_connections();
-    static void leave_dead_signal(onstack_signal_state_t& state);
 };
 
 }  // namespace _internal

@@ -109,7 +109,7 @@ void connection_list::clear() noexcept
 {
     m_nodes.clear();
     m_index.reset();
-    m_invalid_count = 0;
+    tidy();
 }
 
 void connection_list::invalidate(connection_node_t* node) noexcept
@@ -117,21 +117,30 @@ void connection_list::invalidate(connection_node_t* node) noexcept
     if (m_index)
         m_index->erase(node);
     node->m_connection = connection_t();
-    ++m_invalid_count;
+    m_untidy = true;
 }
 
 void connection_list::remove_invalid() noexcept
 {
-    for (connection_node_t* node = first(); m_invalid_count != 0;)
+    for (connection_node_t* node = first(); node; node = node->m_next)
     {
-        connection_node_t* const next = node->m_next;
-        if (!node->m_connection.m_subscriber)
-        {
-            m_nodes.remove(node);
-            --m_invalid_count;
-        }
-        node = next;
+        if (node->m_connection.m_subscriber)
+            continue;
+        m_nodes.unhook(node);
+        node->m_previous = m_removed;
+        m_removed = node;
     }
+}
+
+void connection_list::tidy_up() noexcept
+{
+    remove_invalid();
+    while (connection_node_t* const node = m_removed)
+    {
+        m_removed = node->m_previous;
+        m_nodes.discard(node);
+    }
+    m_untidy = false;
 }
 
 void connection_list::make_index()

@@ -7,8 +7,16 @@
 namespace plinth::threading
 {
 
-// Its address is the mark of the running thread. The model keeps the access down to one load in a shared library.
-extern constinit thread_local char this_thread_mark __attribute__((visibility("hidden"), tls_model("initial-exec")));
+/// Tells the running thread from all others that run.
+inline void const* this_thread() noexcept
+{
+#if __has_builtin(__builtin_thread_pointer)
+    return __builtin_thread_pointer();
+#else
+    static constinit thread_local char mark = 0;
+    return &mark;
+#endif
+}
 
 /// Threads that wait for some mutex of one group; groups share out all mutexes by address. It lies outside the mutex,
 /// because a thread that has just released one may not touch it any more: its next owner may already have destroyed it.
@@ -24,7 +32,7 @@ struct mutex_core
 {
     static void acquire(mutex_t& mutex) noexcept
     {
-        void const* const self = &this_thread_mark;
+        void const* const self = this_thread();
         if (mutex.m_owner.load(std::memory_order_relaxed) == self)
             ++mutex.m_nested;
         else if (!take(mutex, self)) [[unlikely]]
@@ -33,7 +41,7 @@ struct mutex_core
 
     static void release(mutex_t& mutex) noexcept
     {
-        if (mutex.m_owner.load(std::memory_order_relaxed) != &this_thread_mark) [[unlikely]]
+        if (mutex.m_owner.load(std::memory_order_relaxed) != this_thread()) [[unlikely]]
             std::terminate();
         if (mutex.m_nested != 0)
         {

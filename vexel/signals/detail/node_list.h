@@ -48,12 +48,17 @@ public:
         ++m_size;
     }
 
-    /// Unhooks and discards.
-    void remove(Node* node) noexcept
+    /// Takes a node out of the list and leaves its own links as they are. It goes on to discard.
+    void unhook(Node* node) noexcept
     {
         (node->m_previous ? node->m_previous->m_next : m_first) = node->m_next;
         (node->m_next ? node->m_next->m_previous : m_last) = node->m_previous;
         --m_size;
+    }
+
+    void remove(Node* node) noexcept
+    {
+        unhook(node);
         discard(node);
     }
 

@@ -74,12 +74,19 @@ public:
 
     void append(new_node& node, connection_t const& connection) noexcept;
     void remove(connection_node_t* node) noexcept;
-    void clear() noexcept;
+    void clear() noexcept;  ///< No emission may run, or none that goes on.
 
     /// Clears the connection; its node stays.
     void invalidate(connection_node_t* node) noexcept;
-    /// Removes all cleared ones.
+    /// Removes all cleared ones from the list. Their nodes stay where they are, and still lead on, until tidy: an
+    /// emission may stand on them.
     void remove_invalid() noexcept;
+    /// Removes all cleared ones. No emission may run.
+    void tidy() noexcept
+    {
+        if (m_untidy) [[unlikely]]
+            tidy_up();
+    }
 
 private:
     struct indices
@@ -101,10 +108,12 @@ private:
         return hash_words(reinterpret_cast<std::uintptr_t>(subscriber));
     }
     void make_index();
+    void tidy_up() noexcept;
 
     node_list<connection_node_t> m_nodes;
     std::unique_ptr<indices> m_index;
-    std::size_t m_invalid_count = 0;
+    connection_node_t* m_removed = nullptr;  ///< Nodes out of the list, chained by m_previous.
+    bool m_untidy = false;
 };
 
 /// What a connected subscriber has.
@@ -116,13 +125,17 @@ struct subscriber_state_t
     static void destroy(subscriber_state_t* state, bool is_signal) noexcept;
 };
 
-/// What a connected signal has besides. Its mutex lies here and not in the signal, since it must outlive a signal that
-/// dies in its own emission.
-struct signal_state_t : subscriber_state_t
+/// What a connected signal has besides. Its mutex, the second base, lies here and not in the signal, since it must outlive
+/// a signal that dies in its own emission; such an emission knows nothing but the mutex.
+struct signal_state_t : subscriber_state_t, threading::mutex_t
 {
     connection_list m_connections;
     bool* m_is_valid_flag = nullptr;  ///< While an emission runs, the flag on the stack of the outermost one.
-    threading::mutex_t m_mutex;
+
+    static signal_state_t& of(onstack_signal_state_t const& state)
+    {
+        return static_cast<signal_state_t&>(*state.m_mutex);
+    }
 };
 
 }  // namespace plinth::_internal

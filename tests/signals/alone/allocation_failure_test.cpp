@@ -1,0 +1,323 @@
+// Every allocation in turn fails, and everything is as it was before. The operators stand for the whole program.
+
+#include "tests/signals/receiver.h"
+#include "tests/signals/reports.h"
+#include "vexel/signals/notify.h"
+#include "vexel/signals/signal.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <new>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace
+{
+
+constexpr long never = -1;
+thread_local long s_untilFailure = never;  // allocations that still succeed
+thread_local long s_made = 0;
+
+void* Allocate(std::size_t size)
+{
+    if (s_untilFailure == 0)
+        return nullptr;
+    if (s_untilFailure > 0)
+        --s_untilFailure;
+    ++s_made;
+    return std::malloc(size ? size : 1);
+}
+
+}  // namespace
+
+void* operator new(std::size_t size)
+{
+    void* const memory = Allocate(size);
+    if (!memory)
+        throw std::bad_alloc();
+    return memory;
+}
+void* operator new[](std::size_t size) { return operator new(size); }
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept { return Allocate(size); }
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete[](void* memory) noexcept { std::free(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+
+namespace
+{
+
+using namespace vexelbase;
+using plinth::signal_t;
+using plinth::subscriber_base_t;
+
+class CCounter : public subscriber_base_t
+{
+public:
+    void Slot() { ++m_Calls; }
+    void OtherSlot() { ++m_Calls; }
+
+    int m_Calls = 0;
+};
+
+/// Runs `deed` with its first, second, third ... allocation failing, each time on what `before` has made anew, until it
+/// succeeds. `after` looks at what a failure left. Returns the number of failures.
+template <class World>
+int FailAtEach(std::function<void(World&)> const& before, std::function<void(World&)> const& deed,
+               std::function<void(World&)> const& after)
+{
+    for (long allowed = 0;; ++allowed)
+    {
+        World world;
+        before(world);
+        bool failed = false;
+        s_untilFailure = allowed;
+        try
+        {
+            deed(world);
+        }
+        catch (std::bad_alloc const&)
+        {
+            failed = true;
+        }
+        s_untilFailure = never;
+        if (!failed)
+            return static_cast<int>(allowed);
+        after(world);
+        // And nothing stands in the way of a second try.
+        deed(world);
+    }
+}
+
+struct SWorld
+{
+    signal_t<> signal;
+    std::vector<std::unique_ptr<CCounter>> receivers;
+    std::vector<std::unique_ptr<signal_t<>>> others;
+    CCounter receiver;
+};
+
+bool IsFree(signal_t<>& signal)
+{
+    std::size_t count = 0;
+    std::thread other([&] { count = 1 + signal.connection_count(); });
+    other.join();
+    return count != 0;
+}
+
+TEST(AllocationFailure, AConstructedSignalTakesNoMemory)
+{
+    long const before = s_made;
+    {
+        signal_t<int, std::string const&> signal;
+        signal(1, std::string());
+    }
+    EXPECT_EQ(s_made, before);
+}
+
+TEST(AllocationFailure, AnEmissionTakesNoMemory)
+{
+    signal_t<int&> signal;
+    struct SAdds : subscriber_base_t
+    {
+        void Slot(int& value) { ++value; }
+    };
+    std::vector<SAdds> receivers(100);
+    for (SAdds& receiver : receivers)
+        signal.connect(&receiver, &SAdds::Slot);
+    long const before = s_made;
+    int value = 0;
+    signal(value);
+    EXPECT_EQ(s_made, before);
+    EXPECT_EQ(value, 100);
+}
+
+TEST(AllocationFailure, AConnectionThatComesAndGoesTakesMemoryOnlyTheFirstTime)
+{
+    signal_t<> signal;
+    CCounter receiver;
+    signal.connect(&receiver, &CCounter::Slot);
+    signal.disconnect(&receiver, &CCounter::Slot);
+    long const before = s_made;
+    for (int i = 0; i < 100; ++i)
+    {
+        signal.connect(&receiver, &CCounter::Slot);
+        signal.disconnect(&receiver, &CCounter::Slot);
+    }
+    EXPECT_EQ(s_made, before);
+}
+
+TEST(AllocationFailure, InTheFirstConnectLeavesBothUnconnected)
+{
+    int const failures = FailAtEach<SWorld>(
+        [](SWorld&) {}, [](SWorld& world) { world.signal.connect(&world.receiver, &CCounter::Slot); },
+        [](SWorld& world)
+        {
+            EXPECT_EQ(world.signal.connection_count(), 0u);
+            EXPECT_EQ(world.receiver.signal_count(), 0u);
+            EXPECT_TRUE(IsFree(world.signal));
+            world.signal();
+            EXPECT_EQ(world.receiver.m_Calls, 0);
+        });
+    EXPECT_EQ(failures, 2) << "the signal's state and the receiver's";
+}
+
+TEST(AllocationFailure, InAFurtherConnectLeavesTheOthersAlone)
+{
+    int const failures = FailAtEach<SWorld>(
+        [](SWorld& world)
+        {
+            for (int i = 0; i < 5; ++i)
+            {
+                world.receivers.push_back(std::make_unique<CCounter>());
+                world.signal.connect(world.receivers.back().get(), &CCounter::Slot);
+                world.others.push_back(std::make_unique<signal_t<>>());
+                world.others.back()->connect(&world.receiver, &CCounter::Slot);
+            }
+        },
+        [](SWorld& world) { world.signal.connect(&world.receiver, &CCounter::Slot); },
+        [](SWorld& world)
+        {
+            EXPECT_EQ(world.signal.connection_count(), 5u);
+            EXPECT_EQ(world.receiver.signal_count(), 5u);
+            EXPECT_EQ(world.receiver.count_signal(&world.signal), 0u);
+            EXPECT_TRUE(IsFree(world.signal));
+            world.signal();
+            EXPECT_EQ(world.receivers[0]->m_Calls + world.receivers[4]->m_Calls, 2);
+            EXPECT_EQ(world.receiver.m_Calls, 0);
+        });
+    EXPECT_EQ(failures, 2) << "a node on each side";
+}
+
+TEST(AllocationFailure, WhereALongListGetsItsIndexLeavesEverythingAsItWas)
+{
+    // Up to the length at which both sides begin to search by an index, and on to where these grow.
+    for (int length = 14; length <= 70; ++length)
+    {
+        int const failures = FailAtEach<SWorld>(
+            [length](SWorld& world)
+            {
+                for (int i = 0; i < length; ++i)
+                {
+                    world.receivers.push_back(std::make_unique<CCounter>());
+                    world.signal.connect(world.receivers.back().get(), &CCounter::Slot);
+                    world.others.push_back(std::make_unique<signal_t<>>());
+                    world.others.back()->connect(&world.receiver, &CCounter::Slot);
+                }
+            },
+            [](SWorld& world) { world.signal.connect(&world.receiver, &CCounter::Slot); },
+            [length](SWorld& world)
+            {
+                EXPECT_EQ(world.signal.connection_count(), static_cast<std::size_t>(length));
+                EXPECT_EQ(world.receiver.signal_count(), static_cast<std::size_t>(length));
+                world.signal();
+                EXPECT_EQ(world.receivers.back()->m_Calls, 1);
+
+                // Searches still find all that is there, and nothing else.
+                signals_test::CReports reports;
+                world.signal.disconnect(&world.receiver, &CCounter::Slot);
+                EXPECT_EQ(reports.Count(), 1u);
+                for (auto const& receiver : world.receivers)
+                    world.signal.disconnect(receiver.get(), &CCounter::Slot);
+                EXPECT_EQ(reports.Count(), 1u);
+                EXPECT_EQ(world.signal.connection_count(), 0u);
+                for (auto const& other : world.others)
+                    EXPECT_EQ(world.receiver.count_signal(other.get()), 1u);
+            });
+        EXPECT_GE(failures, 2) << length;
+    }
+}
+
+TEST(AllocationFailure, InAConnectDuringAnEmissionLeavesTheEmissionRunning)
+{
+    struct SEmission : SWorld
+    {
+        struct SActs : subscriber_base_t
+        {
+            void Slot() { m_World->signal.connect(&m_World->receiver, &CCounter::Slot); }
+            SEmission* m_World = nullptr;
+        } acts;
+        CCounter last;
+    };
+    int const failures = FailAtEach<SEmission>(
+        [](SEmission& world)
+        {
+            world.acts.m_World = &world;
+            world.signal.connect(&world.acts, &SEmission::SActs::Slot);
+            world.signal.connect(&world.last, &CCounter::Slot);
+        },
+        [](SEmission& world) { world.signal(); },
+        [](SEmission& world)
+        {
+            EXPECT_EQ(world.last.m_Calls, 0) << "the exception ended the emission";
+            EXPECT_EQ(world.signal.connection_count(), 2u);
+            EXPECT_EQ(world.receiver.signal_count(), 0u);
+            EXPECT_TRUE(IsFree(world.signal));
+        });
+    EXPECT_GE(failures, 1);
+}
+
+TEST(AllocationFailure, DisconnectingAndDyingTakeNoMemory)
+{
+    SWorld world;
+    for (int i = 0; i < 100; ++i)
+    {
+        world.receivers.push_back(std::make_unique<CCounter>());
+        world.signal.connect(world.receivers.back().get(), &CCounter::Slot);
+        world.others.push_back(std::make_unique<signal_t<>>());
+        world.others.back()->connect(&world.receiver, &CCounter::Slot);
+    }
+    s_untilFailure = 0;
+    world.signal.disconnect(world.receivers[3].get(), &CCounter::Slot);
+    world.receivers.erase(world.receivers.begin(), world.receivers.begin() + 20);
+    world.others.clear();
+    world.signal._erase_all();
+    s_untilFailure = never;
+    EXPECT_EQ(world.signal.connection_count(), 0u);
+    EXPECT_EQ(world.receiver.signal_count(), 0u);
+}
+
+// Senders and subscribers ---------------------------------------------------------------------------------------------
+
+TEST(AllocationFailure, InTheConstructorOfASenderOrASubscriberLeavesNothing)
+{
+    struct SNothing
+    {
+    };
+    int const failures = FailAtEach<SNothing>([](SNothing&) {},
+                                              [](SNothing&)
+                                              {
+                                                  CImplEventSender<IEventSender> sender;
+                                                  CTimerNotify subscriber;
+                                              },
+                                              [](SNothing&) {});
+    EXPECT_GE(failures, 2);
+}
+
+TEST(AllocationFailure, InSubscribeLeavesNoDanglingSubscriber)
+{
+    struct SSending
+    {
+        CImplEventSender<IEventSender> sender;
+        std::unique_ptr<CTimerNotify> subscriber = std::make_unique<CTimerNotify>();
+    };
+    int const failures =
+        FailAtEach<SSending>([](SSending& world) { world.sender.SetSupportedEvent(typeid(ITimerNotify)); },
+                             [](SSending& world)
+                             {
+                                 if (world.subscriber)
+                                     world.sender.Subscribe(world.subscriber.get(), typeid(ITimerNotify), true);
+                             },
+                             [](SSending& world)
+                             {
+                                 EXPECT_FALSE(world.sender.IsSubscribed(typeid(ITimerNotify)));
+                                 world.subscriber.reset();
+                             });
+    EXPECT_EQ(failures, 2) << "the place in the list, and the note of the subscriber";
+}
+
+}  // namespace
