@@ -31,7 +31,7 @@ def read(paths):
                 print(f"{entry['name']}: {entry['error_message']}", file=sys.stderr)
                 continue
             item, case, peer = words[:3]
-            more = [w for w in words[3:] if not w.startswith(("repeats:", "min_time:", "real_time", "iterations:"))]
+            more = [w for w in words[3:] if not w.startswith(("repeats:", "min_time:", "real_time", "manual_time", "iterations:"))]
             case = "/".join([case, *more])
             time = entry["real_time"] * UNITS[entry["time_unit"]]
             table.setdefault((item, case, "ns"), {}).setdefault(peer, []).append(time)

@@ -142,7 +142,8 @@ void CBaseControlImp::UpdateElement(CVisualElement* element, UpdateType type)
     if (!m_FullUpdate && (type & utElement))
     {
         int const count = m_Updates.GetCount();
-        m_Updates.AddElement(element);
+        if (element->m_Control == this)
+            m_Updates.AddElement(element);
         if (m_Updates.GetCount() == count)
             return;  // asked for already, or not displayable
     }
@@ -162,10 +163,16 @@ void CBaseControlImp::Forget(CVisualElement* element)
     for (SPass* pass = m_Passes; pass; pass = pass->m_Outer)
         pass->m_Entries.RemoveElement(element);
 
-    for (CVisualElement** const pointer :
-         {&m_FocusedElement, &m_FocussingElement, &m_MouseElement, &m_PressedElement, &m_DragTarget, &m_TabHandler})
-        if (*pointer == element)
-            *pointer = nullptr;
+    auto const clear = [element](CVisualElement*& pointer) {
+        if (pointer == element)
+            pointer = nullptr;
+    };
+    clear(m_FocusedElement);
+    clear(m_FocussingElement);
+    clear(m_MouseElement);
+    clear(m_PressedElement);
+    clear(m_DragTarget);
+    clear(m_TabHandler);
     bool const dragged = m_DraggedElement == element;
     bool const captured = m_Capture == element;
     if (dragged)

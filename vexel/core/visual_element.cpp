@@ -3,9 +3,11 @@
 #include "vexel/core/control.h"
 #include "vexel/core/detail/element_parts.h"
 #include "vexel/core/dpi.h"
+#include "vexel/core/element_observer.h"
 #include "vexel/platform/sys_window.h"
 #include "vexel/signals/assertion.h"
 
+#include <cstddef>
 #include <utility>
 
 namespace vexel
@@ -15,8 +17,10 @@ unsigned long CVisualElement::s_TreeVersion = 1;
 unsigned long CVisualElement::s_DestroyCount = 0;
 
 CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, Alignment alignment)
-    : m_Size(extent), m_Alignment(alignment), m_Children(this)
+    : m_Alignment(alignment), m_Size(extent), m_Children(this)
 {
+    if (IElementObserver* const observer = GetElementObserver())
+        observer->ElementMade(this);
     ApplyDPIScale(m_Size);
     try
     {
@@ -24,6 +28,7 @@ CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, 
     }
     catch (...)
     {
+        CAliveLink::Forget(this, sizeof *this);
         Withdraw();  // a slot threw, and the destructor won't run
         throw;
     }
@@ -32,7 +37,8 @@ CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, 
 CVisualElement::~CVisualElement()
 {
     m_Destroying = true;
-    CAliveGuard::Forget(this);  // no chain on the stack comes back to what is left
+    m_DestroyTop = m_Parent && m_Parent->m_Destroying ? m_Parent->m_DestroyTop : this;
+    CAliveLink::Forget(this, sizeof *this);  // no chain on the stack comes back to what is left
     m_SigDestroy(this);
     OnChange(this, utRemoved);
     m_Children.Clear();
@@ -42,6 +48,8 @@ CVisualElement::~CVisualElement()
 // The last steps of an element's life: nobody knows it afterwards.
 void CVisualElement::Withdraw() noexcept
 {
+    if (IElementObserver* const observer = GetElementObserver())
+        observer->ElementGone(this);
     m_Destroying = true;
     if (m_Parent)
     {
@@ -55,7 +63,6 @@ void CVisualElement::Withdraw() noexcept
     DropFont();
     ++s_TreeVersion;
     ++s_DestroyCount;
-    CAliveGuard::Forget(this);
 }
 
 // Tree --------------------------------------------------------------------------------------------------------------------
@@ -181,9 +188,15 @@ bool CVisualElement::IsChildrenAvailable(int count) const
 
 CVisualElement* CVisualElement::FindChildAt(int x, int y) const
 {
-    for (CVisualElement* const child : m_Children)
-        if (child->m_Visible && child->m_Pos.Contains(x, y))
-            return child;
+    constexpr std::ptrdiff_t ahead = 8;  // siblings lie far apart in memory: have them fetched in time
+    CVisualElement* const* const end = m_Children.end();
+    for (CVisualElement* const* child = m_Children.begin(); child != end; ++child)
+    {
+        if (end - child > ahead)
+            __builtin_prefetch(&child[ahead]->m_Pos);
+        if ((*child)->m_Visible && (*child)->m_Pos.Contains(x, y))
+            return *child;
+    }
     return nullptr;
 }
 

@@ -300,6 +300,7 @@ public:
 private:
     friend class CBaseControlImp;
     friend class CChildren;
+    friend class CElementList;
 
     struct SFont;   // a font with what it comes to on the present default font; shared by equal elements
     struct STexts;  // what few elements have
@@ -329,17 +330,18 @@ private:
 
     // What layout, hit tests and painting touch stands close together.
     rectangle<int> m_Pos;
-    rectangle<int> m_ValidRect;  // parent's pixels; empty: ends equal
+    bool m_Visible = true;
+    bool m_Enabled = true;
+    bool m_Destroying = false;
+    bool m_Pressed = false;
+    Alignment m_Alignment;
     size<int> m_Size;
     CVisualElement* m_Parent = nullptr;
     IControl* m_Control = nullptr;
-    Alignment m_Alignment;
-    bool m_Visible = true;
-    bool m_Enabled = true;
-    bool m_Pressed = false;
+    rectangle<int> m_ValidRect;  // parent's pixels; empty: ends equal
+    int m_ListIndex = -1;        // in the control's list of pending repaints, if it stands there
     bool m_CanHaveFocus = false;
     bool m_TooltipMultiline = false;
-    bool m_Destroying = false;
     bool m_IsKeyDelegate = false;  // of somebody
     bool m_WaitsForDelegate = false;
     _color m_BkColor;
@@ -352,7 +354,8 @@ private:
     IContextMenu* m_ContextMenu = nullptr;
     CVisualElement* m_KeyDelegate = nullptr;
     unsigned long m_Id = 0;
-    CChildren m_Children;  // last: destroyed first
+    CVisualElement* m_DestroyTop = nullptr;  // while being destroyed: the uppermost ancestor that is, too
+    CChildren m_Children;                    // last: destroyed first
 };
 
 /// The root that each control makes for itself: draws nothing of its own.

@@ -10,6 +10,9 @@ namespace vexelbase
 
 CBaseWindow::~CBaseWindow()
 {
+    // Still there if the window is deleted by its own OnDestroy.
+    if (m_Target)
+        m_Target->ForgetWindow();
     CloseQueue();
 }
 
@@ -248,18 +251,8 @@ void CBaseWindow::StartDestroying()
 
     CWindowEvent event;
     Deliver(&CVexelControl::OnDestroy, &event);
-    if (life.expired() || !m_Target)
-        return;
-    try
-    {
-        m_Target->SetSysWindow(nullptr);
-    }
-    catch (...)
-    {
-        ReportException();
-    }
-    if (!life.expired())
-        m_Target = nullptr;
+    if (!life.expired() && m_Target)
+        std::exchange(m_Target, nullptr)->ForgetWindow();
 }
 
 } // namespace vexelbase

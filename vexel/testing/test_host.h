@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
 #include "vexel/export.h"
 #include "vexel/platform/geometry.h"
 #include "vexel/platform/memory/memory_window.h"
@@ -15,12 +16,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-
-namespace vexel
-{
-class CBaseControl;
-class CVisualElement;
-}
 
 namespace vexelbase::memory
 {
@@ -60,6 +55,7 @@ public:
     bool HasControl() const { return m_Control != nullptr; }
     vexelbase::memory::CMemoryWindow& Window() const { return *m_Window; }
     bool HasWindow() const { return m_Window != nullptr; }
+    /// The memory system, which it makes the current one if there is none. Needs no host.
     static vexelbase::memory::CMemorySystem& System();
     CTestClock& Clock() { return m_Clock; }
     CMouse& Mouse() { return m_Mouse; }
@@ -123,6 +119,7 @@ private:
 
     vexelbase::point<int> ToControl(CVisualElement const& element, int x, int y) const;
     void Start(int width, int height, double scale);
+    vexelbase::memory::CMemoryNode* KeyTarget() const { return m_Window.get(); }
 
     std::unique_ptr<vexelbase::memory::CMemoryWindow> m_Window;
     std::unique_ptr<CBaseControl> m_Control;

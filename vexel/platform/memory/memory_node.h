@@ -46,7 +46,7 @@ public:
     virtual void NodeWheel(CMouseWheelEvent&) {}
     virtual void NodeHover(CMouseEvent&) {}
     virtual void NodeLeave(CMouseEvent&) {}
-    /// True: the key was dealt with, so that a Tab does not move the focus on and no character follows.
+    /// True: the key was dealt with, so that a Tab does not move the focus on.
     virtual bool NodeKeyDown(CKeyboardEvent&) { return false; }
     virtual void NodeKeyUp(CKeyboardEvent&) {}
     virtual void NodeChar(CKeyboardEvent&) {}

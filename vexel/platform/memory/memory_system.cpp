@@ -186,6 +186,11 @@ int CMemorySystem::GetSystemMetric(int metric)
     return metric == smScrollBarWidth || metric == smScrollBarHeight ? m_Metrics[metric] : 0;
 }
 
+rectangle<int> CMemorySystem::GetWorkArea(point<int> const&)
+{
+    return {0, 0, ScreenSize.width, ScreenSize.height};
+}
+
 vexel_ptr<ISysTimer> CMemorySystem::CreateTimer(int period, int)
 {
     return MakeRef<CMemoryTimer>(m_Timers, period);
@@ -347,7 +352,7 @@ void CMemorySystem::SetHeldKeys(int keys)
     m_Keys = keys & (ksShift | ksControl | ksAlt);
 }
 
-bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise)
+bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise, bool* passOn)
 {
     CMemoryNode* const target = m_Focus ? m_Focus : otherwise;
     if (!target)
@@ -355,6 +360,8 @@ bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise)
     std::weak_ptr<int> const life = target->GetNodeLife();
     CKeyboardEvent event(GetKeyState(), virtualKey);
     bool const done = target->NodeKeyDown(event);
+    if (passOn)
+        *passOn = event.m_PassOn;
     if (!done && virtualKey == vkTab && !(m_Keys & (ksControl | ksAlt)) && !life.expired())
         TabFrom(target, !(m_Keys & ksShift));
     SettlePointer();

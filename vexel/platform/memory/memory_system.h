@@ -75,8 +75,9 @@ public:
 
     // The user's keyboard: goes to the node with the focus, or to `otherwise` while there is none -------------------
     void SetHeldKeys(int keys);                  ///< ksShift, ksControl, ksAlt.
-    /// Returns whether the key was dealt with.
-    bool KeyDown(int virtualKey, CMemoryNode* otherwise = nullptr);
+    /// Returns whether the key was dealt with. A Tab that was not moves the focus on. `passOn`: gets the event's pass-on
+    /// flag; where it was cleared, the key's character is not to follow.
+    bool KeyDown(int virtualKey, CMemoryNode* otherwise = nullptr, bool* passOn = nullptr);
     void KeyUp(int virtualKey, CMemoryNode* otherwise = nullptr);
     void Character(char byte, CMemoryNode* otherwise = nullptr);
 
@@ -99,6 +100,7 @@ public:
     font GetDefaultFont() override;              ///< "Square", sans, size 8.
     int GetSystemMetric(int metric) override;
     double GetScale() override { return m_Scale; }
+    rectangle<int> GetWorkArea(point<int> const& screen) override;  ///< The whole screen.
     vexel_ptr<ISysTimer> CreateTimer(int period, int option) override;
     vexel_ptr<IRasterPicture> CreateRasterPicture(size<int> const& pictureSize) override;
     vexel_ptr<IRasterPicture> CreateRasterPicture(XPMBuf const& buffer) override;
