@@ -12,7 +12,7 @@ CBaseWindow::~CBaseWindow()
 {
     // Still there if the window is deleted by its own OnDestroy.
     if (m_Target)
-        m_Target->ForgetWindow();
+        m_Target->SetSysWindow(nullptr);
     CloseQueue();
 }
 
@@ -252,7 +252,7 @@ void CBaseWindow::StartDestroying()
     CWindowEvent event;
     Deliver(&CVexelControl::OnDestroy, &event);
     if (!life.expired() && m_Target)
-        std::exchange(m_Target, nullptr)->ForgetWindow();
+        std::exchange(m_Target, nullptr)->SetSysWindow(nullptr);
 }
 
 } // namespace vexelbase
