@@ -148,6 +148,15 @@ TEST_F(Children, MovingToTheNextPlacesExchangesNeighbours)
     EXPECT_EQ(Order(), "bacde");
 }
 
+TEST_F(Children, MovingFromOutsideChangesNothing)
+{
+    m_List->MoveItem(-1, 0);
+    m_List->MoveItem(5, 0);
+    m_List->MoveItem(1000, 2);
+
+    EXPECT_EQ(Order(), "abcde");
+}
+
 TEST_F(Children, ClearingAnEmptyListDoesNothing)
 {
     CVisualElement empty(nullptr, {0, 0}, alNone);

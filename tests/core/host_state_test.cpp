@@ -218,6 +218,82 @@ TEST_F(HostState, ANewContentIsPaintedInPlaceOfTheOldOne)
     EXPECT_EQ(next->GetPos(), (rectangle<int>{0, 0, 99, 49}));
 }
 
+TEST_F(HostState, ThePresentContentSetAgainStays)
+{
+    auto* const child = new CRecordingElement(m_Log, "child", m_Root);
+
+    m_Control->SetContent(m_Root);
+
+    EXPECT_EQ(m_Control->GetContent(), m_Root);
+    EXPECT_EQ(m_Root->GetControl(), &Host());
+    EXPECT_EQ(child->GetParent(), m_Root);
+    EXPECT_EQ(Paint(), "root.DrawContent()");
+}
+
+TEST_F(HostState, WithoutAContentEventsLayoutsAndPaintsDoNothing)
+{
+    bool deleted = false;
+    auto const slot = Listen(m_Root->m_SigDestroy, [&](CVisualElement*) { deleted = true; });
+
+    m_Control->SetContent(nullptr);
+
+    EXPECT_TRUE(deleted);
+    EXPECT_EQ(m_Control->GetContent(), nullptr);
+    CMouseEvent mouse(5, 5, 1, mbLeft);
+    CMouseWheelEvent wheel(5, 5, 0, mbNone, 1);
+    CKeyboardEvent key(0, 65, 'a');
+    CKeyboardEvent tab(0, vkTab);
+    CFocusEvent focus;
+    CWindowEvent window;
+    CContextMenuEvent menu(5, 5);
+    CTooltipEvent tooltip;
+    CEvent colours;
+    m_Control->OnMouseMove(&mouse);
+    m_Control->OnButtonDown(&mouse);
+    m_Control->OnButtonUp(&mouse);
+    m_Control->OnWheel(&wheel);
+    m_Control->OnKeyDown(&key);
+    m_Control->OnKeyDown(&tab);
+    m_Control->OnChar(&key);
+    m_Control->OnGetFocus(&focus);
+    m_Control->OnLostFocus(&focus);
+    m_Control->OnResize(&window);
+    m_Control->OnContextMenu(&menu);
+    m_Control->OnTooltip(&tooltip);
+    m_Control->OnTooltipTrack(&tooltip);
+    m_Control->OnSysColorChanged(&colours);
+    m_Control->OnCustomEvent(new CCustomEvent(0));
+    m_Control->OnCustomEvent(new CCustomEvent(1));
+    m_Control->Rearrange();
+    EXPECT_EQ(Paint(), "");
+    EXPECT_EQ(Host().GetMouseElement(), nullptr);
+    EXPECT_EQ(Host().GetFocusedElement(), nullptr);
+}
+
+TEST_F(HostState, AContentCanComeAfterThereWasNone)
+{
+    m_Control->SetContent(nullptr);
+    auto* const next = new CRecordingElement(m_Log, "next", nullptr, {0, 0}, alClient);
+
+    m_Control->SetContent(next);
+
+    EXPECT_EQ(Paint(), "next.DrawContent()");
+}
+
+TEST_F(HostState, ScrollingPixelsGoesToTheWindow)
+{
+    m_Log.Clear();
+
+    Host().ScrollContent(3, -4, {1, 2, 30, 40});
+
+    EXPECT_EQ(m_Log.Take(), "window.ScrollPixels(3, -4, 1 2 30 40)");
+
+    m_Control->SetSysWindow(nullptr);
+    m_Log.Clear();
+    Host().ScrollContent(3, -4, {1, 2, 30, 40});
+    EXPECT_EQ(m_Log.Take(), "");
+}
+
 // The capture --------------------------------------------------------------------------------------------------------------------
 
 TEST_F(HostState, CapturingTakesTheNativeCaptureAndReleasingGivesItUp)
