@@ -43,7 +43,7 @@ protected:
         ElementToControl(&rect);
         info.m_Rect = rect;
         info.m_GlobalUpdate = GetId() % 2 == 0;
-        return false;
+        return GetId() % 4 == 1;
     }
     bool HandleDragOver(CVisualElement*, int, int, DragInfo&) override { return GetId() % 2 == 0; }
     void HandleDrawDragItem(IPainter* painter, DragInfo& info, bool accepted, CVisualElement*) override
@@ -619,6 +619,7 @@ std::string CTreeGame::CompareWithFullPaint()
     if (differing == 0)
         return {};
     text << ", " << differing << " pixels in all, after step " << m_Steps << "\n"
+         << "dragged " << NameOf(m_Control.GetControl()->GetDraggedElement()) << "\n"
          << DescribeTree(m_Control.GetContent(), 0) << "last steps:\n";
     for (std::string const& note : m_Notes)
         text << "  " << note << "\n";
