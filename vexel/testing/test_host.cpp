@@ -110,6 +110,16 @@ PaintLog CTestHost::FullPaint()
     return log;
 }
 
+std::string CTestHost::CompareWithFullPaint(CLegend const& legend)
+{
+    Paint();
+    if (!m_Window)
+        return {};
+    CPixelBuffer const byParts = Pixels();
+    FullPaint();
+    return ComparePixels(Pixels(), byParts, legend);
+}
+
 bool CTestHost::IsFramePending() const
 {
     return m_Window && m_Window->IsFramePending();

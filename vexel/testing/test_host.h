@@ -70,6 +70,9 @@ public:
     /// Paints everything, as after the surface was lost.
     PaintLog FullPaint();
     bool IsFramePending() const;
+    /// Paints what is pending, then everything, and says how the two pictures differ; empty if they don't. What is
+    /// painted bit by bit must look as if painted at once.
+    std::string CompareWithFullPaint(CLegend const& legend = CLegend());
 
     // Queue and background -----------------------------------------------------------------------------------------
     /// Runs what was posted to any window, and what that posts, until nothing is left. Returns how many ran.

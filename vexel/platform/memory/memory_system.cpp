@@ -78,7 +78,7 @@ void CMemorySystem::Reset()
     m_Clipboard.SetText("");
     m_PointerPos = {};
     m_Buttons = m_Keys = 0;
-    m_Under = m_Focus = m_Capture = nullptr;
+    m_Under = m_Focus = m_ToldOfFocus = m_Capture = nullptr;
     for (CMemoryWindow* window : m_Windows)
         window->DropPosted();
 }
@@ -394,12 +394,15 @@ void CMemorySystem::SetFocusNode(CMemoryNode* node)
 {
     if (node == m_Focus)
         return;
-    CMemoryNode* const old = std::exchange(m_Focus, node);
-    if (old)
+    m_Focus = node;
+    // Only who was told that it has the focus is told that it lost it. A handler may give the focus away again, or
+    // delete the node.
+    if (CMemoryNode* const old = std::exchange(m_ToldOfFocus, nullptr))
         old->NodeFocus(false);
-    // A handler may have given the focus away again, or deleted the node.
-    if (node && node == m_Focus)
-        node->NodeFocus(true);
+    if (!node || node != m_Focus || m_ToldOfFocus == node)
+        return;
+    m_ToldOfFocus = node;
+    node->NodeFocus(true);
 }
 
 void CMemorySystem::TabFrom(CMemoryNode* node, bool forward)
@@ -448,7 +451,7 @@ void CMemorySystem::SetCaptureNode(CMemoryNode* node)
 
 void CMemorySystem::NodeGone(CMemoryNode* node)
 {
-    for (CMemoryNode** pointer : {&m_Under, &m_Focus, &m_Capture})
+    for (CMemoryNode** pointer : {&m_Under, &m_Focus, &m_ToldOfFocus, &m_Capture})
     {
         if (*pointer == node)
             *pointer = nullptr;

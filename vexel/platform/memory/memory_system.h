@@ -156,6 +156,7 @@ private:
     int m_Keys = 0;     // KeyState bits
     CMemoryNode* m_Under = nullptr;    // the node that was told of the pointer last
     CMemoryNode* m_Focus = nullptr;
+    CMemoryNode* m_ToldOfFocus = nullptr;
     CMemoryNode* m_Capture = nullptr;
 };
 
