@@ -395,19 +395,6 @@ TEST(VexelControl, AnOwnedWindowThatIsBeingDestroyedWaitsForTheControlsEnd)
     EXPECT_TRUE(deleted);
 }
 
-TEST(VexelControl, AForgottenWindowIsNoLongerAskedButStillDeletedIfOwned)
-{
-    bool deleted = false;
-    {
-        CVexelControl control(new CPlainWindow(&deleted), true);
-        control.ForgetWindow();
-        EXPECT_EQ(control.GetWindow(), nullptr);
-        control.Refresh();
-        EXPECT_FALSE(deleted);
-    }
-    EXPECT_TRUE(deleted);
-}
-
 TEST(VexelControl, RefreshingAndLockingGoToTheWindow)
 {
     CPlainWindow window;
