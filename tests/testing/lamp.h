@@ -2,6 +2,7 @@
 
 #include "vexel/core/visual_element.h"
 #include "vexel/platform/painter.h"
+#include "vexel/core/base_control.h"
 #include "vexel/testing/test_kit.h"
 
 namespace vexel

@@ -14,6 +14,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 namespace vexelbase
 {
@@ -78,13 +79,13 @@ CDefTextFormatter& PlainFormatter()
 
 } // namespace
 
-// Where a text stands: extents in the reading direction and across, in device pixels.
+// Where a text stands.
 struct CBasePainter::STextPlace
 {
-    rectangle<double> box;  // device, ordered
+    rectangle<double> box;   // device, ordered
     int rotation = 0;
-    int maxWidth = -1;      // below 0: no limit
-    int maxLines = INT_MAX;
+    int maxWidth = -1;       // in the reading direction, below 0: no limit
+    int maxLines = INT_MAX;  // that need to be drawn
 };
 
 // Puts back what drawing a text changes.
@@ -115,8 +116,17 @@ private:
 
 void CBasePainter::SetFont(font const& value)
 {
+    int const style = std::exchange(m_Font.style, value.style);
     if (value == m_Font)
+    {
+        // All but the style is the same, as it is for mark-up within a text.
+        if (style != value.style)
+        {
+            m_EffectiveFont.style = value.style;
+            m_MetricsStamp = 0;
+        }
         return;
+    }
     m_Font = value;
     m_EffectiveStamp = 0;
 }
@@ -369,8 +379,12 @@ size<double> CBasePainter::LayOutAndDraw(rectangle<double> const& rect, char con
         fontmetrics const& metrics = EffectiveMetrics();
         int const lineHeight = std::max(1, metrics.ascent + metrics.descent + metrics.leading);
         double const room = upDown ? place.box.Width() : place.box.Height();
+        double const share = upDown ? HorizontalShare(flags) : VerticalShare(flags);
+        bool const fromStart = (place.rotation < 1800 ? share : 1 - share) == 0;
         if (flags & AlignFitText)
             place.maxLines = std::max(1, FloorToInt((room + Tolerance) / lineHeight));
+        else if (fromStart && !(flags & AlignSingleLine))
+            place.maxLines = AddSaturated(FloorToInt(room / lineHeight), 2);  // further ones would be cut off
     }
 
     bool const wraps = !(flags & AlignSingleLine) && delimiters;
@@ -426,6 +440,12 @@ void CBasePainter::DrawLines(STextLayout const& layout, STextPlace const& place,
         m_Frame.pivot.y = FloorToInt(blockPlace.y - std::min({0.0, -up, bottom, bottom - up}) + 0.5);
     }
 
+    // What the lines take across: from `across`, in steps of the line height, forward or backward.
+    bool const forward = rotation < 1800;
+    int const across = upDown ? blockPlace.x : blockPlace.y;
+    int const acrossFrom = m_Frame.cut ? (upDown ? m_Frame.limit.left : m_Frame.limit.top) : INT_MIN;
+    int const acrossTo = m_Frame.cut ? (upDown ? m_Frame.limit.right : m_Frame.limit.bottom) : INT_MAX;
+
     bool const fits = (flags & AlignFitText) && place.maxWidth >= 0;
     int ellipsisWidth = -1;
     formatter.BeforeFormatting(this);
@@ -433,6 +453,22 @@ void CBasePainter::DrawLines(STextLayout const& layout, STextPlace const& place,
     {
         STextLine const line = m_TextLines[layout.first + static_cast<std::size_t>(i)];
         char const* const lineText = text + line.start;
+        int const before = SaturateToInt(std::int64_t{i} * layout.lineHeight);
+        int const behind = SaturateToInt(std::int64_t{layout.keptCount - i} * layout.lineHeight);
+        if (quarter && m_Frame.cut)
+        {
+            // A line that is cut off goes by; some glyphs reach a little over their line.
+            int const start = AddSaturated(across, forward ? before : behind - layout.lineHeight);
+            bool const tooLow = AddSaturated(start, 2 * layout.lineHeight) <= acrossFrom;
+            bool const tooHigh = SubtractSaturated(start, layout.lineHeight) >= acrossTo;
+            if (forward ? tooHigh : tooLow)
+                break;
+            if (tooLow || tooHigh)
+            {
+                formatter.SkipText(lineText, line.length);
+                continue;
+            }
+        }
         int shownLength = line.length;
         int shownWidth = line.width;
         bool const shortened =
@@ -453,8 +489,6 @@ void CBasePainter::DrawLines(STextLayout const& layout, STextPlace const& place,
         if (quarter)
         {
             int const alongPlace = FloorToInt((upDown ? box.top : box.left) + alongShare * (along - wholeWidth));
-            int const before = SaturateToInt(std::int64_t{i} * layout.lineHeight);
-            int const behind = SaturateToInt(std::int64_t{layout.keptCount - i} * layout.lineHeight);
             switch (rotation)
             {
             case 0:

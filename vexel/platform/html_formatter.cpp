@@ -60,6 +60,7 @@ int CHTMLTextFormatter::SState::GetStyle() const
 
 void CHTMLTextFormatter::BeforeFormatting(IPainter* painter)
 {
+    CDefTextFormatter::BeforeFormatting(painter);
     m_State = SState();
     m_BaseFont = painter->GetFont();
     m_StyledFont = m_BaseFont;
@@ -97,6 +98,7 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
     bool const wraps = maxWidth >= 0 && delimiters && *delimiters;
     char const* const wordEnds = wraps ? delimiters : nullptr;
 
+    SWord const pending = TakePendingWord();
     m_End = end;
     SState state = m_State;
     SBreak line;             // where the line ends in the end
@@ -119,7 +121,7 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
             break;
         }
         bool lineBreak = false;
-        if (IsSpecial(cursor))
+        if (cursor != pending.text && IsSpecial(cursor))
         {
             int const tagLength = ReadTag(cursor, end, state, lineBreak);
             if (lineBreak)
@@ -132,29 +134,34 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
         }
 
         int const style = state.GetStyle();
-        ApplyStyle(painter, style);
-        int wordLength = 0;
-        int wordWidth = 0;
-        GetNextWord(painter, cursor, wordLength, wordWidth, static_cast<int>(end - cursor), wordEnds);
-        wordLength = std::clamp(wordLength, 1, static_cast<int>(end - cursor));
+        SWord word = pending;
+        if (word.text != cursor)
+        {
+            word.text = cursor;
+            ApplyStyle(painter, style);
+            GetNextWord(painter, cursor, word.length, word.width, static_cast<int>(end - cursor), wordEnds);
+            word.length = std::clamp(word.length, 1, static_cast<int>(end - cursor));
+        }
         anything = true;
-        ++words;
-        int const blanks = wraps ? detail::CountTrailingBlanks(cursor, wordLength) : 0;
+        int const blanks = wraps ? detail::CountTrailingBlanks(cursor, word.length) : 0;
         if (blanks > 0 && blankStyle != style)
         {
+            ApplyStyle(painter, style);
             blankStyle = style;
             blankWidth = painter->MeasureRun(" ", 1);
         }
-        int const trimmed = std::max(0, wordWidth - SaturateToInt(std::int64_t{blanks} * blankWidth));
+        int const trimmed = std::max(0, word.width - SaturateToInt(std::int64_t{blanks} * blankWidth));
         if (wraps && last.lineEnd && AddSaturated(total, trimmed) > maxWidth)
         {
             line = last;
             wrapped = true;
+            SetPendingWord(word);
             break;
         }
         shownWidth = AddSaturated(total, trimmed);
-        total = AddSaturated(total, wordWidth);
-        cursor += wordLength;
+        total = AddSaturated(total, word.width);
+        cursor += word.length;
+        ++words;
         if (wraps && detail::IsDelimiter(cursor[-1], delimiters))
         {
             earlier = last;
@@ -376,7 +383,7 @@ int CHTMLTextFormatter::ReadRun(char const* text, char const* end, char const* d
     char const* p = text;
     while (p < end && *p != '\n' && m_Run.size() < limit)
     {
-        if (*p == '<' && IsSpecial(p))
+        if (*p == '<' && p != text && IsSpecial(p))
             break;
         if (*p == '&')
         {

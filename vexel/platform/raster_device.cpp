@@ -34,7 +34,7 @@ rectangle<int> Shifted(rectangle<int> const& rect, int dx, int dy)
             AddSaturated(rect.bottom, dy)};
 }
 
-} // namespace
+}  // namespace
 
 // CDamage ----------------------------------------------------------------------------------------------------------
 
@@ -123,9 +123,8 @@ void CRasterDevice::Blit(rectangle<int> const& target, rectangle<int> const& cli
         return;
     rectangle<int> area = target;
     area.Intersect(clip);
-    bool const oneToOne =
-        std::int64_t{target.right} - target.left == std::int64_t{source.right} - source.left &&
-        std::int64_t{target.bottom} - target.top == std::int64_t{source.bottom} - source.top;
+    bool const oneToOne = std::int64_t{target.right} - target.left == std::int64_t{source.right} - source.left &&
+                          std::int64_t{target.bottom} - target.top == std::int64_t{source.bottom} - source.top;
     if (!oneToOne)
     {
         if (Touch(area))
@@ -190,4 +189,4 @@ bool CRasterDevice::Move(rectangle<int> const& area, int dx, int dy)
     return to == wanted;
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -63,4 +63,4 @@ private:
     CDamage m_Damage;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -112,6 +112,11 @@ void IPainter::ITextFormatter::SkipText(char const*, int)
 
 // Plain text ----------------------------------------------------------------------------------------------------------
 
+void CDefTextFormatter::BeforeFormatting(IPainter*)
+{
+    m_Pending = SWord();
+}
+
 bool CDefTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& length, int& width, int maxWidth,
                                     char const* delimiters)
 {
@@ -120,6 +125,7 @@ bool CDefTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& l
     char const* const begin = text;
     int const count = length;
     bool const wraps = maxWidth >= 0 && delimiters && *delimiters;
+    SWord const pending = TakePendingWord();
 
     // All that is left of the paragraph, if that needs but one measuring.
     int const looked = wraps ? std::min(count, AddSaturated(GuessCapacity(painter, maxWidth), 1)) : count;
@@ -140,7 +146,7 @@ bool CDefTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& l
     }
 
     // Word by word. `total` ends with the blanks behind the last word, `shownWidth` before them.
-    int const blankWidth = painter->MeasureRun(" ", 1);
+    int blankWidth = -1;
     int cursor = 0;
     int words = 0;
     int total = 0;
@@ -152,23 +158,29 @@ bool CDefTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& l
     bool wrapped = false;
     while (cursor < count && begin[cursor] != '\n')
     {
-        int wordLength = 0;
-        int wordWidth = 0;
-        GetNextWord(painter, begin + cursor, wordLength, wordWidth, count - cursor, delimiters);
-        wordLength = std::clamp(wordLength, 1, count - cursor);
-        int const blanks = detail::CountTrailingBlanks(begin + cursor, wordLength);
-        int const trimmed = std::max(0, wordWidth - SaturateToInt(std::int64_t{blanks} * blankWidth));
+        SWord word = pending;
+        if (word.text != begin + cursor)
+        {
+            word.text = begin + cursor;
+            GetNextWord(painter, word.text, word.length, word.width, count - cursor, delimiters);
+            word.length = std::clamp(word.length, 1, count - cursor);
+        }
+        int const blanks = detail::CountTrailingBlanks(word.text, word.length);
+        if (blanks > 0 && blankWidth < 0)
+            blankWidth = painter->MeasureRun(" ", 1);
+        int const trimmed = std::max(0, word.width - SaturateToInt(std::int64_t{blanks} * blankWidth));
         if (words > 0 && AddSaturated(total, trimmed) > maxWidth)
         {
             wrapped = true;
+            SetPendingWord(word);
             break;
         }
         earlierCursor = cursor;
         earlierShown = shown;
         earlierWidth = shownWidth;
         shownWidth = AddSaturated(total, trimmed);
-        total = AddSaturated(total, wordWidth);
-        cursor += wordLength;
+        total = AddSaturated(total, word.width);
+        cursor += word.length;
         shown = cursor - blanks;
         ++words;
     }

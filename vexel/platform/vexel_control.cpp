@@ -52,16 +52,21 @@ CVexelControl::~CVexelControl()
 
 void CVexelControl::SetSysWindow(ISysWindow* window)
 {
-    if (window == m_Window && (window || !m_OwnedWindow))
+    if (window == m_Window)
         return;
-    if (m_Window && m_Window->GetEventTarget() == this)
-        m_Window->SetEventTarget(nullptr);
-    ISysWindow* const former = m_OwnedWindow;
+    ISysWindow* const former = m_Window;
+    if (former && former->GetEventTarget() == this)
+        former->SetEventTarget(nullptr);
     m_Window = window;
-    m_OwnedWindow = m_OwnsWindow ? window : nullptr;
     if (window)
         window->SetEventTarget(this);
-    delete former;
+    if (!m_OwnsWindow)
+        return;
+    // A window that is being destroyed natively may be what calls this.
+    if (former && !former->IsDestroying())
+        std::erase_if(m_OwnedWindows, [former](auto const& owned) { return owned.get() == former; });
+    if (window)
+        m_OwnedWindows.emplace_back(window);
 }
 
 void* CVexelControl::GetHandle() const

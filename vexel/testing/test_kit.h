@@ -7,6 +7,7 @@
 //     using namespace vexel;
 //     using namespace vexel::test;
 
+#include "vexel/platform/memory/memory_system.h"
 #include "vexel/testing/census.h"
 #include "vexel/testing/describe.h"
 #include "vexel/testing/expect_report.h"
