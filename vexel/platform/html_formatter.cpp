@@ -109,6 +109,7 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
     int words = 0;
     int total = 0;           // with the blanks behind the last word
     int shownWidth = 0;      // without them
+    char const* shownEnd = begin;
     int blankStyle = -1;     // whose blank was measured
     int blankWidth = 0;
     bool wrapped = false;
@@ -151,16 +152,21 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
             blankWidth = painter->MeasureRun(" ", 1);
         }
         int const trimmed = std::max(0, word.width - SaturateToInt(std::int64_t{blanks} * blankWidth));
-        if (wraps && last.lineEnd && AddSaturated(total, trimmed) > maxWidth)
+        bool const onlyBlanks = blanks == word.length;
+        if (wraps && !onlyBlanks && last.lineEnd && AddSaturated(total, trimmed) > maxWidth)
         {
             line = last;
             wrapped = true;
             SetPendingWord(word);
             break;
         }
-        shownWidth = AddSaturated(total, trimmed);
-        total = AddSaturated(total, word.width);
         cursor += word.length;
+        if (!onlyBlanks)
+        {
+            shownWidth = AddSaturated(total, trimmed);
+            shownEnd = cursor - blanks;
+        }
+        total = AddSaturated(total, word.width);
         ++words;
         if (wraps && detail::IsDelimiter(cursor[-1], delimiters))
         {
@@ -173,7 +179,8 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
 
     if (anything)
     {
-        if (!wrapped && wraps && total > maxWidth && shownWidth <= maxWidth)
+        bool const hangs = !wrapped && wraps && total > maxWidth;  // of the blanks at the end at least one does
+        if (hangs)
             line.width = shownWidth;
         bool const carriageReturn = !wrapped && line.lineEnd > begin && line.next > line.lineEnd &&
                                     *line.lineEnd == '\n' && line.lineEnd[-1] == '\r';
@@ -182,7 +189,7 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
         // What is drawn in one run may be as wide as its words together, or a little more or less.
         if (carriageReturn || (wraps && words > 1))
         {
-            int const runWidth = MeasureLine(painter, begin, line.lineEnd, m_State);
+            int const runWidth = MeasureLine(painter, begin, hangs ? shownEnd : line.lineEnd, m_State);
             bool const sticksOut = wraps && runWidth > maxWidth && line.width <= maxWidth;
             SBreak const& shorter = wrapped ? earlier : last;
             if (sticksOut && shorter.lineEnd && shorter.lineEnd > begin && shorter.next < line.next)

@@ -169,19 +169,23 @@ bool CDefTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& l
         if (blanks > 0 && blankWidth < 0)
             blankWidth = painter->MeasureRun(" ", 1);
         int const trimmed = std::max(0, word.width - SaturateToInt(std::int64_t{blanks} * blankWidth));
-        if (words > 0 && AddSaturated(total, trimmed) > maxWidth)
+        bool const onlyBlanks = blanks == word.length;
+        if (words > 0 && !onlyBlanks && AddSaturated(total, trimmed) > maxWidth)
         {
             wrapped = true;
             SetPendingWord(word);
             break;
         }
-        earlierCursor = cursor;
-        earlierShown = shown;
-        earlierWidth = shownWidth;
-        shownWidth = AddSaturated(total, trimmed);
+        if (!onlyBlanks)
+        {
+            earlierCursor = cursor;
+            earlierShown = shown;
+            earlierWidth = shownWidth;
+            shownWidth = AddSaturated(total, trimmed);
+            shown = cursor + word.length - blanks;
+        }
         total = AddSaturated(total, word.width);
         cursor += word.length;
-        shown = cursor - blanks;
         ++words;
     }
     if (!wrapped)
