@@ -32,7 +32,10 @@ class CTextDevice : public CRasterDevice
 public:
     explicit CTextDevice(CPixelBuffer& pixels) : CRasterDevice(pixels) {}
 
-    size<int> GetSize() const override { return m_PretendedSize.width > 0 ? m_PretendedSize : CRasterDevice::GetSize(); }
+    size<int> GetSize() const override
+    {
+        return m_PretendedSize.width > 0 ? m_PretendedSize : CRasterDevice::GetSize();
+    }
     int MeasureRun(font const& textFont, char const* text, int length) override
     {
         ++m_Measured;
@@ -112,4 +115,4 @@ struct STextBench
     IPainter& painter = basePainter;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

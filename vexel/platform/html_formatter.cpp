@@ -48,12 +48,11 @@ void Count(int& nesting, bool closing)
         --nesting;
 }
 
-} // namespace
+}  // namespace
 
 int CHTMLTextFormatter::SState::GetStyle() const
 {
-    return (bold > 0 ? font::fsBold : 0) | (italic > 0 ? font::fsItalic : 0) |
-           (underline > 0 ? font::fsUnderline : 0);
+    return (bold > 0 ? font::fsBold : 0) | (italic > 0 ? font::fsItalic : 0) | (underline > 0 ? font::fsUnderline : 0);
 }
 
 // Around a text -------------------------------------------------------------------------------------------------------
@@ -81,10 +80,7 @@ void CHTMLTextFormatter::AfterFormatting(IPainter* painter)
         std::string().swap(m_Target);
 }
 
-void CHTMLTextFormatter::Clear()
-{
-    m_State = SState();
-}
+void CHTMLTextFormatter::Clear() { m_State = SState(); }
 
 // Lines ---------------------------------------------------------------------------------------------------------------
 
@@ -101,16 +97,16 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
     SWord const pending = TakePendingWord();
     m_End = end;
     SState state = m_State;
-    SBreak line;             // where the line ends in the end
-    SBreak last;             // behind the last delimiter
-    SBreak earlier;          // behind the one before
+    SBreak line;     // where the line ends in the end
+    SBreak last;     // behind the last delimiter
+    SBreak earlier;  // behind the one before
     char const* cursor = begin;
-    bool anything = false;   // a line break or a word, so there is a line
+    bool anything = false;  // a line break or a word, so there is a line
     int words = 0;
-    int total = 0;           // with the blanks behind the last word
-    int shownWidth = 0;      // without them
+    int total = 0;       // with the blanks behind the last word
+    int shownWidth = 0;  // without them
     char const* shownEnd = begin;
-    int blankStyle = -1;     // whose blank was measured
+    int blankStyle = -1;  // whose blank was measured
     int blankWidth = 0;
     bool wrapped = false;
     while (!line.lineEnd && cursor < end)
@@ -267,8 +263,7 @@ void CHTMLTextFormatter::SkipText(char const* text, int length)
     m_End = end;
     while (text < end)
     {
-        auto const* const tag =
-            static_cast<char const*>(std::memchr(text, '<', static_cast<std::size_t>(end - text)));
+        auto const* const tag = static_cast<char const*>(std::memchr(text, '<', static_cast<std::size_t>(end - text)));
         if (!tag)
             break;
         bool lineBreak = false;
@@ -317,8 +312,7 @@ void CHTMLTextFormatter::DrawLinkPart(IPainter* painter, int x, int y)
     }
 
     int const height = m_BaseMetrics.ascent + m_BaseMetrics.descent + m_BaseMetrics.leading;
-    rectangle<int> rect =
-        painter->RunToDevice({x, y, AddSaturated(x, width), AddSaturated(y, height)});
+    rectangle<int> rect = painter->RunToDevice({x, y, AddSaturated(x, width), AddSaturated(y, height)});
     rect.right = SubtractSaturated(rect.right, 1);
     rect.bottom = SubtractSaturated(rect.bottom, 1);
     if (m_State.told)
@@ -450,14 +444,9 @@ int CHTMLTextFormatter::GetBaselineShift(IPainter* painter) const
 
 // Links ---------------------------------------------------------------------------------------------------------------
 
-void CHTMLTextFormatter::OnDrawLink(char const*, int, rectangle<int> const&)
-{
-}
+void CHTMLTextFormatter::OnDrawLink(char const*, int, rectangle<int> const&) {}
 
-bool CHTMLTextFormatter::OwnerDrawLink(IPainter*, int, int, char const*, int)
-{
-    return false;
-}
+bool CHTMLTextFormatter::OwnerDrawLink(IPainter*, int, int, char const*, int) { return false; }
 
 std::string RemoveLinks(std::string const& text)
 {
@@ -486,4 +475,4 @@ std::string RemoveLinks(std::string const& text)
     return result;
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase
