@@ -196,7 +196,7 @@ private:
     int* m_Count;
 };
 
-} // namespace
+}  // namespace
 
 // Events --------------------------------------------------------------------------------------------------------------
 
@@ -492,7 +492,7 @@ protected:
 
 using Place = point<int>;
 
-} // namespace
+}  // namespace
 
 TEST_F(Popup, IsShownBelowItsOwnersRectangle)
 {
@@ -525,4 +525,4 @@ TEST_F(Popup, WithoutAnOwnerItIsNotShown)
     PositionPopup(vexel_ptr<IPopup>(), {0, 0, 10, 10});
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

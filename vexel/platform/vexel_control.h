@@ -42,11 +42,11 @@ public:
     /// Leaves the present window and takes this one's events. With null it is also how a window that is being destroyed
     /// natively takes leave, after OnDestroy.
     virtual void SetSysWindow(ISysWindow* window);
-    virtual void* GetHandle() const;                    ///< The window, as an opaque value.
+    virtual void* GetHandle() const;  ///< The window, as an opaque value.
     virtual bool CanBeFocused() const { return true; }
-    virtual void Refresh();                             ///< Paints the whole window now.
-    virtual void Invalidate();                          ///< Asks for a paint of the whole window.
-    virtual void InternalBeginUpdate();                 ///< Locks drawing, counted.
+    virtual void Refresh();              ///< Paints the whole window now.
+    virtual void Invalidate();           ///< Asks for a paint of the whole window.
+    virtual void InternalBeginUpdate();  ///< Locks drawing, counted.
     virtual void InternalEndUpdate();
 
     IImageList* GetImageList() const { return m_ImageList; }
@@ -90,4 +90,4 @@ private:
     IImageList* m_ImageList = nullptr;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase
