@@ -105,7 +105,7 @@ void CVisualElement::ReParent(CVisualElement* parent, bool rearrange)
         target->m_Children.Append(this);
         m_Parent = target.get();
         ++s_TreeVersion;
-        SetControl(m_Parent->m_Control);
+        ChangeControl(m_Parent->m_Control);
         if (!alive || !target || m_Parent != target.get())
             return;
         if (!HasSameFont(*m_Parent))
@@ -127,7 +127,7 @@ void CVisualElement::ReParent(CVisualElement* parent, bool rearrange)
     }
     else
     {
-        SetControl(nullptr);
+        ChangeControl(nullptr);
         if (!alive)
             return;
     }
@@ -144,7 +144,7 @@ void CVisualElement::LeaveParent()
         m_Parent->SetKeyDelegate(nullptr);
     m_Parent = nullptr;
     ++s_TreeVersion;
-    SetControl(nullptr);
+    ChangeControl(nullptr);
     if (alive)
         ChangeParent(oldParent.get());
 }
@@ -156,18 +156,19 @@ void CVisualElement::SetControl(IControl* control)
     CAliveGuard const alive(this);
     CAlivePtr<IControl> const fresh(control);
     IControl* const old = m_Control;
+    CVisualElement const* const parent = m_Parent;
     ProcessSetControl(control);
-    if (!alive || m_Control != old)
+    if (!alive || m_Control != old || m_Parent != parent)
         return;
     if (old)
     {
         // Told also if an ancestor swallows the change, or if the element goes straight to another control.
         bool const told = !control && RunChangeChain(this, utRemoved) == this;
-        if (!alive || m_Control != old)
+        if (!alive || m_Control != old || m_Parent != parent)
             return;
         if (!told)
             old->UpdateElement(this, utRemoved);
-        if (!alive || m_Control != old)
+        if (!alive || m_Control != old || m_Parent != parent)
             return;
     }
     if (control && !fresh)
@@ -192,7 +193,35 @@ void CVisualElement::LeaveControl()
 {
     CAliveGuard const alive(this);
     CTransit const transit(this, &alive);
-    SetControl(nullptr);
+    ChangeControl(nullptr);
+}
+
+// As SetControl; where a slot throws on the way, nothing below still points to the control that is being left.
+void CVisualElement::ChangeControl(IControl* control)
+{
+    CAliveGuard const alive(this);
+    CAlivePtr<IControl> const old(m_Control);
+    try
+    {
+        SetControl(control);
+    }
+    catch (...)
+    {
+        if (alive && old && old.get() != control)
+            ForsakeControl(*old.get());
+        throw;
+    }
+}
+
+void CVisualElement::ForsakeControl(IControl& old)
+{
+    if (m_Control == &old)
+    {
+        old.UpdateElement(this, utRemoved);
+        m_Control = nullptr;
+    }
+    for (CVisualElement* const child : m_Children)
+        child->ForsakeControl(old);
 }
 
 // The control has died while slots ran: nothing below this element may point to it.

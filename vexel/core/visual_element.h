@@ -321,6 +321,8 @@ private:
     CVisualElement* RunChangeChain(CVisualElement* element, UpdateType type);
     void LeaveParent();
     void LeaveControl();
+    void ChangeControl(IControl* control);
+    void ForsakeControl(IControl& old);
     void DropControl(IControl const* gone);
     static void ControlGone(IControl const* gone);
     void Withdraw() noexcept;
