@@ -618,7 +618,7 @@ TEST_F(MemoryEdit, ATabLeavesIt)
 
 TEST_F(MemoryEdit, AListenerMayDropTheLastReferenceInAnyEvent)
 {
-    for (std::string const& when : {"key 65", "char 'a'", "change", "return", "visible"})
+    for (char const* const when : {"key 65", "char 'a'", "change", "return", "visible"})
     {
         vexel_ptr<IEdit> edit = m_Host.Window().CreateEdit(false);
         CEditLog log;

@@ -11,7 +11,7 @@ namespace vexelbase::memory
 ///
 /// Every key that goes down fires EditOnKeyDown; unless that cleared the continue flag, return fires EditOnReturnPress
 /// and the other keys edit. A character fires EditOnChar before it is taken. EditOnChangeText fires after every change.
-template <class Interface> class CMemoryTextControl : public CMemoryNativeControl<Interface>
+template <class Interface> class VEXEL_MEMORY_API CMemoryTextControl : public CMemoryNativeControl<Interface>
 {
 public:
     CMemoryTextControl(CMemorySystem& system, CMemoryNode& window);
@@ -41,8 +41,8 @@ private:
     bool EditingKey(CKeyboardEvent const& event);
 };
 
-extern template class CMemoryTextControl<IEdit>;
-extern template class CMemoryTextControl<IComboBox>;
+extern template class VEXEL_MEMORY_API CMemoryTextControl<IEdit>;
+extern template class VEXEL_MEMORY_API CMemoryTextControl<IComboBox>;
 
 /// A line edit.
 class VEXEL_MEMORY_API CMemoryEdit final : public CMemoryTextControl<IEdit>

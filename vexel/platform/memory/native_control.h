@@ -44,7 +44,8 @@ private:
 };
 
 /// A native control with the interface `Interface`: what ICustomControl asks, by the node.
-template <class Interface> class CMemoryNativeControl : public CImplEventSender<Interface>, public CMemoryNativeNode
+template <class Interface>
+class VEXEL_MEMORY_API CMemoryNativeControl : public CImplEventSender<Interface>, public CMemoryNativeNode
 {
 public:
     CMemoryNativeControl(CMemorySystem& system, CMemoryNode& parent) : CMemoryNativeNode(system, parent) {}
