@@ -220,13 +220,13 @@ TEST_F(ChangeChain, ATransparentRootHasNobodyBelowIt)
     EXPECT_EQ(m_Log.Take({"UpdateElement"}), "control.UpdateElement(root, 2)");
 }
 
-TEST_F(ChangeChain, TheRemovalOfATransparentElementIsNoRemovalOfItsParent)
+TEST_F(ChangeChain, ARemovalToldByATransparentElementIsToldOfItsParentToo)
 {
     m_Child.m_Transparent = true;
 
     m_Child.Update(utRemoved);
 
-    EXPECT_EQ(m_Log.Take({"UpdateElement"}), "control.UpdateElement(child, 16)");
+    EXPECT_EQ(m_Log.Take({"UpdateElement"}), "control.UpdateElement(middle, 16) control.UpdateElement(child, 16)");
 }
 
 TEST_F(ChangeChain, WithoutAControlItRunsToTheRootAndEnds)

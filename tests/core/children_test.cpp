@@ -1,9 +1,9 @@
 // The list of an element's children, and its bookkeeping alone.
 
+#include "tests/support/assertion_count.h"
 #include "tests/support/scripted_system.h"
 #include "vexel/core/element_list.h"
 #include "vexel/core/visual_element.h"
-#include "vexel/testing/expect_assertion.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
@@ -148,6 +148,15 @@ TEST_F(Children, MovingToTheNextPlacesExchangesNeighbours)
     EXPECT_EQ(Order(), "bacde");
 }
 
+TEST_F(Children, MovingFromOutsideChangesNothing)
+{
+    m_List->MoveItem(-1, 0);
+    m_List->MoveItem(5, 0);
+    m_List->MoveItem(1000, 2);
+
+    EXPECT_EQ(Order(), "abcde");
+}
+
 TEST_F(Children, ClearingAnEmptyListDoesNothing)
 {
     CVisualElement empty(nullptr, {0, 0}, alNone);
@@ -162,11 +171,12 @@ TEST(ChildrenOfAnElement, AChildIsNotAddedASecondTime)
     CScriptedSystem system;
     CVisualElement owner(nullptr, {0, 0}, alNone);
     auto* const child = new CVisualElement(&owner, {0, 0}, alNone);
-    test::CExpectAssertion assertion("");
+    CAssertionCount assertions;
 
     owner.GetChildren()->AddItem(child);
 
     EXPECT_EQ(owner.GetChildren()->GetCount(), 1);
+    EXPECT_EQ(assertions.Get(), 1);
 }
 
 TEST(ChildrenOfAnElement, BehaveLikeAVectorWhateverIsDone)

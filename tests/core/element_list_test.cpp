@@ -244,6 +244,68 @@ TEST_F(ElementList, WhatWasClearedCanComeBack)
     EXPECT_EQ(Text(), "aunt leaf");
 }
 
+TEST_F(ElementList, WhileItIsWalkedARemovalLeavesANull)
+{
+    m_List.AddElement(&m_Leaf);
+    m_List.AddElement(&m_Aunt);
+    m_List.AddElement(&m_Root);
+    CElementList::CWalk const walk(m_List);
+
+    m_List.RemoveElement(&m_Leaf);
+
+    EXPECT_EQ(m_List.GetItem(0), nullptr);
+    EXPECT_EQ(m_List.GetItem(1), &m_Aunt);
+    EXPECT_EQ(m_List.GetItem(2), &m_Root);
+}
+
+TEST_F(ElementList, TakesOverTheEntriesOfAnother)
+{
+    CElementList other;
+    other.AddElement(&m_Leaf);
+    other.AddElement(&m_Aunt);
+    m_List.AddElement(&m_Root);
+
+    m_List.TakeFrom(other);
+
+    EXPECT_EQ(Text(), "leaf aunt");
+    EXPECT_EQ(other.GetCount(), 0);
+    other.AddElement(&m_Leaf);
+    EXPECT_EQ(other.GetItem(0), &m_Leaf);
+}
+
+TEST_F(ElementList, EqualsAListOfTheSameEntriesInTheSameOrder)
+{
+    CElementList other;
+    EXPECT_TRUE(m_List.IsEqual(other));
+
+    m_List.AddElement(&m_Leaf);
+    EXPECT_FALSE(m_List.IsEqual(other));
+
+    other.AddElement(&m_Leaf);
+    EXPECT_TRUE(m_List.IsEqual(other));
+
+    m_List.AddElement(&m_Aunt);
+    m_List.AddElement(&m_Middle);
+    other.AddElement(&m_Middle);
+    other.AddElement(&m_Aunt);
+    EXPECT_FALSE(m_List.IsEqual(other));
+}
+
+TEST_F(ElementList, EqualsOnlyAListWithTheSameNulls)
+{
+    CElementList other;
+    m_List.AddElement(&m_Leaf);
+    m_List.AddElement(&m_Middle);
+    other.AddElement(&m_Leaf);
+    other.AddElement(&m_Middle);
+
+    m_List.Reduce();
+    EXPECT_FALSE(m_List.IsEqual(other));
+
+    other.Reduce();
+    EXPECT_TRUE(m_List.IsEqual(other));
+}
+
 // Against a plain vector ----------------------------------------------------------------------------------------------------
 
 bool IsBelow(CVisualElement const* element, CVisualElement const* above)

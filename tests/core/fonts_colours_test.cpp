@@ -120,19 +120,6 @@ TEST_F(Fonts, WithoutASizeTheFactorMultipliesTheDefaultSizeTruncated)
     EXPECT_EQ(effective.name, "Default");
 }
 
-TEST_F(Fonts, WithoutAnySizeTheFactorIsPassedOn)
-{
-    font none = m_System.GetDefaultFont();
-    none.size = 0;
-    m_System.SetDefaultFont(none);
-    font value;
-    value.factor = 1.3;
-    m_Element.SetFont(value);
-
-    EXPECT_EQ(m_Element.GetFont().size, 0);
-    EXPECT_EQ(m_Element.GetFont().factor, 1.3);
-}
-
 TEST_F(Fonts, ANegativeSizeCountsAsNotSet)
 {
     font value;
@@ -244,11 +231,12 @@ TEST_F(Fonts, TheSizeScaleIsAnEighthOfTheSize)
     EXPECT_EQ(m_Element.GetSizeScale(), 0.125);
 }
 
-TEST_F(Fonts, TheSizeScaleIsOneWithoutAnySize)
+TEST_F(Fonts, TheSizeScaleIsOneWhereTheSizeComesToNothing)
 {
-    font none = m_System.GetDefaultFont();
-    none.size = 0;
-    m_System.SetDefaultFont(none);
+    font value;
+    value.factor = 0.1;  // 0.8 points, truncated
+    m_Element.SetFont(value);
+    ASSERT_EQ(m_Element.GetFont().size, 0);
 
     EXPECT_EQ(m_Element.GetSizeScale(), 1.0);
 }

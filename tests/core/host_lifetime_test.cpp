@@ -3,6 +3,7 @@
 #include "tests/support/host_bench.h"
 #include "tests/support/slot.h"
 #include "vexel/core/base_control_imp.h"
+#include "vexel/signals/cancel_processing.h"
 
 #include <gtest/gtest.h>
 
@@ -214,6 +215,7 @@ TEST_F(HostLifetime, TheTreeLivesOnAfterTheEndOfTheWindow)
     auto* const child = new CRecordingElement(m_Log, "child", m_Root, {10, 10}, alLeft);
     bool destroyed = false;
     auto const slot = Listen(child->m_SigDestroy, [&](CVisualElement*) { destroyed = true; });
+    Paint();
     CWindowEvent event;
 
     m_Control->OnDestroy(&event);

@@ -3,6 +3,7 @@
 #include "tests/support/host_bench.h"
 #include "tests/support/slot.h"
 #include "vexel/core/base_control_imp.h"
+#include "vexel/signals/cancel_processing.h"
 
 #include <gtest/gtest.h>
 

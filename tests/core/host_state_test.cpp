@@ -3,6 +3,7 @@
 #include "tests/support/host_bench.h"
 #include "tests/support/slot.h"
 #include "vexel/core/base_control_imp.h"
+#include "vexel/signals/cancel_processing.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,7 @@ using namespace vexel;
 namespace
 {
 
-class Host : public testing::Test, protected CHostBench
+class HostState : public testing::Test, protected CHostBench
 {
 };
 
@@ -83,14 +84,14 @@ TEST(FreshHost, NeedsALayoutAndIsNotClicked)
     EXPECT_FALSE(control.IsCopyShortcut());
 }
 
-TEST_F(Host, TheDragStartSensitivityIsStored)
+TEST_F(HostState, TheDragStartSensitivityIsStored)
 {
     Host().SetDragStartSensitivity({5, 7});
 
     EXPECT_EQ(Host().GetDragStartSensitivity(), (size<int>{5, 7}));
 }
 
-TEST_F(Host, TheImageListIsThatOfTheControl)
+TEST_F(HostState, TheImageListIsThatOfTheControl)
 {
     class CImages : public IImageList
     {
@@ -110,7 +111,7 @@ TEST_F(Host, TheImageListIsThatOfTheControl)
     EXPECT_EQ(Host().GetImageList(), nullptr);
 }
 
-TEST_F(Host, TheDrawRectangleIsTheWindowsWithTheLastPixelIncluded)
+TEST_F(HostState, TheDrawRectangleIsTheWindowsWithTheLastPixelIncluded)
 {
     auto* const imp = dynamic_cast<CBaseControlImp*>(&Host());
     ASSERT_NE(imp, nullptr);
@@ -122,7 +123,7 @@ TEST_F(Host, TheDrawRectangleIsTheWindowsWithTheLastPixelIncluded)
 
 // The content ------------------------------------------------------------------------------------------------------------------
 
-TEST_F(Host, ANewContentGetsTheControlAndTheOldOneIsDeleted)
+TEST_F(HostState, ANewContentGetsTheControlAndTheOldOneIsDeleted)
 {
     bool deleted = false;
     auto const slot = Listen(m_Root->m_SigDestroy, [&](CVisualElement*) { deleted = true; });
@@ -136,7 +137,7 @@ TEST_F(Host, ANewContentGetsTheControlAndTheOldOneIsDeleted)
     EXPECT_EQ(next->GetParent(), nullptr);
 }
 
-TEST_F(Host, ANewContentGetsTheControlAfterTheOldOneIsGone)
+TEST_F(HostState, ANewContentGetsTheControlAfterTheOldOneIsGone)
 {
     auto const slot = Listen(m_Root->m_SigDestroy, [&](CVisualElement*) { m_Log.Add("root", "SigDestroy"); });
     auto* const next = new CRecordingElement(m_Log, "next", nullptr, {0, 0}, alClient);
@@ -148,7 +149,7 @@ TEST_F(Host, ANewContentGetsTheControlAfterTheOldOneIsGone)
               "root.SigDestroy() next.ProcessSetControl(control) next.AfterSetControl()");
 }
 
-TEST_F(Host, ANewContentLeavesItsParent)
+TEST_F(HostState, ANewContentLeavesItsParent)
 {
     CVisualElement parent(nullptr, {0, 0}, alNone);
     auto* const next = new CRecordingElement(m_Log, "next", &parent, {0, 0}, alClient);
@@ -159,7 +160,7 @@ TEST_F(Host, ANewContentLeavesItsParent)
     EXPECT_EQ(parent.GetChildren()->GetCount(), 0);
 }
 
-TEST_F(Host, ANewContentTakesTheOldOnesFont)
+TEST_F(HostState, ANewContentTakesTheOldOnesFont)
 {
     font value;
     value.size = 20;
@@ -173,7 +174,7 @@ TEST_F(Host, ANewContentTakesTheOldOnesFont)
     EXPECT_EQ(m_Log.Take({"AttributeChanged"}), "next.AttributeChanged() next.AttributeChanged()");
 }
 
-TEST_F(Host, ANewContentWithTheSameFontIsToldOnlyOfTheControl)
+TEST_F(HostState, ANewContentWithTheSameFontIsToldOnlyOfTheControl)
 {
     auto* const next = new CRecordingElement(m_Log, "next", nullptr, {0, 0}, alClient);
     m_Log.Clear();
@@ -183,7 +184,7 @@ TEST_F(Host, ANewContentWithTheSameFontIsToldOnlyOfTheControl)
     EXPECT_EQ(m_Log.Take({"AttributeChanged"}), "next.AttributeChanged()");
 }
 
-TEST_F(Host, AChildOfTheOldContentCanBecomeTheContent)
+TEST_F(HostState, AChildOfTheOldContentCanBecomeTheContent)
 {
     auto* const child = new CRecordingElement(m_Log, "child", m_Root, {0, 0}, alClient);
 
@@ -194,7 +195,7 @@ TEST_F(Host, AChildOfTheOldContentCanBecomeTheContent)
     EXPECT_EQ(child->GetControl(), &Host());
 }
 
-TEST_F(Host, AnOldContentByValueIsNotDeletedAndForgetsTheControl)
+TEST_F(HostState, AnOldContentByValueIsNotDeletedAndForgetsTheControl)
 {
     CRecordingElement byValue(m_Log, "byValue", nullptr, {0, 0}, alClient);
     m_Control->SetContent(&byValue);
@@ -205,7 +206,7 @@ TEST_F(Host, AnOldContentByValueIsNotDeletedAndForgetsTheControl)
     EXPECT_EQ(byValue.GetAlignment(), alClient);
 }
 
-TEST_F(Host, ANewContentIsPaintedInPlaceOfTheOldOne)
+TEST_F(HostState, ANewContentIsPaintedInPlaceOfTheOldOne)
 {
     Paint();
     auto* const next = new CRecordingElement(m_Log, "next", nullptr, {0, 0}, alClient);
@@ -217,9 +218,85 @@ TEST_F(Host, ANewContentIsPaintedInPlaceOfTheOldOne)
     EXPECT_EQ(next->GetPos(), (rectangle<int>{0, 0, 99, 49}));
 }
 
+TEST_F(HostState, ThePresentContentSetAgainStays)
+{
+    auto* const child = new CRecordingElement(m_Log, "child", m_Root);
+
+    m_Control->SetContent(m_Root);
+
+    EXPECT_EQ(m_Control->GetContent(), m_Root);
+    EXPECT_EQ(m_Root->GetControl(), &Host());
+    EXPECT_EQ(child->GetParent(), m_Root);
+    EXPECT_EQ(Paint(), "root.DrawContent()");
+}
+
+TEST_F(HostState, WithoutAContentEventsLayoutsAndPaintsDoNothing)
+{
+    bool deleted = false;
+    auto const slot = Listen(m_Root->m_SigDestroy, [&](CVisualElement*) { deleted = true; });
+
+    m_Control->SetContent(nullptr);
+
+    EXPECT_TRUE(deleted);
+    EXPECT_EQ(m_Control->GetContent(), nullptr);
+    CMouseEvent mouse(5, 5, 1, mbLeft);
+    CMouseWheelEvent wheel(5, 5, 0, mbNone, 1);
+    CKeyboardEvent key(0, 65, 'a');
+    CKeyboardEvent tab(0, vkTab);
+    CFocusEvent focus;
+    CWindowEvent window;
+    CContextMenuEvent menu(5, 5);
+    CTooltipEvent tooltip;
+    CEvent colours;
+    m_Control->OnMouseMove(&mouse);
+    m_Control->OnButtonDown(&mouse);
+    m_Control->OnButtonUp(&mouse);
+    m_Control->OnWheel(&wheel);
+    m_Control->OnKeyDown(&key);
+    m_Control->OnKeyDown(&tab);
+    m_Control->OnChar(&key);
+    m_Control->OnGetFocus(&focus);
+    m_Control->OnLostFocus(&focus);
+    m_Control->OnResize(&window);
+    m_Control->OnContextMenu(&menu);
+    m_Control->OnTooltip(&tooltip);
+    m_Control->OnTooltipTrack(&tooltip);
+    m_Control->OnSysColorChanged(&colours);
+    m_Control->OnCustomEvent(new CCustomEvent(0));
+    m_Control->OnCustomEvent(new CCustomEvent(1));
+    m_Control->Rearrange();
+    EXPECT_EQ(Paint(), "");
+    EXPECT_EQ(Host().GetMouseElement(), nullptr);
+    EXPECT_EQ(Host().GetFocusedElement(), nullptr);
+}
+
+TEST_F(HostState, AContentCanComeAfterThereWasNone)
+{
+    m_Control->SetContent(nullptr);
+    auto* const next = new CRecordingElement(m_Log, "next", nullptr, {0, 0}, alClient);
+
+    m_Control->SetContent(next);
+
+    EXPECT_EQ(Paint(), "next.DrawContent()");
+}
+
+TEST_F(HostState, ScrollingPixelsGoesToTheWindow)
+{
+    m_Log.Clear();
+
+    Host().ScrollContent(3, -4, {1, 2, 30, 40});
+
+    EXPECT_EQ(m_Log.Take(), "window.ScrollPixels(3, -4, 1 2 30 40)");
+
+    m_Control->SetSysWindow(nullptr);
+    m_Log.Clear();
+    Host().ScrollContent(3, -4, {1, 2, 30, 40});
+    EXPECT_EQ(m_Log.Take(), "");
+}
+
 // The capture --------------------------------------------------------------------------------------------------------------------
 
-TEST_F(Host, CapturingTakesTheNativeCaptureAndReleasingGivesItUp)
+TEST_F(HostState, CapturingTakesTheNativeCaptureAndReleasingGivesItUp)
 {
     CRecordingElement child(m_Log, "child", m_Root);
     m_Log.Clear();
@@ -233,7 +310,7 @@ TEST_F(Host, CapturingTakesTheNativeCaptureAndReleasingGivesItUp)
     EXPECT_EQ(m_Log.Take(), "window.ReleaseMouse()");
 }
 
-TEST_F(Host, CapturingTwiceTakesTheNativeCaptureTwice)
+TEST_F(HostState, CapturingTwiceTakesTheNativeCaptureTwice)
 {
     CRecordingElement child(m_Log, "child", m_Root);
     m_Log.Clear();
@@ -246,7 +323,7 @@ TEST_F(Host, CapturingTwiceTakesTheNativeCaptureTwice)
     Host().SetCapture(nullptr);
 }
 
-TEST_F(Host, AnyElementMayReleaseTheCaptureOfAnother)
+TEST_F(HostState, AnyElementMayReleaseTheCaptureOfAnother)
 {
     CRecordingElement child(m_Log, "child", m_Root);
     m_Root->CaptureMouse();
@@ -258,7 +335,7 @@ TEST_F(Host, AnyElementMayReleaseTheCaptureOfAnother)
 
 // Help ---------------------------------------------------------------------------------------------------------------------------
 
-TEST_F(Host, TheHelpIdIsTheFirstOneGoingUp)
+TEST_F(HostState, TheHelpIdIsTheFirstOneGoingUp)
 {
     CRecordingElement middle(m_Log, "middle", m_Root);
     CRecordingElement leaf(m_Log, "leaf", &middle);
@@ -275,7 +352,7 @@ TEST_F(Host, TheHelpIdIsTheFirstOneGoingUp)
     EXPECT_EQ(m_Control->GetHelpId(&leaf), "leaf help");
 }
 
-TEST_F(Host, TheHelpIdOfNothingIsThatOfTheFocusedElement)
+TEST_F(HostState, TheHelpIdOfNothingIsThatOfTheFocusedElement)
 {
     CRecordingElement child(m_Log, "child", m_Root);
     child.SetCanHaveFocus(true);
@@ -289,7 +366,7 @@ TEST_F(Host, TheHelpIdOfNothingIsThatOfTheFocusedElement)
     EXPECT_EQ(m_Control->GetHelpId(nullptr), "child help");
 }
 
-TEST_F(Host, ActivatingHelpFiresTheSignalWithTheControlAndTheId)
+TEST_F(HostState, ActivatingHelpFiresTheSignalWithTheControlAndTheId)
 {
     std::string heard;
     auto const slot = Listen(m_Control->m_SigHelp, [&](CBaseControl* control, std::string const& id) {
@@ -306,7 +383,7 @@ TEST_F(Host, ActivatingHelpFiresTheSignalWithTheControlAndTheId)
 
 // Copying ------------------------------------------------------------------------------------------------------------------------
 
-class HostCopy : public Host
+class HostCopy : public HostState
 {
 protected:
     HostCopy()

@@ -190,6 +190,15 @@ TEST_F(HostUpdate, AGlobalUpdateOfAnElementTellsEveryElementAndPaintsThatOne)
     EXPECT_EQ(Paint(), "right.DrawContent()");
 }
 
+TEST_F(HostUpdate, TheUnnamedBitWithAnElementTellsEveryElementAndPaintsThatOne)
+{
+    m_Right.Update(Type(6));
+
+    EXPECT_EQ(m_Log.Take({"UpdateElement"}),
+              "root.UpdateElement() left.UpdateElement() leaf.UpdateElement() right.UpdateElement()");
+    EXPECT_EQ(Paint(), "right.DrawContent()");
+}
+
 TEST_F(HostUpdate, WhatAsksDuringAGlobalUpdateIsPartOfTheFullPaint)
 {
     m_Left.m_OnUpdateElement = [&] { m_Right.Update(utElement); };

@@ -13,12 +13,11 @@ namespace
 {
 
 class IncrementalPaint : public testing::TestWithParam<double>
-{
-};
+{};
 
 constexpr int g_Steps = 26000;
 
-} // namespace
+}  // namespace
 
 TEST_P(IncrementalPaint, GivesTheSamePixelsAsPaintingEverything)
 {
@@ -26,7 +25,7 @@ TEST_P(IncrementalPaint, GivesTheSamePixelsAsPaintingEverything)
     int steps = 0;
     while (steps < g_Steps)
     {
-        CTestHost host(random.Int(60, 150), random.Int(50, 110), GetParam());
+        CTestHost host(random.Int(130, 200), random.Int(50, 110), GetParam());
         host.Focus();
         CTreeGame game(host.Control(), host.Window(), random);
         for (int round = 0; round < 200; ++round)
@@ -40,7 +39,7 @@ TEST_P(IncrementalPaint, GivesTheSamePixelsAsPaintingEverything)
             std::string const difference = game.CompareWithFullPaint();
             ASSERT_EQ(difference, "");
             if (random.Chance(2))
-                host.Resize(random.Int(60, 150), random.Int(50, 110));
+                host.Resize(random.Int(130, 200), random.Int(50, 110));
         }
         steps += game.GetSteps();
     }

@@ -286,12 +286,13 @@ TEST_F(SetPos, DockedChildrenAndAClientTogetherFillEverythingToo)
 {
     CRecordingElement docked(m_Log, "docked", &m_Box, {10, 10}, alTop);
     CRecordingElement client(m_Log, "client", &m_Box, {0, 0}, alClient);
+    m_Control.m_UpdatesCount = 5;
     m_Log.Clear();
 
     m_Box.SetPos({0, 0, 50, 30}, false);
 
-    EXPECT_EQ(TakeRequests(), "control.ClearUpdates(0) control.UpdateElement(docked, 2) "
-                              "control.ClearUpdates(1) control.UpdateElement(client, 2)");
+    EXPECT_EQ(TakeRequests(), "control.ClearUpdates(5) control.UpdateElement(docked, 2) "
+                              "control.ClearUpdates(6) control.UpdateElement(client, 2)");
 }
 
 TEST_F(SetPos, ADockedChildThatTakesEverythingIsNoClient)

@@ -1,11 +1,11 @@
 // How elements die, alone, with their children and with their parent.
 
+#include "tests/support/assertion_count.h"
 #include "tests/support/call_log.h"
 #include "tests/support/recording_control.h"
 #include "tests/support/recording_element.h"
 #include "tests/support/scripted_system.h"
 #include "tests/support/slot.h"
-#include "vexel/testing/expect_assertion.h"
 
 #include <gtest/gtest.h>
 
@@ -321,10 +321,11 @@ TEST_F(Lifetime, AMemberOfADeletedElementLeavesItsListInTime)
 TEST_F(Lifetime, AnElementCannotBecomeItsOwnParent)
 {
     CRecordingElement child(m_Log, "child", &m_Root);
-    test::CExpectAssertion assertion("");
+    CAssertionCount assertions;
 
     child.ReParent(&child, false);
 
+    EXPECT_EQ(assertions.Get(), 1);
     EXPECT_EQ(child.GetParent(), &m_Root);
     EXPECT_EQ(m_Root.GetChildren()->GetCount(), 1);
 }
@@ -333,10 +334,11 @@ TEST_F(Lifetime, AnElementCannotBecomeTheChildOfItsDescendant)
 {
     CRecordingElement child(m_Log, "child", &m_Root);
     CRecordingElement leaf(m_Log, "leaf", &child);
-    test::CExpectAssertion assertion("");
+    CAssertionCount assertions;
 
     child.ReParent(&leaf, false);
 
+    EXPECT_EQ(assertions.Get(), 1);
     EXPECT_EQ(child.GetParent(), &m_Root);
     EXPECT_EQ(leaf.GetParent(), &child);
     EXPECT_EQ(leaf.GetChildren()->GetCount(), 0);

@@ -265,7 +265,7 @@ TEST(PainterLine, KeepsItsSlopeAndPatternFromAfar)
     canvas.Line(-100001, 0, 7, 0);      // column 0 is step 100001
     canvas.Line(-1000000000, 1, 7, 1);  // column 0 is step 1000000000
     canvas.Pen(Black);
-    canvas.Line(-3e9, 0, 3e9, 6);       // half way up in the middle
+    canvas.Line(-3e9, 0, 3e9, 6);  // half way up in the middle
     EXPECT_EQ(canvas.Text(), ".#.#.#.#\n"
                              "#.#.#.#.\n"
                              "........\n"
@@ -292,4 +292,4 @@ TEST(PainterLine, OutOfSightOrWithoutNumbersDoesNoHarm)
                              "..\n");
 }
 
-} // namespace vexelbase::tests
+}  // namespace vexelbase::tests

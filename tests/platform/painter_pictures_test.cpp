@@ -16,7 +16,7 @@ vexel_ptr<IRasterPicture> Flag()
                        "yc#\n");
 }
 
-} // namespace
+}  // namespace
 
 // One to one -------------------------------------------------------------------------------------------------------
 
@@ -266,6 +266,39 @@ TEST(PainterAlphaBlend, MixesEachChannelInWholeNumbers)
     EXPECT_EQ(canvas->GetPixel(2, 0), _color::FromRgb(255, 0, 7));
 }
 
+TEST(PainterAlphaBlend, IsExactForAllShadesAndAlphas)
+{
+    // Row y of the picture has the shade y in red and blue and its opposite in green; the surface has the shade x.
+    vexel_ptr<IRasterPicture> const picture = MakeRef<CPixelPicture>(size<int>{256, 256});
+    CCanvas canvas(256, 256);
+    CPixelBuffer surface({256, 256});
+    for (int y = 0; y < 256; ++y)
+    {
+        for (int x = 0; x < 256; ++x)
+        {
+            picture->GetPixels().Row(y)[x] = CPixelBuffer::ToPixel(_color::FromRgb(y, 255 - y, y));
+            surface.Row(y)[x] = CPixelBuffer::ToPixel(_color::FromRgb(x, x, 255 - x));
+        }
+    }
+    for (int alpha = 0; alpha <= 255; alpha += 5)
+    {
+        canvas.Pixels() = surface;
+        canvas->AlphaBlend(0, 0, All, All, picture.get(), alpha);
+        int wrong = 0;
+        for (int y = 0; y < 256; ++y)
+        {
+            for (int x = 0; x < 256; ++x)
+            {
+                _color const expected = _color::FromRgb((y * alpha + x * (255 - alpha)) / 255,
+                                                        ((255 - y) * alpha + x * (255 - alpha)) / 255,
+                                                        (y * alpha + (255 - x) * (255 - alpha)) / 255);
+                wrong += canvas.Pixels().Row(y)[x] == CPixelBuffer::ToPixel(expected) ? 0 : 1;
+            }
+        }
+        EXPECT_EQ(wrong, 0) << alpha;
+    }
+}
+
 TEST(PainterAlphaBlend, BringsTheAlphaInto0To255)
 {
     CCanvas canvas("rr\n");
@@ -363,4 +396,4 @@ TEST(PainterControlElement, IsHandedToTheDeviceWithItsAreaAndWhatMayBePainted)
     EXPECT_EQ(canvas.Device().m_Parts.size(), before);
 }
 
-} // namespace vexelbase::tests
+}  // namespace vexelbase::tests

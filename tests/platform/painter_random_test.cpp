@@ -17,8 +17,20 @@ namespace vexelbase::tests
 namespace
 {
 
-enum FigureKind { fkLine, fkFill, fkRectangle, fkRound, fkPolygon, fkFocus, fkPixel, fkPicture, fkStretch, fkBlend,
-                  fkKinds };
+enum FigureKind
+{
+    fkLine,
+    fkFill,
+    fkRectangle,
+    fkRound,
+    fkPolygon,
+    fkFocus,
+    fkPixel,
+    fkPicture,
+    fkStretch,
+    fkBlend,
+    fkKinds
+};
 
 // One drawing with the tools for it.
 struct SFigure
@@ -67,22 +79,35 @@ void Draw(IPainter& painter, SFigure const& figure)
         painter.MoveTo(n[0], n[1]);
         painter.LineTo(n[2], n[3]);
         break;
-    case fkFill: painter.FillRect(n[0], n[1], n[2], n[3]); break;
-    case fkRectangle: painter.Rectangle(n[0], n[1], n[2], n[3]); break;
-    case fkRound: painter.RoundRect(n[0], n[1], n[2], n[3], n[4], n[5]); break;
+    case fkFill:
+        painter.FillRect(n[0], n[1], n[2], n[3]);
+        break;
+    case fkRectangle:
+        painter.Rectangle(n[0], n[1], n[2], n[3]);
+        break;
+    case fkRound:
+        painter.RoundRect(n[0], n[1], n[2], n[3], n[4], n[5]);
+        break;
     case fkPolygon:
     {
         point<double> const points[] = {{n[0], n[1]}, {n[2], n[3]}, {n[4], n[5]}, {n[6], n[7]}, {n[8], n[9]}};
         painter.Polygon(points, 5);
         break;
     }
-    case fkFocus: painter.FocusRect(n[0], n[1], n[2], n[3]); break;
-    case fkPixel: painter.SetPixel(n[0], n[1], _color(0xFF123456)); break;
-    case fkPicture: painter.DrawRasterPicture(SomePicture(), n[0], n[1], n[2], n[3], mode); break;
+    case fkFocus:
+        painter.FocusRect(n[0], n[1], n[2], n[3]);
+        break;
+    case fkPixel:
+        painter.SetPixel(n[0], n[1], _color(0xFF123456));
+        break;
+    case fkPicture:
+        painter.DrawRasterPicture(SomePicture(), n[0], n[1], n[2], n[3], mode);
+        break;
     case fkStretch:
         painter.DrawRasterPictureEx(SomePicture(), n[0], n[1], n[2], n[3], n[4], n[5], n[6], n[7], mode);
         break;
-    default: painter.AlphaBlend(n[0], n[1], n[2], n[3], SomePicture(), figure.width * 40);
+    default:
+        painter.AlphaBlend(n[0], n[1], n[2], n[3], SomePicture(), figure.width * 40);
     }
 }
 
@@ -96,8 +121,8 @@ rc::Gen<double> Wild()
     double const inf = std::numeric_limits<double>::infinity();
     return rc::gen::oneOf(
         Quarters(-10, 50),
-        rc::gen::element(0.0, -0.0, 1e-300, -1e-300, 1e9, -1e9, 1e300, -1e300, 2147483647.0, -2147483648.0, 2147483646.5,
-                         4294967296.0, 536870912.0, -536870912.5, 1e15, -1e17, std::nan(""), inf, -inf),
+        rc::gen::element(0.0, -0.0, 1e-300, -1e-300, 1e9, -1e9, 1e300, -1e300, 2147483647.0, -2147483648.0,
+                         2147483646.5, 4294967296.0, 536870912.0, -536870912.5, 1e15, -1e17, std::nan(""), inf, -inf),
         rc::gen::map(rc::gen::inRange(-2000000000, 2000000000), [](int value) { return value * 1.5; }),
         rc::gen::map(rc::gen::inRange(-3000, 3000), [](int value) { return value + 0.5; }));
 }
@@ -151,7 +176,7 @@ bool IsCovered(CDamage const& damage, int x, int y)
 constexpr int Width = 32;
 constexpr int Height = 26;
 
-} // namespace
+}  // namespace
 
 RC_GTEST_PROP(PainterProperty, FiguresDrawnInPartsEqualTheWholeCutToTheParts, ())
 {
@@ -239,7 +264,8 @@ RC_GTEST_PROP(PainterProperty, OneInvertedFigureInvertsNoPixelTwice, ())
     // Copied in black and inverted with white, an outline on white looks the same.
     SFigure figure = *Figures(fkFocus);
     figure.filled = false;
-    auto const draw = [&](IPainter::RasterOperation mode, _color const& color) {
+    auto const draw = [&](IPainter::RasterOperation mode, _color const& color)
+    {
         CCanvas canvas(Width, Height);
         figure.mode = mode;
         struct CColored
@@ -332,10 +358,17 @@ RC_GTEST_PROP(PainterProperty, NoNumberDoesHarm, ())
         }
         switch (*rc::gen::inRange(0, 5))
         {
-        case 0: canvas->ResetClip(); break;
-        case 1: canvas->SetClipRect(wild(), wild(), wild(), wild(), *rc::gen::arbitrary<bool>()); break;
-        case 2: canvas->SimpleSetClipRect({wild(), wild(), wild(), wild()}, *rc::gen::arbitrary<bool>()); break;
-        default: break;
+        case 0:
+            canvas->ResetClip();
+            break;
+        case 1:
+            canvas->SetClipRect(wild(), wild(), wild(), wild(), *rc::gen::arbitrary<bool>());
+            break;
+        case 2:
+            canvas->SimpleSetClipRect({wild(), wild(), wild(), wild()}, *rc::gen::arbitrary<bool>());
+            break;
+        default:
+            break;
         }
         canvas->m_DisabledMode = *rc::gen::arbitrary<bool>();
         SFigure figure = MakeFigure(Wild(), fkKinds);
@@ -376,10 +409,17 @@ RC_GTEST_PROP(ClipRegionProperty, EqualsASetOfPixels, ())
         int const operation = *rc::gen::weightedElement<int>({{1, 0}, {1, 1}, {3, 2}, {8, 3}});
         switch (operation)
         {
-        case 0: region.Reset(); break;
-        case 1: region.Set(rect); break;
-        case 2: region.Intersect(rect); break;
-        default: region.Exclude(rect, surface);
+        case 0:
+            region.Reset();
+            break;
+        case 1:
+            region.Set(rect);
+            break;
+        case 2:
+            region.Intersect(rect);
+            break;
+        default:
+            region.Exclude(rect, surface);
         }
         unlimited = operation == 0;
         for (int p = 0; p < side * side; ++p)
@@ -395,19 +435,22 @@ RC_GTEST_PROP(ClipRegionProperty, EqualsASetOfPixels, ())
 
     std::array<int, side * side> drawn{};
     rectangle<int> bounds = region.GetBounds();
-    region.ForEach(surface, [&](rectangle<int> const& part) {
-        RC_ASSERT(!part.IsEmpty());
-        for (int y = part.top; y < part.bottom; ++y)
-        {
-            for (int x = part.left; x < part.right; ++x)
-            {
-                ++drawn[static_cast<std::size_t>(y * side + x)];
-                RC_ASSERT(unlimited || (x >= bounds.left && x < bounds.right && y >= bounds.top && y < bounds.bottom));
-            }
-        }
-    });
+    region.ForEach(surface,
+                   [&](rectangle<int> const& part)
+                   {
+                       RC_ASSERT(!part.IsEmpty());
+                       for (int y = part.top; y < part.bottom; ++y)
+                       {
+                           for (int x = part.left; x < part.right; ++x)
+                           {
+                               ++drawn[static_cast<std::size_t>(y * side + x)];
+                               RC_ASSERT(unlimited || (x >= bounds.left && x < bounds.right && y >= bounds.top &&
+                                                       y < bounds.bottom));
+                           }
+                       }
+                   });
     for (std::size_t p = 0; p < drawn.size(); ++p)
         RC_ASSERT(drawn[p] == (model[p] ? 1 : 0));
 }
 
-} // namespace vexelbase::tests
+}  // namespace vexelbase::tests

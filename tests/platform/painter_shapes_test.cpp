@@ -473,7 +473,8 @@ TEST(PainterFocusRect, ErasesItselfByRepetition)
                                ".y#c.\n"
                                "m.r.g\n";
     CCanvas canvas(before);
-    rectangle<double> const rects[] = {{0, 0, 4, 2}, {0, 0, 3, 1}, {1, 1, 1, 1}, {0, 1, 4, 1}, {2, 0, 2, 2}, {0, 0, 1, 1}};
+    rectangle<double> const rects[] = {{0, 0, 4, 2}, {0, 0, 3, 1}, {1, 1, 1, 1},
+                                       {0, 1, 4, 1}, {2, 0, 2, 2}, {0, 0, 1, 1}};
     for (rectangle<double> const& rect : rects)
     {
         canvas->FocusRect(rect.left, rect.top, rect.right, rect.bottom);
@@ -546,4 +547,4 @@ TEST(PainterPixel, OfNoColourIsNotSet)
     EXPECT_EQ(canvas.Text(), "r\n");
 }
 
-} // namespace vexelbase::tests
+}  // namespace vexelbase::tests

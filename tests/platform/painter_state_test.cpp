@@ -491,4 +491,4 @@ TEST_F(CPainterBracket, OfAPictureIsAlwaysAFullPaint)
     EXPECT_TRUE(painter.IsFullPaint());
 }
 
-} // namespace vexelbase::tests
+}  // namespace vexelbase::tests

@@ -28,7 +28,7 @@ bool IsCovered(CDamage const& damage, int x, int y)
     return false;
 }
 
-} // namespace
+}  // namespace
 
 // Rounding ---------------------------------------------------------------------------------------------------------
 
@@ -90,17 +90,21 @@ TEST(PixelTransfer, DividesBy255Exactly)
         ASSERT_EQ(detail::DivideBy255(x), x / 255u) << x;
 }
 
-TEST(PixelTransfer, StretchesBetweenEnormousRectangles)
+TEST(RasterDeviceBlit, StretchesBetweenEnormousRectangles)
 {
     // A picture of 4 pixels over all numbers: the ends of the surface lie right of the middle, on the third.
-    CPixelBuffer target({2, 1});
+    CCanvas canvas(2, 1);
     CPixelBuffer const source = MakePicture("rgby\n")->GetPixels();
-    detail::StretchPixels(target, {Lowest, 0, Highest, 1}, {0, 0, 2, 1}, source, {0, 0, 4, 1}, IPainter::roCopy);
-    EXPECT_EQ(ToText(target), "bb\n");
-    // And all numbers as source: only what the picture has is drawn, at 0 right of the middle.
-    CPixelBuffer wide({4, 1});
-    detail::StretchPixels(wide, {Lowest, 0, Highest, 1}, {0, 0, 4, 1}, source, {Lowest, 0, Highest, 1}, IPainter::roCopy);
-    EXPECT_EQ(ToText(wide), "rgby\n");
+    canvas.Device().Blit({Lowest, 0, Highest, 1}, {0, 0, 2, 1}, source, {0, 0, 4, 1}, IPainter::roCopy);
+    EXPECT_EQ(canvas.Text(), "bb\n");
+    // And all numbers as source, of equal extents and then one row for two.
+    CCanvas wide(5, 2);
+    wide.Device().Blit({Lowest, 0, Highest, 1}, {0, 0, 5, 1}, source, {Lowest, 0, Highest, 1}, IPainter::roCopy);
+    EXPECT_EQ(wide.Text(), "rgby.\n"
+                           ".....\n");
+    wide.Device().Blit({Lowest, 0, Highest, 2}, {1, 1, 5, 2}, source, {Lowest, 0, Highest, 1}, IPainter::roCopy);
+    EXPECT_EQ(wide.Text(), "rgby.\n"
+                           ".gby.\n");
 }
 
 // Damage -----------------------------------------------------------------------------------------------------------
@@ -141,21 +145,45 @@ TEST(Damage, GathersScatteredDotsOfALine)
     EXPECT_EQ(damage[0], (rectangle<int>{0, 3, 199, 4}));
 }
 
+// Squares of 10 that lie apart, in an order that jumps about.
+rectangle<int> Scattered(int i)
+{
+    int const x = i * 37 % 400 * 100;
+    int const y = i * 61 % 400 * 100;
+    return {x, y, x + 10, y + 10};
+}
+
 TEST(Damage, NeverHasMoreThanItsCapacityNorLosesAPixel)
 {
     CDamage damage;
-    for (int i = 0; i < 40; ++i)
+    for (int i = 0; i < 400; ++i)
     {
-        int const x = i * 37 % 40 * 100;
-        int const y = i * 61 % 40 * 100;
-        damage.Add({x, y, x + 10, y + 10});
+        damage.Add(Scattered(i));
         ASSERT_LE(damage.GetCount(), CDamage::Capacity);
         for (int j = 0; j <= i; ++j)
         {
-            ASSERT_TRUE(IsCovered(damage, j * 37 % 40 * 100, j * 61 % 40 * 100));
-            ASSERT_TRUE(IsCovered(damage, j * 37 % 40 * 100 + 9, j * 61 % 40 * 100 + 9));
+            ASSERT_TRUE(IsCovered(damage, Scattered(j).left, Scattered(j).top));
+            ASSERT_TRUE(IsCovered(damage, Scattered(j).right - 1, Scattered(j).bottom - 1));
         }
     }
+}
+
+TEST(Damage, KeepsAsManyRectanglesAsItHasRoomForAndThenMakesOneOfThem)
+{
+    CDamage damage;
+    for (int i = 0; i < CDamage::Capacity; ++i)
+        damage.Add(Scattered(i));
+    EXPECT_EQ(damage.GetCount(), CDamage::Capacity);
+    EXPECT_EQ(damage[5], Scattered(5));
+
+    damage.Add(Scattered(CDamage::Capacity));
+    EXPECT_EQ(damage.GetCount(), 1);
+
+    // After a Clear there is room again.
+    damage.Clear();
+    for (int i = 0; i < CDamage::Capacity; ++i)
+        damage.Add(Scattered(i));
+    EXPECT_EQ(damage.GetCount(), CDamage::Capacity);
 }
 
 TEST(Damage, IsNotedByAllThatWritesAndCutToTheSurface)
@@ -194,18 +222,22 @@ TEST(RasterDeviceMove, MovesInAllDirectionsThoughTheAreasOverlap)
         int dy;
         char const* expected;
     };
-    SCase const cases[] = {{1, 0, "rrgb\n"
-                                  "yycm\n"
-                                  "rgby\n"},
-                           {-1, 0, "gbyy\n"
-                                   "cm##\n"
-                                   "rgby\n"},
-                           {0, 1, "rgby\n"
-                                  "rgby\n"
-                                  "ycm#\n"},
-                           {1, 1, "rgby\n"
-                                  "yrgb\n"
-                                  "rycm\n"}};
+    SCase const cases[] = {{1, 0,
+                            "rrgb\n"
+                            "yycm\n"
+                            "rgby\n"},
+                           {-1, 0,
+                            "gbyy\n"
+                            "cm##\n"
+                            "rgby\n"},
+                           {0, 1,
+                            "rgby\n"
+                            "rgby\n"
+                            "ycm#\n"},
+                           {1, 1,
+                            "rgby\n"
+                            "yrgb\n"
+                            "rycm\n"}};
     for (SCase const& entry : cases)
     {
         CCanvas canvas("rgby\n"
@@ -298,4 +330,4 @@ TEST(BasePicture, ScalesToTheNearestPixel)
     EXPECT_EQ(ToText(MakeRef<CPixelPicture>(size<int>{0, 0})->Scale({2, 1})->GetPixels()), "..\n");
 }
 
-} // namespace vexelbase::tests
+}  // namespace vexelbase::tests

@@ -46,7 +46,7 @@ CPixelBuffer FromText(std::string const& text)
     return pixels;
 }
 
-} // namespace
+}  // namespace
 
 void CPixelDevice::DrawControlElement(IPainter::ControlElement element, rectangle<int> const& area,
                                       rectangle<int> const& clip, int state)
@@ -91,10 +91,7 @@ CCanvas::CCanvas(int width, int height) : m_Pixels({width, height}), m_Device(m_
     NoBrush();
 }
 
-CCanvas::CCanvas(std::string const& text) : CCanvas(0, 0)
-{
-    m_Pixels = FromText(text);
-}
+CCanvas::CCanvas(std::string const& text) : CCanvas(0, 0) { m_Pixels = FromText(text); }
 
 void CCanvas::Pen(_color const& color, int style, int width)
 {
@@ -111,8 +108,7 @@ void CCanvas::Line(double x1, double y1, double x2, double y2)
     m_Painter.LineTo(x2, y2);
 }
 
-void CCanvas::Map(double left, double top, double width, double height, int x, int y, int deviceWidth,
-                  int deviceHeight)
+void CCanvas::Map(double left, double top, double width, double height, int x, int y, int deviceWidth, int deviceHeight)
 {
     IPainter::CoordInfo info;
     info.m_LogicalOrigin = {left, top};
@@ -122,4 +118,4 @@ void CCanvas::Map(double left, double top, double width, double height, int x, i
     m_Painter.SetCoordSystem(IPainter::mmCustom, &info);
 }
 
-} // namespace vexelbase::tests
+}  // namespace vexelbase::tests

@@ -88,4 +88,4 @@ private:
     CBasePainter m_Painter;
 };
 
-} // namespace vexelbase::tests
+}  // namespace vexelbase::tests

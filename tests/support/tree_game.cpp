@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <sstream>
+#include <utility>
 
 namespace vexel::test
 {
@@ -29,6 +30,9 @@ public:
     }
 
     virtual char const* GetKind() const = 0;
+    /// Its children are all of alNone, each in a square of its own.
+    bool IsBoard() const { return GetId() % 4 == 3; }
+    int m_Square = -1;
     /// Scrolls its content, where it has one.
     virtual void ScrollBy(int, int) {}
 
@@ -218,12 +222,23 @@ private:
     rectangle<int> m_Kept;
 };
 
+/// Paints nothing itself: what paints in strips stands in such a one, since a filled ground would lose what still stands.
+class CTreeGame::CBare : public CNode
+{
+public:
+    using CNode::CNode;
+    char const* GetKind() const override { return "bare"; }
+};
+
 CTreeGame::CTreeGame(CBaseControl& control, CBaseWindow& window, CTestRandom& random)
     : m_Control(control), m_Window(window), m_Random(random)
 {
-    // The root paints nothing, so a base covers it.
-    auto* const base = new CFill(control.GetContent(), {0, 0}, alClient, m_NextId++);
-    base->SetCanHaveFocus(false);
+    // The root paints nothing, so these three cover it for good.
+    m_Bare = new CBare(control.GetContent(), {40, 0}, alRight, m_NextId++);
+    new CStrips(m_Bare, {0, 0}, alClient, m_NextId++);
+    m_NextId = 4;
+    m_Base = new CFill(control.GetContent(), {0, 0}, alClient, m_NextId++);
+    m_Base->SetCanHaveFocus(false);
 }
 
 CTreeGame::~CTreeGame() = default;
@@ -255,55 +270,61 @@ void CTreeGame::Collect(CVisualElement* element)
     for (int i = 0; i < element->GetChildren()->GetCount(); ++i)
     {
         CVisualElement* const child = element->GetChildren()->GetItem(i);
-        if (child->GetParent() != m_Control.GetContent())
+        if (element != m_Control.GetContent() && (element != m_Bare || i > 0))
             m_All.push_back(static_cast<CNode*>(child));
         Collect(child);
     }
 }
 
-CTreeGame::CNode* CTreeGame::Pick()
-{
-    return m_All.empty() ? nullptr : m_Random.Pick(m_All);
-}
+CTreeGame::CNode* CTreeGame::Pick() { return m_All.empty() ? nullptr : m_Random.Pick(m_All); }
 
-// Strips have no children: what they leave out is theirs alone.
+// For all but strips, which have no children either.
 CVisualElement* CTreeGame::PickParent()
 {
     for (int attempt = 0; attempt < 4 && !m_All.empty(); ++attempt)
     {
         CNode* const node = m_Random.Pick(m_All);
-        if (std::string(node->GetKind()) != "strips")
+        if (!IsStrips(node))
             return node;
     }
-    return m_Control.GetContent()->GetChildren()->GetItem(0);
+    return m_Base;
 }
 
-bool CTreeGame::IsFree(CNode const* node) const
-{
-    return node->GetAlignment() == alNone;
-}
+bool CTreeGame::IsStrips(CNode const* node) { return dynamic_cast<CStrips const*>(node) != nullptr; }
 
-// Free elements stand in places of their own inside their parent, so that none overlaps another.
-void CTreeGame::PlaceFree(CNode* node)
+bool CTreeGame::IsFree(CNode const* node) { return node->GetAlignment() == alNone; }
+
+// Docks what is not on a board, and gives a place to what is. After a change of parent, or to move on a board.
+void CTreeGame::PlaceByParent(CNode* node)
 {
-    rectangle<int> const bounds = node->GetParent()->GetBounds();
-    int const index = node->GetParent()->GetChildren()->GetIndex(node);
-    int const width = m_Random.Int(4, 9);
-    int const height = m_Random.Int(4, 9);
-    int const left = index % 6 * 11 + m_Random.Int(0, 1);
-    int const top = index / 6 * 11 + m_Random.Int(0, 1);
-    rectangle<int> rect{left, top, left + width, top + height};
-    if (rect.right > bounds.right || rect.bottom > bounds.bottom)
-        rect = {0, 0, 0, 0};  // no room: nothing to see
-    node->SetPos(rect, m_Random.Bool());
-    if (node->GetPos().Width() != width || m_Random.Bool())
-        node->SetPos(rect, true);
-    node->GetParent()->Update(utElement);
+    auto* const parent = static_cast<CNode*>(node->GetParent());
+    if (!parent->IsBoard())
+    {
+        if (IsFree(node))
+            node->SetAlignment(static_cast<Alignment>(m_Random.Int(alLeft, alClient)));
+        return;
+    }
+    node->SetAlignment(alNone);
+    std::vector<int> taken;
+    for (int i = 0; i < parent->GetChildren()->GetCount(); ++i)
+        if (CVisualElement* const sibling = parent->GetChildren()->GetItem(i); sibling != node)
+            taken.push_back(static_cast<CNode*>(sibling)->m_Square);
+    do
+        node->m_Square = m_Random.Int(0, 39);
+    while (std::find(taken.begin(), taken.end(), node->m_Square) != taken.end());
+    int const left = node->m_Square % 8 * 12 + m_Random.Int(0, 2);
+    int const top = node->m_Square / 8 * 12 + m_Random.Int(0, 2);
+    rectangle<int> const& old = node->GetPos();
+    if (m_Random.Bool() && !old.IsEmpty())
+        node->SetPos({left, top, left + old.Width(), top + old.Height()}, false);  // its pixels go with it
+    else
+        node->SetPos({left, top, left + m_Random.Int(3, 9), top + m_Random.Int(3, 9)}, true);
+    parent->Update(utElement);
 }
 
 void CTreeGame::Add()
 {
-    CVisualElement* const parent = PickParent();
+    CVisualElement* parent = PickParent();
     auto const alignment = static_cast<Alignment>(m_Random.Int(alLeft, alClient));
     size<int> const extent{m_Random.Int(1, 40), m_Random.Int(1, 30)};
     CNode* node = nullptr;
@@ -313,12 +334,15 @@ void CTreeGame::Add()
         node = new CGlass(parent, extent, alignment, m_NextId++);
         break;
     case 1:
-        node = new CStrips(parent, extent, alignment, m_NextId++);
+        parent = m_Bare;
+        node = new CStrips(parent, extent, static_cast<Alignment>(m_Random.Int(alLeft, alBottom)), m_NextId++);
         break;
     default:
         node = new CFill(parent, extent, alignment, m_NextId++);
         break;
     }
+    if (!IsStrips(node))
+        PlaceByParent(node);
     Note("add " + NameOf(node) + " to " + NameOf(parent));
 }
 
@@ -353,12 +377,11 @@ void CTreeGame::Move()
     }
     case 2:
     {
-        auto const alignment = static_cast<Alignment>(m_Random.Int(alLeft, alClient));
+        auto const alignment = static_cast<Alignment>(m_Random.Int(alLeft, IsStrips(node) ? alBottom : alClient));
+        if (IsFree(node))
+            break;
         Note("dock " + NameOf(node) + " " + std::to_string(alignment));
-        bool const wasFree = IsFree(node);
         node->SetAlignment(alignment);
-        if (wasFree)
-            node->GetParent()->Update(utElement);
         break;
     }
     case 3:
@@ -372,21 +395,22 @@ void CTreeGame::Move()
     case 4:
     {
         CVisualElement* const parent = PickParent();
-        if (IsAncestor(parent, node) || parent == node->GetParent())
+        if (IsStrips(node) || IsAncestor(parent, node) || parent == node->GetParent())
             return;
         Note("move " + NameOf(node) + " to " + NameOf(parent));
         CVisualElement* const old = node->GetParent();
         node->ReParent(parent, true);
         old->Update(utElement);
-        if (IsFree(node))
-            PlaceFree(node);
+        PlaceByParent(node);
         break;
     }
     case 5:
     {
         IChildren* const children = node->GetParent()->GetChildren();
         int const from = children->GetIndex(node);
-        int const to = m_Random.Index(children->GetCount());
+        // The first of the bare one stays the first.
+        int const first = IsStrips(node) ? 1 : 0;
+        int const to = m_Random.Int(first, children->GetCount() - 1);
         Note("order " + NameOf(node) + " to " + std::to_string(to));
         children->MoveItem(from, to);
         node->OnRearrange(node);
@@ -394,13 +418,11 @@ void CTreeGame::Move()
         break;
     }
     default:
-        if (!IsFree(node) && node->GetParent()->GetChildren()->GetCount() < 12)
-        {
-            node->SetAlignment(alNone);
-            Note("free " + NameOf(node));
-        }
         if (IsFree(node))
-            PlaceFree(node);
+        {
+            PlaceByParent(node);
+            Note("place " + NameOf(node));
+        }
         break;
     }
 }
@@ -455,7 +477,7 @@ void CTreeGame::Change()
     default:
         for (CNode* const each : m_All)
         {
-            if (std::string(each->GetKind()) != "strips" || !m_Random.Bool())
+            if (!IsStrips(each) || !m_Random.Bool())
                 continue;
             int const dx = m_Random.Int(-12, 12);
             int const dy = m_Random.Int(-12, 12);
@@ -519,29 +541,46 @@ void CTreeGame::ResizeWindow()
 
 // Painting --------------------------------------------------------------------------------------------------------------
 
-// A docked child that finds no room has no pixels, yet takes one line, which nobody paints while a client fills the rest.
-void CTreeGame::RepaintWhereNothingFits(CVisualElement* element)
+// The first element below that finds no room in its parent, or is a client beside another one; null if all are well placed.
+// Such elements overlap others or leave a line to nobody.
+CVisualElement* CTreeGame::FindMisplaced(CVisualElement* element)
 {
     IChildren* const children = element->GetChildren();
-    bool client = false;
-    bool empty = false;
+    rectangle<int> const bounds = element->GetBounds();
+    CVisualElement* client = nullptr;
     for (int i = 0; i < children->GetCount(); ++i)
     {
         CVisualElement* const child = children->GetItem(i);
         if (!child->IsVisible())
             continue;
-        client = client || child->GetAlignment() == alClient;
-        empty = empty || child->GetPos().IsEmpty();
-        RepaintWhereNothingFits(child);
+        rectangle<int> const& pos = child->GetPos();
+        bool const inside =
+            pos.left >= 0 && pos.top >= 0 && pos.right <= bounds.right && pos.bottom <= bounds.bottom && !pos.IsEmpty();
+        if (!inside && element != m_Bare && element != m_Control.GetContent())
+            return child;
+        if (child->GetAlignment() == alClient && std::exchange(client, child))
+            return child;
+        if (CVisualElement* const found = FindMisplaced(child))
+            return found;
     }
-    if (client && empty)
-        element->Update(utElement);
+    return nullptr;
 }
 
 void CTreeGame::Paint()
 {
-    m_Control.GetContent()->ForceRearrange();
-    RepaintWhereNothingFits(m_Control.GetContent());
+    // The owner of a tree takes out what finds no room.
+    for (;;)
+    {
+        m_Control.GetContent()->ForceRearrange();
+        CVisualElement* const misplaced = FindMisplaced(m_Control.GetContent());
+        if (!misplaced)
+            break;
+        Note("no room for " + NameOf(misplaced));
+        CVisualElement* const parent = misplaced->GetParent();
+        misplaced->ReParent(nullptr, true);
+        delete misplaced;
+        parent->Update(utElement);
+    }
     m_Window.UpdateNow();
 }
 
@@ -564,13 +603,14 @@ std::string CTreeGame::CompareWithFullPaint()
             if (++differing > 1)
                 continue;
             CVisualElement* const element = m_Control.GetContent()->FindVisualElement(x, y);
-            text << "first at (" << x << ", " << y << "), on " << NameOf(element) << ": " << std::hex << before.Row(y)[x]
-                 << " instead of " << after.Row(y)[x] << std::dec;
+            text << "first at (" << x << ", " << y << "), on " << NameOf(element) << ": " << std::hex
+                 << before.Row(y)[x] << " instead of " << after.Row(y)[x] << std::dec;
         }
     }
     if (differing == 0)
         return {};
     text << ", " << differing << " pixels in all, after step " << m_Steps << "\n"
+         << "dragged " << NameOf(m_Control.GetControl()->GetDraggedElement()) << "\n"
          << DescribeTree(m_Control.GetContent(), 0) << "last steps:\n";
     for (std::string const& note : m_Notes)
         text << "  " << note << "\n";
@@ -607,4 +647,4 @@ std::string CTreeGame::DescribeTree(CVisualElement* element, int depth) const
     return text.str();
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

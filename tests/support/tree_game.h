@@ -36,8 +36,9 @@ private:
     class CFill;
     class CGlass;
     class CStrips;
+    class CBare;
 
-    CNode* Pick();             // any element but the root, null if there is none
+    CNode* Pick();  // any element but the root, null if there is none
     CVisualElement* PickParent();
     void Add();
     void Remove();
@@ -46,9 +47,10 @@ private:
     void UserEvent();
     void ResizeWindow();
     void Collect(CVisualElement* element);
-    void PlaceFree(CNode* node);
-    bool IsFree(CNode const* node) const;
-    static void RepaintWhereNothingFits(CVisualElement* element);
+    void PlaceByParent(CNode* node);
+    static bool IsStrips(CNode const* node);
+    static bool IsFree(CNode const* node);
+    CVisualElement* FindMisplaced(CVisualElement* element);
     void Note(std::string const& text);
     std::string DescribeTree(CVisualElement* element, int depth) const;
     std::string NameOf(CVisualElement const* element) const;
@@ -56,6 +58,8 @@ private:
     CBaseControl& m_Control;
     vexelbase::CBaseWindow& m_Window;
     CTestRandom& m_Random;
+    CVisualElement* m_Bare = nullptr;
+    CVisualElement* m_Base = nullptr;
     std::vector<CNode*> m_All;
     std::deque<std::string> m_Notes;
     vexelbase::point<int> m_Pointer;
@@ -64,4 +68,4 @@ private:
     unsigned long m_NextId = 1;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -179,6 +179,7 @@ void CBaseControlImp::Forget(CVisualElement* element)
     {
         m_DraggedElement = nullptr;
         m_MouseFlags = (m_MouseFlags & ~unsigned{mfAccepted}) | mfPutBackground;
+        m_FullUpdate = true;  // so that the next paint wipes the item
     }
     if (captured)
         m_Capture = nullptr;

@@ -18,7 +18,8 @@ namespace
 void FillRound(rectangle<int> const& area, detail::CRoundCorner const& corner, rectangle<int> const& visible,
                detail::IAreaSink& sink)
 {
-    auto const fill = [&](int left, int top, int right, int bottom) {
+    auto const fill = [&](int left, int top, int right, int bottom)
+    {
         rectangle<int> part{left, top, right, bottom};
         part.Intersect(visible);
         if (!part.IsEmpty())
@@ -69,7 +70,7 @@ void StrokeRound(rectangle<int> const& area, detail::CRoundCorner const& corner,
         stroke.Run(left + corner.GetInset(row), top + row, 1, 0, corner.GetOutlineLength(row));
 }
 
-} // namespace
+}  // namespace
 
 /// Fills areas in one colour.
 class CBasePainter::CFillSink final : public detail::IAreaSink
@@ -77,8 +78,7 @@ class CBasePainter::CFillSink final : public detail::IAreaSink
 public:
     CFillSink(CBasePainter& painter, std::uint32_t pixel, RasterOperation operation)
         : m_Painter(painter), m_Pixel(pixel), m_Operation(operation)
-    {
-    }
+    {}
 
     void Area(rectangle<int> const& area) override { m_Painter.FillDevice(area, m_Pixel, m_Operation); }
 
@@ -124,9 +124,9 @@ private:
 
     void Join()
     {
-        std::sort(m_Spans.begin(), m_Spans.end(), [](SScratch::SSpan const& a, SScratch::SSpan const& b) {
-            return a.y != b.y ? a.y < b.y : a.left < b.left;
-        });
+        std::sort(m_Spans.begin(), m_Spans.end(),
+                  [](SScratch::SSpan const& a, SScratch::SSpan const& b)
+                  { return a.y != b.y ? a.y < b.y : a.left < b.left; });
         std::size_t count = 0;
         for (SScratch::SSpan const& span : m_Spans)
         {
@@ -163,10 +163,7 @@ template <class Draw> void CBasePainter::DrawOutline(bool overlaps, Draw draw)
     united.Flush();
 }
 
-void CBasePainter::MoveTo(double x, double y)
-{
-    m_Position = {x, y};
-}
+void CBasePainter::MoveTo(double x, double y) { m_Position = {x, y}; }
 
 void CBasePainter::LineTo(double x, double y)
 {
@@ -193,7 +190,8 @@ void CBasePainter::Rectangle(double left, double top, double right, double botto
 void CBasePainter::RoundRect(double left, double top, double right, double bottom, double radiusX, double radiusY)
 {
     rectangle<int> const area = ToDevice(left, top, right, bottom);
-    auto const radius = [](double extent, int start, int end) {
+    auto const radius = [](double extent, int start, int end)
+    {
         std::int64_t const half = (std::int64_t{end} - start) / 2;
         return static_cast<int>(std::min<std::int64_t>(FloorToInt(std::abs(extent)), half));
     };
@@ -256,4 +254,4 @@ _color CBasePainter::GetPixel(double x, double y) const
     return CPixelBuffer::ToColor(m_Device.ReadPixel(position.x, position.y));
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

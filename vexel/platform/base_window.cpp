@@ -22,17 +22,11 @@ void CBaseWindow::SetDevice(std::unique_ptr<CRasterDevice> device)
     m_Painter = CreatePainter(*m_Device);
 }
 
-void CBaseWindow::ReportException()
-{
-    vexelbase::ReportException("an event handler");
-}
+void CBaseWindow::ReportException() { vexelbase::ReportException("an event handler"); }
 
 // Area and frames --------------------------------------------------------------------------------------------------
 
-rectangle<int> CBaseWindow::GetRect() const
-{
-    return m_Pixels.GetRect();
-}
+rectangle<int> CBaseWindow::GetRect() const { return m_Pixels.GetRect(); }
 
 void CBaseWindow::SetEventTarget(CVexelControl* target)
 {
@@ -255,4 +249,4 @@ void CBaseWindow::StartDestroying()
         std::exchange(m_Target, nullptr)->SetSysWindow(nullptr);
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -39,7 +39,9 @@ public:
     CVexelControl& operator=(CVexelControl const&) = delete;
 
     ISysWindow* GetWindow() const { return m_Window; }  ///< Null once the window is destroyed.
-    virtual void SetSysWindow(ISysWindow* window);      ///< Leaves the present window and takes this one's events.
+    /// Leaves the present window and takes this one's events. With null it is also how a window that is being destroyed
+    /// natively takes leave, after OnDestroy.
+    virtual void SetSysWindow(ISysWindow* window);
     virtual void* GetHandle() const;                    ///< The window, as an opaque value.
     virtual bool CanBeFocused() const { return true; }
     virtual void Refresh();                             ///< Paints the whole window now.

@@ -28,4 +28,4 @@ private:
     int m_RadiusY;
 };
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail
