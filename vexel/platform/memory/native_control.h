@@ -34,7 +34,8 @@ protected:
     ~CMemoryNativeNode() override;
 
     virtual void VisibleChanged(bool) {}
-    /// Runs what calls the application's handlers; nothing that they throw gets out, and the control lives until it ends.
+    /// Runs what calls the application's handlers; nothing that they throw gets out, and the control lives until it
+    /// ends.
     void Guarded(CBase* self, std::function<void()> const& work);
 
 private:
@@ -69,4 +70,4 @@ protected:
     void Do(std::function<void()> const& work) { Guarded(this, work); }
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory
