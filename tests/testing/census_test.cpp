@@ -43,8 +43,7 @@ TEST(Census, CountsElementsByTheirNames)
 TEST(Census, CountsWhatTheSystemGaveOut)
 {
     class CHeard : public CTimerNotify
-    {
-    };
+    {};
     vexelbase::memory::CMemorySystem& system = CTestHost::System();
     CHeard heard;
     vexel_ptr<ISysTimer> timer = system.CreateTimer(10, 0);
@@ -76,10 +75,9 @@ TEST(Census, CountsCaptureWorkAndPosts)
     runner->Run(&work);
     host.Window().CaptureMouse();
     host.Window().Post(new CNothing);
-    EXPECT_THAT(CCensus::Look(),
-                ElementsAre("1 element left: CContent", "1 window left", "1 runner left",
-                            "the mouse capture was left taken", "1 piece of background work left",
-                            "1 posted runnable left"));
+    EXPECT_THAT(CCensus::Look(), ElementsAre("1 element left: CContent", "1 window left", "1 runner left",
+                                             "the mouse capture was left taken", "1 piece of background work left",
+                                             "1 posted runnable left"));
     host.RunBackground();
     host.RunPending();
     host.Window().ReleaseMouse();
@@ -131,10 +129,12 @@ TEST(Census, BeforeTheFirstHostThereIsNoSystem)
 int g_WarmedUp = 0;
 vexel_ptr<ISysTimer> g_LastingTimer;
 
-CWarmUp const g_WarmUp([] {
-    ++g_WarmedUp;
-    g_LastingTimer = GetCurrentSystem()->CreateTimer(100, 0);
-});
+CWarmUp const g_WarmUp(
+    []
+    {
+        ++g_WarmedUp;
+        g_LastingTimer = GetCurrentSystem()->CreateTimer(100, 0);
+    });
 
 TEST(Census, WhatAWarmUpMadeStaysAndIsNotCounted)
 {
@@ -242,5 +242,5 @@ TEST(ExpectReport, AnExceptionOfAHandlerFailsUnlessItIsExpected)
     host.reset();
 }
 
-} // namespace
-} // namespace vexel
+}  // namespace
+}  // namespace vexel

@@ -105,4 +105,4 @@ private:
     std::string m_Text;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "vexel/core/base_control.h"
 #include "vexel/core/visual_element.h"
 #include "vexel/platform/painter.h"
-#include "vexel/core/base_control.h"
 #include "vexel/testing/test_kit.h"
 
 namespace vexel
@@ -14,8 +14,7 @@ class CLamp : public CVisualElement
 public:
     CLamp(CVisualElement* parent, size<int> const& extent, Alignment alignment)
         : CVisualElement(parent, extent, alignment)
-    {
-    }
+    {}
 
     bool IsLit() const { return m_Lit; }
     void SetLit(bool lit)
@@ -51,4 +50,4 @@ private:
     bool m_Lit = false;
 };
 
-} // namespace vexel
+}  // namespace vexel

@@ -73,7 +73,8 @@ TEST_F(MemoryControls, ShowingDuringAPaintWaitsForItsEndWhileIsVisibleAnswersAtO
     vexel_ptr<IEdit> const edit = m_Window->CreateEdit(false);
     auto* const node = static_cast<CMemoryEdit*>(edit.get());
     bool wanted = false, shown = true;
-    m_Control.m_Do = [&](std::string const& name) {
+    m_Control.m_Do = [&](std::string const& name)
+    {
         if (name != "draw")
             return;
         edit->SetVisible(true);
@@ -395,17 +396,20 @@ TEST(LineText, InsertsAtTheCaretAndInPlaceOfTheSelection)
     EXPECT_FALSE(line.Insert("\xC3"));  // half a character has no effect but to wait
     EXPECT_EQ(line.GetText(), "aXd");
     EXPECT_TRUE(line.Insert("\xA4"));
-    EXPECT_EQ(line.GetText(), "\xC3\xA4" "aXd");
+    EXPECT_EQ(line.GetText(), "\xC3\xA4"
+                              "aXd");
     EXPECT_EQ(line.GetLength(), 4);
 }
 
 TEST(LineText, CountsCharactersForSelectionLimitAndErasing)
 {
     CLineText line;
-    line.SetText("\xC3\xA4" "bc");
+    line.SetText("\xC3\xA4"
+                 "bc");
     line.SetMaxLength(4);
     EXPECT_TRUE(line.Insert("de"));
-    EXPECT_EQ(line.GetText(), "\xC3\xA4" "bcd");
+    EXPECT_EQ(line.GetText(), "\xC3\xA4"
+                              "bcd");
     EXPECT_FALSE(line.Insert("f"));
     line.MoveCaret(1, false);
     EXPECT_TRUE(line.Erase(-1));
@@ -622,7 +626,8 @@ TEST_F(MemoryEdit, AListenerMayDropTheLastReferenceInAnyEvent)
     {
         vexel_ptr<IEdit> edit = m_Host.Window().CreateEdit(false);
         CEditLog log;
-        log.m_Do = [&](std::string const& what) {
+        log.m_Do = [&](std::string const& what)
+        {
             if (what == when)
                 edit.reset();
         };
@@ -797,7 +802,8 @@ TEST_F(MemoryPopup, APressOutsideClosesItBeforeThePressIsTold)
     EXPECT_TRUE(m_Popup->IsVisible());
     m_System.MovePointer({150, 150});
     m_Control.Take();
-    m_Control.m_Do = [&](std::string const& name) {
+    m_Control.m_Do = [&](std::string const& name)
+    {
         if (name == "down")
             m_Control.Note(m_Popup->IsVisible() ? "open" : "closed");
     };
@@ -862,5 +868,5 @@ TEST_F(MemoryPopup, APopupOfAPopupStaysOpenWhileTheInnerOneIsPressed)
     EXPECT_TRUE(m_Popup->IsVisible());
 }
 
-} // namespace
-} // namespace vexel
+}  // namespace
+}  // namespace vexel

@@ -105,20 +105,24 @@ TEST(MemoryDevice, BoldIsOnePixelWiderACharacter)
 
 TEST(MemoryDevice, ACharacterOfSeveralBytesTakesOneCell)
 {
-    EXPECT_EQ(Width("\xC3\xA4"), 8);              // a umlaut
-    EXPECT_EQ(Width("\xE2\x82\xAC"), 8);          // euro sign
-    EXPECT_EQ(Width("\xF0\x9F\x98\x80" "a"), 16);  // a smiling face and an a
+    EXPECT_EQ(Width("\xC3\xA4"), 8);      // a umlaut
+    EXPECT_EQ(Width("\xE2\x82\xAC"), 8);  // euro sign
+    EXPECT_EQ(Width("\xF0\x9F\x98\x80"
+                    "a"),
+              16);  // a smiling face and an a
 }
 
 TEST(MemoryDevice, EachByteThatIsNoPartOfACharacterTakesOneCell)
 {
-    EXPECT_EQ(Width("\x80"), 8);                  // continues nothing
-    EXPECT_EQ(Width("\xE2\x82"), 16);             // cut off
-    EXPECT_EQ(Width("\xC3" "a"), 16);             // not continued
-    EXPECT_EQ(Width("\xC0\x80"), 16);             // longer than need be
+    EXPECT_EQ(Width("\x80"), 8);       // continues nothing
+    EXPECT_EQ(Width("\xE2\x82"), 16);  // cut off
+    EXPECT_EQ(Width("\xC3"
+                    "a"),
+              16);                     // not continued
+    EXPECT_EQ(Width("\xC0\x80"), 16);  // longer than need be
     EXPECT_EQ(Width("\xE0\x80\x80"), 24);
-    EXPECT_EQ(Width("\xED\xA0\x80"), 24);         // half of a pair
-    EXPECT_EQ(Width("\xF4\x90\x80\x80"), 32);     // beyond the last character
+    EXPECT_EQ(Width("\xED\xA0\x80"), 24);      // half of a pair
+    EXPECT_EQ(Width("\xF4\x90\x80\x80"), 32);  // beyond the last character
     EXPECT_EQ(Width("\xFF\xFE"), 16);
 }
 
@@ -139,7 +143,10 @@ TEST(MemoryDevice, AGlyphFillsItsCellButForTheLastColumnAndRow)
 TEST(MemoryDevice, BlanksPaintNothing)
 {
     EXPECT_EQ(DrawnRun({16, 1}, 0, 0, " A"), "........#######.\n");
-    EXPECT_EQ(DrawnRun({16, 1}, 0, 0, "\xC2\xA0" "A"), "........#######.\n");
+    EXPECT_EQ(DrawnRun({16, 1}, 0, 0,
+                       "\xC2\xA0"
+                       "A"),
+              "........#######.\n");
 }
 
 TEST(MemoryDevice, NoTwoLettersOfTheAlphabetLookAlike)
@@ -351,5 +358,5 @@ TEST(MemoryDevice, APartWithoutRoomIsOnlyItsFrame)
     EXPECT_EQ(PixelsToText(DrawnPart(IPainter::ceCheckChecked, 0, {1, 1}), legend), "#\n");
 }
 
-} // namespace
-} // namespace vexel
+}  // namespace
+}  // namespace vexel

@@ -179,7 +179,11 @@ TEST_F(MemoryTimer, ATimerStartedInATickFiresWithinTheSameAdvance)
 {
     CTicker a(m_System, m_Log, "a", 10);
     CTicker b(m_System, m_Log, "b", 5);
-    a.m_Do = [&] { b.Start(); a.Stop(); };
+    a.m_Do = [&]
+    {
+        b.Start();
+        a.Stop();
+    };
     a.Start();
     m_System.Advance(20);
     EXPECT_EQ(m_Log, "a10 b15 b20");
@@ -305,7 +309,8 @@ TEST_F(MemoryRunner, ARunnerMayStopAndStartOtherWorkInARound)
     CWork first(100);
     CWork second(2);
     vexel_ptr<IRunner> const runner = m_System.GetRunner();
-    first.m_Do = [&] {
+    first.m_Do = [&]
+    {
         runner->Stop();
         runner->Run(&second);
     };
@@ -471,7 +476,8 @@ TEST(MemorySystem, LocksExcludeEachOther)
     CMemorySystem system;
     vexel_ptr<ILock> const lock = system.CreateLock();
     int shared = 0;
-    auto const add = [&] {
+    auto const add = [&]
+    {
         for (int i = 0; i < 1000; ++i)
         {
             lock->Acquire();
@@ -508,5 +514,5 @@ TEST(MemorySystem, CountsWhatLives)
     EXPECT_EQ(GetMemoryCounts().locks, before.locks);
 }
 
-} // namespace
-} // namespace vexel
+}  // namespace
+}  // namespace vexel

@@ -130,7 +130,8 @@ TEST_F(MemoryWindow, TheCaptureTakesAllMouseEventsAndPutsLeavingOff)
     m_System.MovePointer({215, 25});
     EXPECT_EQ(m_OtherControl.Take(), "");
     EXPECT_EQ(m_Control.Take(), "move 3 4 0 0, down 3 4 1 1, move 205 5 1 1");
-    m_Control.m_Do = [&](std::string const& name) {
+    m_Control.m_Do = [&](std::string const& name)
+    {
         if (name == "up")
             m_Window->ReleaseMouse();
     };
@@ -174,7 +175,8 @@ TEST_F(MemoryWindow, AHiddenWindowGetsNoMouse)
 TEST_F(MemoryWindow, AHandlerOfTheMouseMayDestroyTheWindow)
 {
     m_Window->TrackPointer();
-    m_Control.m_Do = [&](std::string const& name) {
+    m_Control.m_Do = [&](std::string const& name)
+    {
         if (name == "down")
             m_Window.reset();
     };
@@ -203,7 +205,8 @@ TEST_F(MemoryWindow, TheFocusIsTakenFromTheFormerWindowFirst)
 {
     std::string log;
     m_Control.m_Do = [&](std::string const& name) { log += "first " + name + (m_Window->HasFocus() ? "+ " : "- "); };
-    m_OtherControl.m_Do = [&](std::string const& name) { log += "second " + name + (m_Other->HasFocus() ? "+ " : "- "); };
+    m_OtherControl.m_Do = [&](std::string const& name)
+    { log += "second " + name + (m_Other->HasFocus() ? "+ " : "- "); };
     m_Window->SetFocus();
     m_Other->SetFocus();
     m_Other->SetFocus();
@@ -213,7 +216,8 @@ TEST_F(MemoryWindow, TheFocusIsTakenFromTheFormerWindowFirst)
 TEST_F(MemoryWindow, AHandlerMayGiveTheFocusBackAtOnce)
 {
     m_Window->SetFocus();
-    m_Control.m_Do = [&](std::string const& name) {
+    m_Control.m_Do = [&](std::string const& name)
+    {
         if (name == "blur")
             m_Window->SetFocus();
     };
@@ -409,8 +413,7 @@ class CNote : public IRunnable
 public:
     CNote(std::string& log, std::string const& text, ISynchronizer* next = nullptr)
         : m_Log(log), m_Text(text), m_Next(next)
-    {
-    }
+    {}
     ~CNote() override { m_Log += "~" + m_Text + " "; }
     bool Run() override
     {
@@ -499,5 +502,5 @@ TEST_F(MemoryWindow, TheUpperOfTwoWindowsGetsTheMouse)
     EXPECT_EQ(m_Control.Take(), "");
 }
 
-} // namespace
-} // namespace vexel
+}  // namespace
+}  // namespace vexel

@@ -78,10 +78,11 @@ TEST(Pixels, OnlyWhatLiesAroundTheDifferenceIsShown)
     CPixelBuffer const expected(size<int>{200, 100});
     CPixelBuffer found(size<int>{200, 100});
     found.Row(50)[100] = Black;
-    EXPECT_EQ(ComparePixels(expected, found),
-              "first difference at (100, 50): white expected, black found; 1 pixels differ, from (100, 50) to (100, 50)\n"
-              "expected, from (98, 48):\n.....\n.....\n.....\n.....\n.....\n"
-              "found:\n.....\n.....\n..#..\n.....\n.....\n");
+    EXPECT_EQ(
+        ComparePixels(expected, found),
+        "first difference at (100, 50): white expected, black found; 1 pixels differ, from (100, 50) to (100, 50)\n"
+        "expected, from (98, 48):\n.....\n.....\n.....\n.....\n.....\n"
+        "found:\n.....\n.....\n..#..\n.....\n.....\n");
 }
 
 TEST(Pixels, OfAWideDifferenceThePartAroundTheFirstPixelIsShown)
@@ -117,14 +118,15 @@ TEST(Png, WritesTheExactBytesOfASmallPicture)
     CPixelBuffer pixels(size<int>{1, 1}, Red);
     std::ostringstream out;
     EXPECT_TRUE(vexelbase::memory::WritePng(out, pixels));
-    unsigned char const expected[] = {
-        0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A,                                       // signature
-        0, 0, 0, 13, 'I', 'H', 'D', 'R', 0, 0, 0, 1, 0, 0, 0, 1, 8, 2, 0, 0, 0,            // 1 x 1, eight bits, RGB
-        0x90, 0x77, 0x53, 0xDE,                                                            //
-        0, 0, 0, 15, 'I', 'D', 'A', 'T', 0x78, 0x01, 1, 4, 0, 0xFB, 0xFF, 0, 0xFF, 0, 0,   // one stored block
-        0x03, 0x01, 0x01, 0x00,                                                            // its Adler sum
-        0x8D, 0x1D, 0xE5, 0x82,                                                            //
-        0, 0, 0, 0, 'I', 'E', 'N', 'D', 0xAE, 0x42, 0x60, 0x82};
+    unsigned char const expected[] = {0x89, 'P',  'N',  'G',  0x0D, 0x0A, 0x1A, 0x0A,  // signature
+                                      0,    0,    0,    13,   'I',  'H',  'D',  'R',  0,    0,    0,    1,
+                                      0,    0,    0,    1,    8,    2,    0,    0,    0,  // 1 x 1, eight bits, RGB
+                                      0x90, 0x77, 0x53, 0xDE,                             //
+                                      0,    0,    0,    15,   'I',  'D',  'A',  'T',  0x78, 0x01, 1,    4,
+                                      0,    0xFB, 0xFF, 0,    0xFF, 0,    0,  // one stored block
+                                      0x03, 0x01, 0x01, 0x00,                 // its Adler sum
+                                      0x8D, 0x1D, 0xE5, 0x82,                 //
+                                      0,    0,    0,    0,    'I',  'E',  'N',  'D',  0xAE, 0x42, 0x60, 0x82};
     EXPECT_EQ(out.str(), std::string(reinterpret_cast<char const*>(expected), sizeof expected));
 }
 
@@ -147,5 +149,5 @@ TEST(Png, APictureWithoutAreaIsOneWhitePixel)
     EXPECT_EQ(empty.str(), white.str());
 }
 
-} // namespace
-} // namespace vexel
+}  // namespace
+}  // namespace vexel

@@ -98,5 +98,5 @@ TEST(Random, TheSeedOfTheRunIsTheEnvironments)
     EXPECT_EQ(std::to_string(GetSeed()), text);
 }
 
-} // namespace
-} // namespace vexel
+}  // namespace
+}  // namespace vexel

@@ -147,11 +147,13 @@ TEST_F(SignalLog, TheLogMayDieBeforeTheSignalAndTheSignalBeforeTheLog)
 
 // Describe ---------------------------------------------------------------------------------------------------------
 
-enum class Shade : unsigned char { Light = 3 };
+enum class Shade : unsigned char
+{
+    Light = 3
+};
 class IUnknownThing;
 struct SPlain
-{
-};
+{};
 
 TEST(Describe, ReadsPlainValues)
 {
@@ -223,19 +225,19 @@ TEST(Describe, ObjectsHaveTheNameOfTheirOwnClass)
 TEST(Describe, NamesOfTypesHaveNoNamespaces)
 {
     struct SLocal
-    {
-    };
+    {};
     EXPECT_EQ(TypeName(typeid(CLamp)), "CLamp");
     EXPECT_EQ(TypeName(typeid(SPlain)), "SPlain");
     EXPECT_EQ(TypeName(typeid(SLocal)), "SLocal");
     EXPECT_EQ(TypeName(typeid(std::vector<CLamp*>)), "vector<CLamp*, allocator<CLamp*> >");
     EXPECT_EQ(StripNamespaces("vexel::A<vexel::B, x::C<y::D>>::E"), "E");
-    EXPECT_EQ(StripNamespaces("vexel::CTransparentFlavor<vexel::CVisualElement>"), "CTransparentFlavor<CVisualElement>");
+    EXPECT_EQ(StripNamespaces("vexel::CTransparentFlavor<vexel::CVisualElement>"),
+              "CTransparentFlavor<CVisualElement>");
     EXPECT_EQ(StripNamespaces("(anonymous namespace)::CProbe"), "CProbe");
     EXPECT_EQ(StripNamespaces("a::T_X_Test::TestBody()::CProbe"), "CProbe");
     EXPECT_EQ(StripNamespaces("a::f(b::C)::{lambda(d::E)#1}"), "{lambda(E)#1}");
     EXPECT_EQ(StripNamespaces("a::f(int) const::CProbe"), "CProbe");
 }
 
-} // namespace
-} // namespace vexel
+}  // namespace
+}  // namespace vexel

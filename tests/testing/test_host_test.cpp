@@ -361,5 +361,5 @@ TEST(TestHost, TheControlMayGoBeforeItsWindow)
     EXPECT_EQ(host.Window().GetEventTarget(), nullptr);
 }
 
-} // namespace
-} // namespace vexel
+}  // namespace
+}  // namespace vexel

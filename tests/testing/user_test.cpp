@@ -290,5 +290,5 @@ TEST_F(User, AnUnknownLineOfAScriptFailsTheTest)
     SetFailureReporter(before);
 }
 
-} // namespace
-} // namespace vexel
+}  // namespace
+}  // namespace vexel

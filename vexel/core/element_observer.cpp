@@ -17,4 +17,4 @@ IElementObserver* SetElementObserver(IElementObserver* observer)
     return std::exchange(detail::g_ElementObserver, observer);
 }
 
-} // namespace vexel
+}  // namespace vexel

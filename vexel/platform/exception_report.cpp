@@ -13,10 +13,7 @@ namespace vexelbase
 namespace
 {
 
-void Print(char const* where, char const* what)
-{
-    std::fprintf(stderr, "vexel: %s has thrown: %s\n", where, what);
-}
+void Print(char const* where, char const* what) { std::fprintf(stderr, "vexel: %s has thrown: %s\n", where, what); }
 
 std::atomic<ExceptionReporter> g_Reporter{nullptr};
 
@@ -26,12 +23,9 @@ void Report(char const* where, char const* what)
     (reporter ? reporter : &Print)(where, what);
 }
 
-} // namespace
+}  // namespace
 
-ExceptionReporter SetExceptionReporter(ExceptionReporter reporter)
-{
-    return g_Reporter.exchange(reporter);
-}
+ExceptionReporter SetExceptionReporter(ExceptionReporter reporter) { return g_Reporter.exchange(reporter); }
 
 void ReportException(char const* where)
 {
@@ -40,11 +34,9 @@ void ReportException(char const* where)
         throw;
     }
     catch (vexel::cancel_processing const&)
-    {
-    }
+    {}
     catch (cancel_processing const&)
-    {
-    }
+    {}
     catch (std::exception const& exception)
     {
         Report(where, exception.what());
@@ -55,4 +47,4 @@ void ReportException(char const* where)
     }
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

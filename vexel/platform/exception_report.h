@@ -5,9 +5,9 @@
 namespace vexelbase
 {
 
-/// Hears of exceptions that would leave the framework into a native loop. `where`: what threw, such as "an event handler";
-/// `what`: the exception's text, or "something" where it has none. Called inside the catch block, on the GUI thread or, for
-/// background work, on another one. Must not throw.
+/// Hears of exceptions that would leave the framework into a native loop. `where`: what threw, such as "an event
+/// handler"; `what`: the exception's text, or "something" where it has none. Called inside the catch block, on the GUI
+/// thread or, for background work, on another one. Must not throw.
 using ExceptionReporter = void (*)(char const* where, char const* what);
 
 /// Takes the process-wide reporter; null means the built-in one, which prints one line to the standard error stream.
@@ -18,4 +18,4 @@ VEXEL_API ExceptionReporter SetExceptionReporter(ExceptionReporter reporter);
 /// unreported.
 VEXEL_API void ReportException(char const* where);
 
-} // namespace vexelbase
+}  // namespace vexelbase

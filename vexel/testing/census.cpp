@@ -70,7 +70,7 @@ void PutBack()
     detail::ForgetElementNames();
 }
 
-} // namespace
+}  // namespace
 
 void CCensus::Begin()
 {
@@ -116,10 +116,7 @@ std::vector<std::string> CCensus::End()
     return lines;
 }
 
-CWarmUp::CWarmUp(void (*function)())
-{
-    WarmUps().push_back(function);
-}
+CWarmUp::CWarmUp(void (*function)()) { WarmUps().push_back(function); }
 
 void InstallKit()
 {
@@ -137,4 +134,4 @@ void InstallKit()
     vexelbase::SetCurrentSystem(before);
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -27,17 +27,17 @@ public:
     static std::vector<std::string> Look();
 };
 
-/// Makes things that stay for the whole process. Define one at namespace scope of a test source; the function runs once,
-/// before the first test, with the memory system installed.
+/// Makes things that stay for the whole process. Define one at namespace scope of a test source; the function runs
+/// once, before the first test, with the memory system installed.
 class VEXEL_TESTING_API CWarmUp
 {
 public:
     explicit CWarmUp(void (*function)());
 };
 
-/// Installs the kit: hears of elements, assertions and exceptions from now on, and runs the warm-ups. A memory system is
-/// made the current one by the first CTestHost of a test, until the test ends; before, there is none.
+/// Installs the kit: hears of elements, assertions and exceptions from now on, and runs the warm-ups. A memory system
+/// is made the current one by the first CTestHost of a test, until the test ends; before, there is none.
 /// "vexel/testing/google_test.h" does it by itself. Once is enough, further calls do nothing.
 VEXEL_TESTING_API void InstallKit();
 
-} // namespace vexel::test
+}  // namespace vexel::test

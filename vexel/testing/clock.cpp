@@ -6,10 +6,7 @@
 namespace vexel::test
 {
 
-std::int64_t CTestClock::Now() const
-{
-    return detail::KitSystem().GetTime();
-}
+std::int64_t CTestClock::Now() const { return detail::KitSystem().GetTime(); }
 
 void CTestClock::Advance(int milliseconds)
 {
@@ -17,9 +14,6 @@ void CTestClock::Advance(int milliseconds)
     detail::KitSystem().Advance(milliseconds);
 }
 
-int CTestClock::GetRunningTimers() const
-{
-    return static_cast<int>(detail::KitSystem().GetRunningPeriods().size());
-}
+int CTestClock::GetRunningTimers() const { return static_cast<int>(detail::KitSystem().GetRunningPeriods().size()); }
 
-} // namespace vexel::test
+}  // namespace vexel::test

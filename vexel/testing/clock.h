@@ -33,4 +33,4 @@ private:
     CEventScript& m_Script;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -15,16 +15,22 @@
 namespace vexel::test
 {
 
-/// How a value reads in the logs of the kit: true, 12, 'x', 2.5, "text", (1, 2), red, [1, 2]; an enumeration by its number;
-/// an element by its name; a pointer to a plain value by that value; other objects by the name of their class;
+/// How a value reads in the logs of the kit: true, 12, 'x', 2.5, "text", (1, 2), red, [1, 2]; an enumeration by its
+/// number; an element by its name; a pointer to a plain value by that value; other objects by the name of their class;
 /// "null" for null.
 template <class T> std::string Describe(T const& value);
 
 namespace detail
 {
 
-template <class T> concept Complete = requires { sizeof(T); };
-template <class T> concept Sequence = requires(T const& v) {
+template <class T>
+concept Complete = requires
+{
+    sizeof(T);
+};
+template <class T>
+concept Sequence = requires(T const& v)
+{
     v.begin();
     v.end();
     v.size();
@@ -87,29 +93,18 @@ template <class T> std::string DescribeValue(vexelbase::screen_rectangle<T> cons
 {
     return "(" + Describe(v.left) + ", " + Describe(v.top) + ", " + Describe(v.right) + ", " + Describe(v.bottom) + ")";
 }
-template <class T> std::string DescribeValue(vexelbase::vexel_ptr<T> const& v)
+template <class T> std::string DescribeValue(vexelbase::vexel_ptr<T> const& v) { return DescribePointer(v.get()); }
+inline std::string DescribeValue(vexelbase::_color const& v) { return vexelbase::memory::DescribeColor(v); }
+inline std::string DescribeValue(vexelbase::font const& v) { return vexelbase::memory::DescribeFont(v); }
+inline std::string DescribeValue(vexelbase::pen const& v) { return vexelbase::memory::DescribePen(v); }
+inline std::string DescribeValue(vexelbase::brush const& v) { return vexelbase::memory::DescribeBrush(v); }
+template <class T>
+concept HasValue = requires(T const& v)
 {
-    return DescribePointer(v.get());
-}
-inline std::string DescribeValue(vexelbase::_color const& v)
-{
-    return vexelbase::memory::DescribeColor(v);
-}
-inline std::string DescribeValue(vexelbase::font const& v)
-{
-    return vexelbase::memory::DescribeFont(v);
-}
-inline std::string DescribeValue(vexelbase::pen const& v)
-{
-    return vexelbase::memory::DescribePen(v);
-}
-inline std::string DescribeValue(vexelbase::brush const& v)
-{
-    return vexelbase::memory::DescribeBrush(v);
-}
-template <class T> concept HasValue = requires(T const& v) { DescribeValue(v); };
+    DescribeValue(v);
+};
 
-} // namespace detail
+}  // namespace detail
 
 template <class T> std::string Describe(T const& value)
 {
@@ -146,4 +141,4 @@ template <class T> std::string Describe(T const& value)
         return detail::DescribeObject(value);
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

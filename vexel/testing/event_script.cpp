@@ -19,7 +19,10 @@ struct SLine
     std::string verb;
     std::vector<int> numbers;
 
-    int Number(std::size_t index, int otherwise = 0) const { return index < numbers.size() ? numbers[index] : otherwise; }
+    int Number(std::size_t index, int otherwise = 0) const
+    {
+        return index < numbers.size() ? numbers[index] : otherwise;
+    }
     vexelbase::MouseButton Button() const { return static_cast<vexelbase::MouseButton>(Number(0, vexelbase::mbLeft)); }
 };
 
@@ -50,15 +53,14 @@ std::map<std::string, Player> const& Players()
         {"pending", [](CTestHost& h, SLine const&) { h.RunPending(); }},
         {"background", [](CTestHost& h, SLine const&) { h.RunBackground(); }},
         {"step", [](CTestHost& h, SLine const&) { h.StepBackground(); }},
-        {"tooltip",
-         [](CTestHost& h, SLine const&) { h.Tooltip(h.Mouse().GetPos().x, h.Mouse().GetPos().y); }},
+        {"tooltip", [](CTestHost& h, SLine const&) { h.Tooltip(h.Mouse().GetPos().x, h.Mouse().GetPos().y); }},
         {"menu", [](CTestHost& h, SLine const&) { h.ContextMenu(h.Mouse().GetPos().x, h.Mouse().GetPos().y); }},
         {"colors", [](CTestHost& h, SLine const&) { h.SysColorChange(); }},
     };
     return players;
 }
 
-} // namespace
+}  // namespace
 
 std::string CEventScript::Text() const
 {
@@ -90,4 +92,4 @@ void CEventScript::Replay(CTestHost& host, std::string const& text)
     }
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -36,4 +36,4 @@ private:
     std::vector<std::string> m_Lines;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

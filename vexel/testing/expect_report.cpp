@@ -16,10 +16,9 @@ namespace
 std::mutex g_Mutex;  // reports may come from any thread
 CExpectReport* g_Innermost = nullptr;
 
-} // namespace
+}  // namespace
 
-CExpectReport::CExpectReport(Kind kind, std::string const& text, int count)
-    : m_Kind(kind), m_Text(text), m_Count(count)
+CExpectReport::CExpectReport(Kind kind, std::string const& text, int count) : m_Kind(kind), m_Text(text), m_Count(count)
 {
     std::lock_guard const lock(g_Mutex);
     m_Outer = g_Innermost;
@@ -80,4 +79,4 @@ void CAssertionWatch::ExceptionReported(char const* where, char const* what)
         ReportFailure(std::string("An exception left ") + where + ": " + what);
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -23,7 +23,11 @@ public:
     int GetSeen() const { return m_Seen; }  ///< Reports taken so far.
 
 protected:
-    enum class Kind { Assertion, Exception };
+    enum class Kind
+    {
+        Assertion,
+        Exception
+    };
 
     CExpectReport(Kind kind, std::string const& text, int count);
     ~CExpectReport();  ///< Fails the test if fewer came.
@@ -54,4 +58,4 @@ public:
     explicit CExpectException(std::string const& text, int count = 1) : CExpectReport(Kind::Exception, text, count) {}
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

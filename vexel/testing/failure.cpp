@@ -18,16 +18,13 @@ void PrintAndEnd(std::string const& message)
 
 FailureReporter g_Reporter = &PrintAndEnd;
 
-} // namespace
+}  // namespace
 
 FailureReporter SetFailureReporter(FailureReporter reporter)
 {
     return std::exchange(g_Reporter, reporter ? reporter : &PrintAndEnd);
 }
 
-void ReportFailure(std::string const& message)
-{
-    g_Reporter(message);
-}
+void ReportFailure(std::string const& message) { g_Reporter(message); }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -17,4 +17,4 @@ VEXEL_TESTING_API FailureReporter SetFailureReporter(FailureReporter reporter);
 
 VEXEL_TESTING_API void ReportFailure(std::string const& message);
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -66,6 +66,6 @@ inline bool AppendKitListener()
 
 inline bool const g_KitListener = AppendKitListener();
 
-} // namespace detail
+}  // namespace detail
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -10,15 +10,9 @@ namespace vexel::test
 namespace
 {
 
-bool IsDigit(int key)
-{
-    return key >= '0' && key <= '9';
-}
+bool IsDigit(int key) { return key >= '0' && key <= '9'; }
 
-bool IsLetter(int key)
-{
-    return key >= 'A' && key <= 'Z';
-}
+bool IsLetter(int key) { return key >= 'A' && key <= 'Z'; }
 
 // The character of a key, 0 if it has none.
 char CharacterOf(int key, int keys)
@@ -50,7 +44,7 @@ std::string Line(char const* verb, int key, int keys)
     return std::string(verb) + " " + std::to_string(key) + " " + std::to_string(keys);
 }
 
-} // namespace
+}  // namespace
 
 void CKeyboard::Press(int key, int keys)
 {
@@ -96,10 +90,7 @@ void CKeyboard::Type(std::string const& text)
     }
 }
 
-void CKeyboard::Tab(bool forward)
-{
-    Press(vkTab, forward ? 0 : ksShift);
-}
+void CKeyboard::Tab(bool forward) { Press(vkTab, forward ? 0 : ksShift); }
 
 void CKeyboard::Hold(int keys)
 {
@@ -107,19 +98,13 @@ void CKeyboard::Hold(int keys)
     m_Host.System().SetHeldKeys(keys);
 }
 
-int CKeyboard::GetHeld() const
-{
-    return m_Host.System().GetKeyState() & (ksShift | ksControl | ksAlt);
-}
+int CKeyboard::GetHeld() const { return m_Host.System().GetKeyState() & (ksShift | ksControl | ksAlt); }
 
 CHoldKeys::CHoldKeys(CTestHost& host, int keys) : m_Host(host), m_Before(host.Keyboard().GetHeld())
 {
     m_Host.Keyboard().Hold(m_Before | keys);
 }
 
-CHoldKeys::~CHoldKeys()
-{
-    m_Host.Keyboard().Hold(m_Before);
-}
+CHoldKeys::~CHoldKeys() { m_Host.Keyboard().Hold(m_Before); }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -29,7 +29,7 @@ public:
     /// UTF-8 text: one Press for each letter, digit and space, with shift for upper case; OnChar alone for every other
     /// byte.
     void Type(std::string const& text);
-    void Character(char byte);  ///< OnChar alone.
+    void Character(char byte);      ///< OnChar alone.
     void Tab(bool forward = true);  ///< Press(vkTab), with shift for backward.
 
     void Hold(int keys);  ///< These of shift, control and alt are held from now on, for mouse events too; 0: none.
@@ -53,4 +53,4 @@ private:
     int m_Before;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

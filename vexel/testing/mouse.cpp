@@ -10,12 +10,9 @@ namespace vexel::test
 namespace
 {
 
-std::string Numbered(char const* verb, int number)
-{
-    return std::string(verb) + " " + std::to_string(number);
-}
+std::string Numbered(char const* verb, int number) { return std::string(verb) + " " + std::to_string(number); }
 
-} // namespace
+}  // namespace
 
 vexelbase::point<int> CMouse::ToControl(CVisualElement const& element, int x, int y) const
 {
@@ -135,10 +132,7 @@ void CMouse::PressAgain(vexelbase::MouseButton button)
     m_Host.System().PressButton(button, true);
 }
 
-bool CMouse::IsHeld(vexelbase::MouseButton button) const
-{
-    return m_Host.System().IsButtonHeld(button);
-}
+bool CMouse::IsHeld(vexelbase::MouseButton button) const { return m_Host.System().IsButtonHeld(button); }
 
 void CMouse::LoseRelease(vexelbase::MouseButton button)
 {
@@ -199,4 +193,4 @@ void CMouse::Hover(CVisualElement const& element, int x, int y)
     Hover();
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

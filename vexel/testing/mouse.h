@@ -10,12 +10,13 @@ namespace vexel::test
 
 class CTestHost;
 
-/// The user's mouse. It moves the pointer of the memory system, which tells the windows as a desktop does: a move goes to
-/// the window under the pointer, or to that which holds the capture; a window that the pointer leaves is told, if it
+/// The user's mouse. It moves the pointer of the memory system, which tells the windows as a desktop does: a move goes
+/// to the window under the pointer, or to that which holds the capture; a window that the pointer leaves is told, if it
 /// asked to be; a press closes popups that it is outside of.
 ///
-/// Positions: pixels of the element that is given, otherwise pixels of the host's control. They may lie outside. Elements
-/// must have been laid out (host.Paint()). The key state of the events follows from the buttons and keys that are held.
+/// Positions: pixels of the element that is given, otherwise pixels of the host's control. They may lie outside.
+/// Elements must have been laid out (host.Paint()). The key state of the events follows from the buttons and keys that
+/// are held.
 class VEXEL_TESTING_API CMouse
 {
 public:
@@ -66,4 +67,4 @@ private:
     CTestHost& m_Host;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

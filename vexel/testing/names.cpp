@@ -39,7 +39,7 @@ std::size_t SkipBack(std::string const& text, std::size_t end)
     return 0;
 }
 
-} // namespace
+}  // namespace
 
 std::string StripNamespaces(std::string const& demangled)
 {
@@ -76,10 +76,7 @@ std::string TypeName(std::type_info const& type)
     return StripNamespaces(name);
 }
 
-void NameElement(CVisualElement const& element, std::string const& name)
-{
-    Names()[&element] = name;
-}
+void NameElement(CVisualElement const& element, std::string const& name) { Names()[&element] = name; }
 
 std::string ElementName(CVisualElement const* element)
 {
@@ -98,11 +95,8 @@ void ForgetElementName(CVisualElement const* element)
         Names().erase(element);
 }
 
-void ForgetElementNames()
-{
-    Names().clear();
-}
+void ForgetElementNames() { Names().clear(); }
 
-} // namespace detail
+}  // namespace detail
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -54,15 +54,9 @@ std::string PaintLog::ListElements(bool picture) const
     return text;
 }
 
-std::string PaintLog::Elements() const
-{
-    return ListElements(false);
-}
+std::string PaintLog::Elements() const { return ListElements(false); }
 
-std::string PaintLog::PictureElements() const
-{
-    return ListElements(true);
-}
+std::string PaintLog::PictureElements() const { return ListElements(true); }
 
 std::vector<std::string> PaintLog::Calls() const
 {
@@ -164,4 +158,4 @@ void CDraws::DescribeNegationTo(std::ostream* out) const
         *out << ", then \"" << m_Patterns[i] << "\"";
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

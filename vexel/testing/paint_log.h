@@ -30,10 +30,10 @@ namespace vexel::test
 ///     SetCoordSystem 3 0 0 20 40 10 5 20 40    (mode, logical origin and extent, device origin and extent)
 ///     BeginPaint 2                        EndPaint
 ///
-/// Coordinates are those of the call: an element's own pixels as a rule. Numbers are as short as they can be. A colour is
-/// a name of the colour table (none black yellow blue magenta red darkgrey grey white orange cyan green brown
-/// midnightblue turquoise limegreen paleyellow lightgrey palepink palegreen sand) or #RRGGBB, followed by "/AA" where its
-/// top byte isn't FF. Texts are quoted, with \n, \" and \\ for what would be hard to read.
+/// Coordinates are those of the call: an element's own pixels as a rule. Numbers are as short as they can be. A colour
+/// is a name of the colour table (none black yellow blue magenta red darkgrey grey white orange cyan green brown
+/// midnightblue turquoise limegreen paleyellow lightgrey palepink palegreen sand) or #RRGGBB, followed by "/AA" where
+/// its top byte isn't FF. Texts are quoted, with \n, \" and \\ for what would be hard to read.
 /// Queries and texts that are only measured are left out, and so are the calls that the painter makes itself.
 /// A call on the painter of a picture begins with "picture ".
 class VEXEL_TESTING_API PaintLog
@@ -44,11 +44,11 @@ public:
     /// The same for elements that were painted on pictures.
     std::string PictureElements() const;
 
-    std::vector<std::string> Calls() const;               ///< In order.
-    int Count(std::string const& pattern) const;          ///< How many calls match; see Draws.
+    std::vector<std::string> Calls() const;       ///< In order.
+    int Count(std::string const& pattern) const;  ///< How many calls match; see Draws.
     /// The part that elements of this name drew themselves, without their children.
     PaintLog Of(std::string const& name) const;
-    int GetFrames() const { return m_Frames; }            ///< Native paints that ran.
+    int GetFrames() const { return m_Frames; }  ///< Native paints that ran.
     bool IsEmpty() const { return m_Entries.empty(); }
 
     /// All of it: elements stand alone on a line, their calls indented below.
@@ -99,9 +99,6 @@ private:
 ///
 ///     EXPECT_THAT(host.Paint(), Draws("SetBrush yellow").Then("RoundRect 0 9 20 29 20 20"));
 ///     EXPECT_THAT(host.Paint(), Not(Draws("DrawString*")));
-inline CDraws Draws(std::string const& pattern)
-{
-    return CDraws(pattern);
-}
+inline CDraws Draws(std::string const& pattern) { return CDraws(pattern); }
 
-} // namespace vexel::test
+}  // namespace vexel::test

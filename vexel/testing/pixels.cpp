@@ -23,11 +23,11 @@ std::string DescribeSize(CPixelBuffer const& pixels)
     return std::to_string(pixels.GetWidth()) + "x" + std::to_string(pixels.GetHeight());
 }
 
-} // namespace
+}  // namespace
 
 CLegend::CLegend()
 {
-    constexpr std::pair<char, int> letters[] = {{'.', 9}, {'#', 1},  {'r', 6},  {'g', 13}, {'b', 4}, {'y', 3},
+    constexpr std::pair<char, int> letters[] = {{'.', 9},  {'#', 1}, {'r', 6},  {'g', 13}, {'b', 4}, {'y', 3},
                                                 {'c', 12}, {'m', 5}, {'o', 11}, {'e', 8},  {'d', 7}, {'l', 23}};
     for (auto const& [letter, index] : letters)
         Set(letter, vexelbase::color_table[index]);
@@ -123,4 +123,4 @@ std::string ComparePixels(CPixelBuffer const& expected, CPixelBuffer const& actu
            "found:\n" + PixelsToText(actual, shown, legend);
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -35,15 +35,15 @@ private:
     std::vector<SEntry> m_Entries;
 };
 
-/// The part of a picture as text, a letter a pixel, each row ended by a line feed. `area`: right and bottom excluded; cut
-/// to the picture.
+/// The part of a picture as text, a letter a pixel, each row ended by a line feed. `area`: right and bottom excluded;
+/// cut to the picture.
 VEXEL_TESTING_API std::string PixelsToText(vexelbase::CPixelBuffer const& pixels, vexelbase::rectangle<int> const& area,
                                            CLegend const& legend = CLegend());
 VEXEL_TESTING_API std::string PixelsToText(vexelbase::CPixelBuffer const& pixels, CLegend const& legend = CLegend());
 
-/// What tells two pictures apart, or an empty text: their sizes; or the first differing pixel with both colours, how many
-/// differ and where, and both pictures there as text. Compares the 24 colour bits.
+/// What tells two pictures apart, or an empty text: their sizes; or the first differing pixel with both colours, how
+/// many differ and where, and both pictures there as text. Compares the 24 colour bits.
 VEXEL_TESTING_API std::string ComparePixels(vexelbase::CPixelBuffer const& expected,
                                             vexelbase::CPixelBuffer const& actual, CLegend const& legend = CLegend());
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -53,7 +53,7 @@ std::uint64_t SeedOfTest()
     return Mix(hash + CurrentTest().generators++);
 }
 
-} // namespace
+}  // namespace
 
 std::uint64_t GetSeed()
 {
@@ -61,18 +61,11 @@ std::uint64_t GetSeed()
     return seed;
 }
 
-void SetRunningTest(std::string const& name)
-{
-    CurrentTest() = {name, 0};
-}
+void SetRunningTest(std::string const& name) { CurrentTest() = {name, 0}; }
 
-CTestRandom::CTestRandom() : CTestRandom(SeedOfTest())
-{
-}
+CTestRandom::CTestRandom() : CTestRandom(SeedOfTest()) {}
 
-CTestRandom::CTestRandom(std::uint64_t seed) : m_State(seed)
-{
-}
+CTestRandom::CTestRandom(std::uint64_t seed) : m_State(seed) {}
 
 std::uint64_t CTestRandom::Next()
 {
@@ -94,4 +87,4 @@ double CTestRandom::Real(double low, double high)
     return low + (high - low) * (static_cast<double>(Next() >> 11) * 0x1p-53);
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -14,7 +14,8 @@ namespace vexel::test
 /// prints it.
 VEXEL_TESTING_API std::uint64_t GetSeed();
 
-/// Says which test runs, for the generators that are made from now on; empty: none. "vexel/testing/google_test.h" does it.
+/// Says which test runs, for the generators that are made from now on; empty: none. "vexel/testing/google_test.h" does
+/// it.
 VEXEL_TESTING_API void SetRunningTest(std::string const& name);
 
 /// Random numbers for one test. The same seed gives the same numbers to the same test on every machine, whichever tests
@@ -56,4 +57,4 @@ private:
     std::uint64_t m_State;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

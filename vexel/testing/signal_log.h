@@ -18,9 +18,9 @@ namespace vexel::test
 ///     ...
 ///     EXPECT_EQ(log.Text(), "lit(true) moved(3, 4)");
 ///
-/// The first argument is left out where it is a pointer to the object that has the signal. Other elements are printed by
-/// their given names (Name, CTestHost::Name), else by their classes. Arguments are written as they are when the log's
-/// slot is called; slots connected earlier ran before. The log leaves all signals when it dies.
+/// The first argument is left out where it is a pointer to the object that has the signal. Other elements are printed
+/// by their given names (Name, CTestHost::Name), else by their classes. Arguments are written as they are when the
+/// log's slot is called; slots connected earlier ran before. The log leaves all signals when it dies.
 class VEXEL_TESTING_API CSignalLog
 {
 public:
@@ -55,8 +55,7 @@ private:
     public:
         CListener(CSignalLog& log, std::string const& name, void const* signal, void const* emitter)
             : m_Log(log), m_Name(name), m_Signal(signal), m_Emitter(emitter)
-        {
-        }
+        {}
         ~CListener() override;
 
     protected:
@@ -78,7 +77,8 @@ private:
             std::vector<std::string> texts;
             [[maybe_unused]] bool first = true;
             (
-                [&](auto const& argument) {
+                [&](auto const& argument)
+                {
                     if (!first || !this->IsEmitter(argument))
                         texts.push_back(Describe(argument));
                     first = false;
@@ -119,4 +119,4 @@ template <class T> bool CSignalLog::CListener::IsEmitter(T const& argument) cons
         return false;
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

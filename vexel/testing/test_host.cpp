@@ -22,8 +22,8 @@ namespace
 using vexelbase::memory::CMemorySystem;
 using vexelbase::memory::CMemoryWindow;
 
-constexpr int MostFrames = 8;      // of one Paint: enough for a layout that asks again, not for one that never ends
-constexpr int MostRounds = 1000;   // of one RunBackground or RunPending
+constexpr int MostFrames = 8;     // of one Paint: enough for a layout that asks again, not for one that never ends
+constexpr int MostRounds = 1000;  // of one RunBackground or RunPending
 
 // A place for a new window that overlaps no other one.
 point<int> FindPlace(CMemorySystem& system)
@@ -38,7 +38,7 @@ point<int> FindPlace(CMemorySystem& system)
     return place;
 }
 
-} // namespace
+}  // namespace
 
 CTestHost::CTestHost(int width, int height, double scale)
 {
@@ -68,15 +68,9 @@ void CTestHost::Start(int width, int height, double scale)
     m_Window = std::make_unique<CMemoryWindow>(system, FindPlace(system), size<int>{width, height});
 }
 
-CMemorySystem& CTestHost::System()
-{
-    return detail::KitSystem();
-}
+CMemorySystem& CTestHost::System() { return detail::KitSystem(); }
 
-CVisualElement* CTestHost::Root() const
-{
-    return m_Control->GetContent();
-}
+CVisualElement* CTestHost::Root() const { return m_Control->GetContent(); }
 
 vexelbase::memory::CMemoryPopup* CTestHost::Popup(int index) const
 {
@@ -140,10 +134,7 @@ std::string CTestHost::CompareWithFullPaint(CLegend const& legend)
     return ComparePixels(Pixels(), byParts, legend);
 }
 
-bool CTestHost::IsFramePending() const
-{
-    return m_Window && m_Window->IsFramePending();
-}
+bool CTestHost::IsFramePending() const { return m_Window && m_Window->IsFramePending(); }
 
 // Queue and background ---------------------------------------------------------------------------------------------
 
@@ -180,15 +171,9 @@ int CTestHost::StepBackground()
 
 // Pixels -----------------------------------------------------------------------------------------------------------
 
-CPixelBuffer const& CTestHost::Pixels() const
-{
-    return m_Window->GetPixels();
-}
+CPixelBuffer const& CTestHost::Pixels() const { return m_Window->GetPixels(); }
 
-std::string CTestHost::PixelText(CLegend const& legend) const
-{
-    return PixelsToText(Pixels(), legend);
-}
+std::string CTestHost::PixelText(CLegend const& legend) const { return PixelsToText(Pixels(), legend); }
 
 std::string CTestHost::PixelText(rectangle<int> const& area, CLegend const& legend) const
 {
@@ -215,10 +200,7 @@ void CTestHost::Resize(int width, int height)
         m_Window->Resize({width, height});
 }
 
-void CTestHost::SetScale(double scale)
-{
-    System().SetScale(scale);
-}
+void CTestHost::SetScale(double scale) { System().SetScale(scale); }
 
 void CTestHost::Focus()
 {
@@ -275,15 +257,9 @@ void CTestHost::SysColorChange()
         m_Window->TellSysColorChange();
 }
 
-void CTestHost::DestroyWindow()
-{
-    m_Window.reset();
-}
+void CTestHost::DestroyWindow() { m_Window.reset(); }
 
-void CTestHost::DestroyControl()
-{
-    m_Control.reset();
-}
+void CTestHost::DestroyControl() { m_Control.reset(); }
 
 std::string CTestHost::Pending() const
 {
@@ -300,4 +276,4 @@ std::string CTestHost::Pending() const
     return text;
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -21,14 +21,14 @@ namespace vexelbase::memory
 {
 class CMemoryPopup;
 class CMemorySystem;
-}
+}  // namespace vexelbase::memory
 
 namespace vexel::test
 {
 
-/// A window of the memory backend with a control on it, and a user in front of it. Everything happens when the test says
-/// so: time passes in Clock().Advance, frames are painted in Paint, posted work runs in RunPending, background work in
-/// RunBackground. Nothing sleeps.
+/// A window of the memory backend with a control on it, and a user in front of it. Everything happens when the test
+/// says so: time passes in Clock().Advance, frames are painted in Paint, posted work runs in RunPending, background
+/// work in RunBackground. Nothing sleeps.
 ///
 ///     CTestHost host(100, 40);
 ///     CButton button(host.Root(), {60, 20}, alLeft);
@@ -51,7 +51,7 @@ public:
     CTestHost& operator=(CTestHost const&) = delete;
 
     // The cast -----------------------------------------------------------------------------------------------------
-    CVisualElement* Root() const;       ///< The control's content: the parent for the test's elements.
+    CVisualElement* Root() const;  ///< The control's content: the parent for the test's elements.
     CBaseControl& Control() const { return *m_Control; }
     bool HasControl() const { return m_Control != nullptr; }
     vexelbase::memory::CMemoryWindow& Window() const { return *m_Window; }
@@ -61,7 +61,7 @@ public:
     CTestClock& Clock() { return m_Clock; }
     CMouse& Mouse() { return m_Mouse; }
     CKeyboard& Keyboard() { return m_Keyboard; }
-    CEventScript& Script() { return m_Script; }   ///< What was done to the host so far.
+    CEventScript& Script() { return m_Script; }  ///< What was done to the host so far.
     /// A name for an element in all logs; see NameElement.
     void Name(CVisualElement const& element, std::string const& name) { NameElement(element, name); }
 
@@ -111,11 +111,11 @@ public:
     void SavePng(std::string const& path) const;
 
     // The desktop --------------------------------------------------------------------------------------------------
-    void Resize(int width, int height);    ///< OnResize; the next paint is a full one.
+    void Resize(int width, int height);  ///< OnResize; the next paint is a full one.
     /// The system's scale and with it the default font; sizes of elements that exist stay.
     void SetScale(double scale);
-    void Focus();                          ///< The window gets the native focus.
-    void Unfocus();                        ///< It loses it to nobody.
+    void Focus();    ///< The window gets the native focus.
+    void Unfocus();  ///< It loses it to nobody.
     /// The native focus comes in by Tab: OnGetFocus, then the custom event for the first or the last element.
     void TabInto(bool forward = true);
     /// Moves the pointer there and lets the tip come up. Returns the text shown, empty for none; more in
@@ -124,7 +124,7 @@ public:
     std::string Tooltip(int x, int y);
     void ContextMenu(CVisualElement const& element, int x, int y);  ///< Moves the pointer there and asks for the menu.
     void ContextMenu(int x, int y);
-    void SysColorChange();                 ///< The desktop's colours have changed.
+    void SysColorChange();  ///< The desktop's colours have changed.
     /// The window is destroyed natively, as by the desktop. The control lives on.
     void DestroyWindow();
     void DestroyControl();
@@ -150,4 +150,4 @@ private:
     CKeyboard m_Keyboard{*this};
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -12,10 +12,10 @@ namespace
 
 // The names of the colour table; null: none.
 constexpr std::array<char const*, 28> ColorNames = {
-    nullptr,        "black",     nullptr,   "yellow",       "blue",  "magenta",   "red",       "darkgrey",
-    "grey",         "white",     nullptr,   "orange",       "cyan",  "green",     "brown",     "midnightblue",
-    nullptr,        "turquoise", nullptr,   "limegreen",    nullptr, "paleyellow", nullptr,    "lightgrey",
-    nullptr,        "palepink",  "palegreen", "sand"};
+    nullptr,      "black",        nullptr,     "yellow",    "blue",     "magenta",   "red",
+    "darkgrey",   "grey",         "white",     nullptr,     "orange",   "cyan",      "green",
+    "brown",      "midnightblue", nullptr,     "turquoise", nullptr,    "limegreen", nullptr,
+    "paleyellow", nullptr,        "lightgrey", nullptr,     "palepink", "palegreen", "sand"};
 
 std::string Hex(unsigned value, int digits)
 {
@@ -24,7 +24,7 @@ std::string Hex(unsigned value, int digits)
     return text;
 }
 
-} // namespace
+}  // namespace
 
 std::string DescribeNumber(double value)
 {
@@ -138,4 +138,4 @@ std::string DescribeFont(font const& value)
     return text;
 }
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

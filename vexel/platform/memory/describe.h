@@ -12,12 +12,15 @@ namespace vexelbase::memory
 
 // Values as text, as the recorded painter calls have them.
 
-VEXEL_MEMORY_API std::string DescribeNumber(double value);             ///< The shortest text that reads back equal: 3, 1.5.
-VEXEL_MEMORY_API std::string DescribeText(std::string const& text);    ///< Quoted; \n \t \" \\ and \xNN for control characters.
-VEXEL_MEMORY_API std::string DescribeCharacter(char value);            ///< 'x'.
-VEXEL_MEMORY_API std::string DescribeColor(_color const& color);       ///< A name of the colour table, or #RRGGBB; "/AA" behind it.
-VEXEL_MEMORY_API std::string DescribePen(pen const& value);            ///< red, red dash 3, none.
-VEXEL_MEMORY_API std::string DescribeBrush(brush const& value);        ///< red, none.
-VEXEL_MEMORY_API std::string DescribeFont(font const& value);          ///< "Square" 8 bold; family 1 and 4 go unsaid.
+/// The shortest text that reads back equal: 3, 1.5.
+VEXEL_MEMORY_API std::string DescribeNumber(double value);
+/// Quoted; \n \t \" \\ and \xNN for control characters.
+VEXEL_MEMORY_API std::string DescribeText(std::string const& text);
+VEXEL_MEMORY_API std::string DescribeCharacter(char value);  ///< 'x'.
+/// A name of the colour table, or #RRGGBB; "/AA" behind it where the top byte isn't FF; "none".
+VEXEL_MEMORY_API std::string DescribeColor(_color const& color);
+VEXEL_MEMORY_API std::string DescribePen(pen const& value);      ///< red, red dash 3, none.
+VEXEL_MEMORY_API std::string DescribeBrush(brush const& value);  ///< red, none.
+VEXEL_MEMORY_API std::string DescribeFont(font const& value);    ///< "Square" 8 bold; family 1 and 4 go unsaid.
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

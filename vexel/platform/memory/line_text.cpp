@@ -31,7 +31,7 @@ std::size_t LengthOf(char first)
     return byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : byte >= 0xC0 ? 2 : 1;
 }
 
-} // namespace
+}  // namespace
 
 std::string CLineText::GetText() const
 {
@@ -50,15 +50,9 @@ bool CLineText::SetText(std::string const& text)
     return differs;
 }
 
-int CLineText::GetSelectionStart() const
-{
-    return std::min(m_Anchor, m_Caret);
-}
+int CLineText::GetSelectionStart() const { return std::min(m_Anchor, m_Caret); }
 
-int CLineText::GetSelectionLength() const
-{
-    return std::abs(m_Caret - m_Anchor);
-}
+int CLineText::GetSelectionLength() const { return std::abs(m_Caret - m_Anchor); }
 
 std::string CLineText::GetSelectedText() const
 {
@@ -126,4 +120,4 @@ bool CLineText::Erase(int direction)
     return true;
 }
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

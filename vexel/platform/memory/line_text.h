@@ -21,7 +21,7 @@ public:
     int GetSelectionStart() const;
     int GetSelectionLength() const;
     std::string GetSelectedText() const;
-    void Select(int start, int length);          ///< Cut to the text; the caret stands at its end.
+    void Select(int start, int length);  ///< Cut to the text; the caret stands at its end.
     /// Moves the caret, cut to the text; `extend` keeps the other end of the selection.
     void MoveCaret(int position, bool extend);
 
@@ -29,7 +29,7 @@ public:
     /// Takes the bytes in the selection's place; a character counts when its last byte is there. As much as the limit
     /// allows. Each returns whether the text changed.
     bool Insert(std::string const& bytes);
-    bool Erase(int direction);                   ///< The selection, else the character before (-1) or behind (1) the caret.
+    bool Erase(int direction);  ///< The selection, else the character before (-1) or behind (1) the caret.
 
 private:
     bool EraseSelection();
@@ -41,4 +41,4 @@ private:
     int m_MaxLength = 0;
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

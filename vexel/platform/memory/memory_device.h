@@ -10,12 +10,13 @@ namespace vexelbase::memory
 ///
 /// The square font. A character's cell at px = max(1, trunc(size * factor * scale)) is px wide, one more if bold, and
 /// px high: ascent px * 6 / 8, descent the rest, no leading. At size 8 and scale 1: 8 wide, 6 + 2 high. Every UTF-8
-/// character takes one cell, and so does every byte that is no part of one. Names, families and italics change no width.
+/// character takes one cell, and so does every byte that is no part of one. Names, families and italics change no
+/// width.
 ///
 /// The glyph fills the cell from its left-top but for the last column and the last row with a pattern of blocks that
 /// tells characters apart; the whole first row and column of it belong to every visible character. A blank paints
-/// nothing. Bold paints the pattern twice, one pixel apart; italic moves the upper half one pixel to the right; underline
-/// is the row below the ascent, strike-out the row at half the ascent, both over the whole run.
+/// nothing. Bold paints the pattern twice, one pixel apart; italic moves the upper half one pixel to the right;
+/// underline is the row below the ascent, strike-out the row at half the ascent, both over the whole run.
 /// A rotated run is the upright one turned about its left-top: by quarters exactly, otherwise to the nearest pixel.
 class VEXEL_MEMORY_API CMemoryDevice : public CRasterDevice
 {
@@ -31,4 +32,4 @@ public:
                             int state) override;
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

@@ -13,7 +13,7 @@ namespace
 {
 constexpr int Margin = 4;        // pixels above and below the text
 constexpr int FirstWidth = 100;  // of a new control
-} // namespace
+}  // namespace
 
 // CMemoryTextControl -----------------------------------------------------------------------------------------------
 
@@ -210,4 +210,4 @@ bool CMemoryComboBox::OtherKey(CKeyboardEvent const& event)
     return true;
 }
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

@@ -71,13 +71,13 @@ class VEXEL_MEMORY_API CMemoryComboBox final : public CMemoryTextControl<IComboB
 public:
     CMemoryComboBox(CMemorySystem& system, CMemoryNode& window, bool editable)
         : CMemoryTextControl<IComboBox>(system, window), m_Editable(editable)
-    {
-    }
+    {}
 
     bool IsDropDownShown() const { return m_Dropped; }
     int GetDropDownCount() const { return m_DropCount; }  ///< How often the list was opened.
     bool GetOption() const { return m_Option; }
-    /// The user takes an item of the open or closed list: it becomes the current one, its text the text; the list closes.
+    /// The user takes an item of the open or closed list: it becomes the current one, its text the text; the list
+    /// closes.
     void Choose(int index);
 
     // From IComboBox ----------------------------------------------------------------------------------------------
@@ -109,4 +109,4 @@ private:
     std::vector<std::string> m_Items;
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

@@ -50,10 +50,10 @@ public:
     virtual bool NodeKeyDown(CKeyboardEvent&) { return false; }
     virtual void NodeKeyUp(CKeyboardEvent&) {}
     virtual void NodeChar(CKeyboardEvent&) {}
-    virtual void NodeFocus(bool) {}             ///< Got or lost the native focus.
-    virtual void NodeTabbedInto(bool) {}        ///< After NodeFocus, where Tab brought it; true: forward.
+    virtual void NodeFocus(bool) {}       ///< Got or lost the native focus.
+    virtual void NodeTabbedInto(bool) {}  ///< After NodeFocus, where Tab brought it; true: forward.
     virtual void NodeLostCapture() {}
-    virtual void NodePaintEnded() {}            ///< A paint of the window it stands in has ended.
+    virtual void NodePaintEnded() {}  ///< A paint of the window it stands in has ended.
 
     std::weak_ptr<int> GetNodeLife() const { return m_Life; }
 
@@ -82,4 +82,4 @@ private:
     std::shared_ptr<int> m_Life = std::make_shared<int>(0);
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

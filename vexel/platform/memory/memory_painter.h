@@ -24,7 +24,8 @@ public:
 VEXEL_MEMORY_API IPaintRecorder* SetPaintRecorder(IPaintRecorder* recorder);
 
 /// The painter of windows and pictures in memory. Tells the recorder, if there is one, of each call before it is
-/// carried out; calls that the painter makes on itself are left out, and so are queries and texts that are only measured.
+/// carried out; calls that the painter makes on itself are left out, and so are queries and texts that are only
+/// measured.
 class VEXEL_MEMORY_API CMemoryPainter : public CBasePainter
 {
 public:
@@ -69,18 +70,17 @@ public:
                              RasterOperation operation) override;
     void ExtractRasterPicture(IRasterPicture* picture, double left, double top, double right, double bottom) override;
     void ExtractRasterPictureEx(IRasterPicture* picture, double left, double top, double right, double bottom,
-                                double targetLeft, double targetTop, double targetRight,
-                                double targetBottom) override;
+                                double targetLeft, double targetTop, double targetRight, double targetBottom) override;
     void AlphaBlend(double left, double top, double right, double bottom, IRasterPicture* picture, int alpha) override;
-    void DrawXPM(XPMImage const& image, double x, double y, int sourceX, int sourceY, int sourceWidth,
-                 int sourceHeight, RasterOperation operation) override;
+    void DrawXPM(XPMImage const& image, double x, double y, int sourceX, int sourceY, int sourceWidth, int sourceHeight,
+                 RasterOperation operation) override;
 
 private:
     class CCall;
 
     bool const m_Picture;
-    int m_Silent = 0;     // inside calls whose own calls are left out
-    int m_Formatting = 0; // inside a DrawStringEx with a formatter
+    int m_Silent = 0;      // inside calls whose own calls are left out
+    int m_Formatting = 0;  // inside a DrawStringEx with a formatter
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

@@ -15,7 +15,8 @@ namespace vexelbase::memory
 ///     3 face         C0C0C0    7 dark shadow   404040    11 tooltip         FFFFE0
 ///     4 light        F0F0F0    8 control text  101010    12 tooltip text    202020
 ///
-/// No two of them are equal but for the two whites, so that a picture tells which one was taken. Other numbers are black.
+/// No two of them are equal but for the two whites, so that a picture tells which one was taken. Other numbers are
+/// black.
 class VEXEL_MEMORY_API CMemoryPalette : public ISysPalette
 {
 public:
@@ -29,4 +30,4 @@ private:
     std::array<_color, 14> m_Colors;
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

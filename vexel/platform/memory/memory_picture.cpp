@@ -11,20 +11,11 @@ namespace
 int g_Count = 0;
 }
 
-CMemoryPicture::CMemoryPicture(size<int> const& extent) : CBasePicture(extent)
-{
-    ++g_Count;
-}
+CMemoryPicture::CMemoryPicture(size<int> const& extent) : CBasePicture(extent) { ++g_Count; }
 
-CMemoryPicture::~CMemoryPicture()
-{
-    --g_Count;
-}
+CMemoryPicture::~CMemoryPicture() { --g_Count; }
 
-int CMemoryPicture::GetCount()
-{
-    return g_Count;
-}
+int CMemoryPicture::GetCount() { return g_Count; }
 
 std::unique_ptr<IPaintDevice> CMemoryPicture::CreateDevice(CPixelBuffer& pixels) const
 {
@@ -41,4 +32,4 @@ std::unique_ptr<CBasePainter> CMemoryPicture::CreatePainter(IPaintDevice& device
     return std::make_unique<CMemoryPainter>(device, true);
 }
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

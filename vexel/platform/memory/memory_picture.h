@@ -21,4 +21,4 @@ protected:  // From CBasePicture
     std::unique_ptr<CBasePainter> CreatePainter(IPaintDevice& device) const override;
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

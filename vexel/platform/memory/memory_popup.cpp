@@ -14,8 +14,7 @@ int g_Count = 0;
 class CMemoryPopup::CWindow final : public CMemoryWindow
 {
 public:
-    CWindow(CMemoryPopup& popup, CMemorySystem& system)
-        : CMemoryWindow(system, {0, 0}, {100, 100}), m_Popup(popup)
+    CWindow(CMemoryPopup& popup, CMemorySystem& system) : CMemoryWindow(system, {0, 0}, {100, 100}), m_Popup(popup)
     {
         SetNodeVisible(false);
     }
@@ -51,10 +50,7 @@ CMemoryPopup::~CMemoryPopup()
     --g_Count;
 }
 
-int CMemoryPopup::GetCount()
-{
-    return g_Count;
-}
+int CMemoryPopup::GetCount() { return g_Count; }
 
 void CMemoryPopup::OwnerGone()
 {
@@ -62,10 +58,7 @@ void CMemoryPopup::OwnerGone()
     Close(m_Code);
 }
 
-void CMemoryPopup::SetSize(int width, int height)
-{
-    m_Window->Resize({width, height});
-}
+void CMemoryPopup::SetSize(int width, int height) { m_Window->Resize({width, height}); }
 
 void CMemoryPopup::Show(point<int> const& screen)
 {
@@ -100,4 +93,4 @@ void CMemoryPopup::Close(int code)
         system.SetFocusNode(before);
 }
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

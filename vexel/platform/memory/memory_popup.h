@@ -9,8 +9,8 @@
 namespace vexelbase::memory
 {
 
-/// A popup window. It stands above all other windows and takes the focus; closing gives that back to who had it. A press
-/// outside of it closes it before the press is told, and so does an escape that its control did not deal with.
+/// A popup window. It stands above all other windows and takes the focus; closing gives that back to who had it. A
+/// press outside of it closes it before the press is told, and so does an escape that its control did not deal with.
 /// It closes with its owner. Closing by the user gives the code 0.
 class VEXEL_MEMORY_API CMemoryPopup final : public IPopup
 {
@@ -44,4 +44,4 @@ private:
     std::weak_ptr<int> m_FocusBeforeLife;
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

@@ -6,11 +6,12 @@
 namespace vexelbase::memory
 {
 
-/// A scroll bar. Its thickness is the system's metric; along its length stand an arrow as long as it is thick, the track
-/// with the thumb, and another arrow; a bar shorter than two arrows is all arrows.
+/// A scroll bar. Its thickness is the system's metric; along its length stand an arrow as long as it is thick, the
+/// track with the thumb, and another arrow; a bar shorter than two arrows is all arrows.
 ///
 /// The record's position runs from minimum to maximum - page. With `inverted` the thumb stands from the other end: an
-/// event's position is always the thumb's distance from the left or top end, so that it is maximum - page - the record's.
+/// event's position is always the thumb's distance from the left or top end, so that it is maximum - page - the
+/// record's.
 class VEXEL_MEMORY_API CMemoryScrollBar final : public CMemoryNativeControl<IScrollBar>
 {
 public:
@@ -18,11 +19,12 @@ public:
 
     bool IsVertical() const { return m_Vertical; }
 
-    // The user: each moves the thumb, cut to its range, and fires if that changed anything; nothing while disabled --------
+    // The user: each moves the thumb, cut to its range, and fires if that changed anything; nothing while disabled
+    // --------
     void DragThumb(double fromEnd);  ///< To this distance from the left or top end.
     void StepLine(int steps);        ///< Below 0: toward the left or top.
     void StepPage(int pages);
-    double GetThumbPos() const;      ///< The distance from the left or top end.
+    double GetThumbPos() const;  ///< The distance from the left or top end.
     /// Where the thumb stands, in the bar's pixels along its length: first and behind the last.
     range<int> GetThumbPixels() const;
 
@@ -54,4 +56,4 @@ private:
     int m_Grip = 0;  // where in the thumb it was taken
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

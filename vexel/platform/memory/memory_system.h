@@ -18,11 +18,11 @@ class CRunnerQueue;
 class CTimerQueue;
 
 /// A machine in memory: nothing in it happens by itself. Time passes in Advance, background work runs in RunBackground,
-/// posted work in RunQueues, frames in CMemoryWindow::RunFrame, and the user's mouse and keyboard are operations of this
-/// class. With the same calls it does the same things.
+/// posted work in RunQueues, frames in CMemoryWindow::RunFrame, and the user's mouse and keyboard are operations of
+/// this class. With the same calls it does the same things.
 ///
-/// The constructor makes it the current system, the destructor puts the one before back. Objects it gave out may outlive
-/// it; its timers never fire then.
+/// The constructor makes it the current system, the destructor puts the one before back. Objects it gave out may
+/// outlive it; its timers never fire then.
 class VEXEL_MEMORY_API CMemorySystem : public ISystem
 {
 public:
@@ -32,13 +32,14 @@ public:
     CMemorySystem& operator=(CMemorySystem const&) = delete;
 
     /// Puts back what is not an object: time 0, scale 1, the pointer at (0, 0) with no button or key held, an empty
-    /// clipboard, the first colours, scripted runners. Stops all timers and runners, drops focus, capture and what is posted.
+    /// clipboard, the first colours, scripted runners. Stops all timers and runners, drops focus, capture and what is
+    /// posted.
     void Reset();
 
     // Time: milliseconds ------------------------------------------------------------------------------------------
     std::int64_t GetTime() const;
-    /// Fires every timer that falls due on the way, at its own moment, in the order of these moments; of the same moment
-    /// the one first that began to wait first. Exceptions of handlers are reported and go no further.
+    /// Fires every timer that falls due on the way, at its own moment, in the order of these moments; of the same
+    /// moment the one first that began to wait first. Exceptions of handlers are reported and go no further.
     void Advance(int milliseconds);
     std::vector<int> GetRunningPeriods() const;  ///< Of the running timers, in the order they fall due.
 
@@ -57,33 +58,33 @@ public:
     int GetPostedCount() const;
 
     // The machine -------------------------------------------------------------------------------------------------
-    void SetScale(double scale);              ///< The default font follows in its pixels, not in its points.
-    void SetMetric(int metric, int pixels);   ///< Both are 16 at first, at any scale.
+    void SetScale(double scale);             ///< The default font follows in its pixels, not in its points.
+    void SetMetric(int metric, int pixels);  ///< Both are 16 at first, at any scale.
     CMemoryPalette& GetMemoryPalette() { return m_Palette; }
 
     // The user's mouse: screen pixels -----------------------------------------------------------------------------
     void MovePointer(point<int> const& screen);  ///< No event where the position is the same.
     void PressButton(MouseButton button, bool doubled = false);
     void ReleaseButton(MouseButton button);
-    void DropButton(MouseButton button);         ///< Comes up without an event.
+    void DropButton(MouseButton button);  ///< Comes up without an event.
     void TurnWheel(int notches);
-    void RestPointer();                          ///< The pointer has rested: OnHover where it is tracked.
+    void RestPointer();  ///< The pointer has rested: OnHover where it is tracked.
     point<int> GetPointerPos() const { return m_PointerPos; }
     CMemoryNode* GetNodeUnderPointer();
     bool IsButtonHeld(MouseButton button) const;
-    int GetKeyState() const;                     ///< Buttons and keys held now, as events carry it.
+    int GetKeyState() const;  ///< Buttons and keys held now, as events carry it.
 
     // The user's keyboard: goes to the node with the focus, or to `otherwise` while there is none -------------------
-    void SetHeldKeys(int keys);                  ///< ksShift, ksControl, ksAlt.
-    /// Returns whether the key was dealt with. A Tab that was not moves the focus on. `passOn`: gets the event's pass-on
-    /// flag; where it was cleared, the key's character is not to follow.
+    void SetHeldKeys(int keys);  ///< ksShift, ksControl, ksAlt.
+    /// Returns whether the key was dealt with. A Tab that was not moves the focus on. `passOn`: gets the event's
+    /// pass-on flag; where it was cleared, the key's character is not to follow.
     bool KeyDown(int virtualKey, CMemoryNode* otherwise = nullptr, bool* passOn = nullptr);
     void KeyUp(int virtualKey, CMemoryNode* otherwise = nullptr);
     void Character(char byte, CMemoryNode* otherwise = nullptr);
 
     // Focus and capture -------------------------------------------------------------------------------------------
     CMemoryNode* GetFocusNode() const { return m_Focus; }
-    void SetFocusNode(CMemoryNode* node);        ///< The old one is told first. Null: nobody has it.
+    void SetFocusNode(CMemoryNode* node);  ///< The old one is told first. Null: nobody has it.
     void FocusWhenShown(CMemoryNode* node) { m_FocusWhenShown = node; }  ///< Unless the focus is moved before.
     void TabFrom(CMemoryNode* node, bool forward);  ///< To the next node that takes the focus, in a ring.
     void TabInto(CMemoryNode& node, bool forward);
@@ -98,7 +99,7 @@ public:
     IPointer* GetPointer() override;
     IClipboard* GetClipboard() override;
     ISysPalette* GetPalette() override { return &m_Palette; }
-    font GetDefaultFont() override;              ///< "Square", sans, size 8.
+    font GetDefaultFont() override;  ///< "Square", sans, size 8.
     int GetSystemMetric(int metric) override;
     double GetScale() override { return m_Scale; }
     rectangle<int> GetWorkArea(point<int> const& screen) override;  ///< The whole screen.
@@ -153,9 +154,9 @@ private:
     std::vector<CMemoryNode*> m_TopNodes;
     std::vector<CMemoryWindow*> m_Windows;
     point<int> m_PointerPos;
-    int m_Buttons = 0;  // KeyState bits
-    int m_Keys = 0;     // KeyState bits
-    CMemoryNode* m_Under = nullptr;    // the node that was told of the pointer last
+    int m_Buttons = 0;               // KeyState bits
+    int m_Keys = 0;                  // KeyState bits
+    CMemoryNode* m_Under = nullptr;  // the node that was told of the pointer last
     CMemoryNode* m_Focus = nullptr;
     CMemoryNode* m_ToldOfFocus = nullptr;
     CMemoryNode* m_FocusWhenShown = nullptr;
@@ -177,4 +178,4 @@ struct SMemoryCounts
 };
 VEXEL_MEMORY_API SMemoryCounts GetMemoryCounts();
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

@@ -59,10 +59,7 @@ CMemoryWindow::~CMemoryWindow()
     --g_Count;
 }
 
-int CMemoryWindow::GetCount()
-{
-    return g_Count;
-}
+int CMemoryWindow::GetCount() { return g_Count; }
 
 std::unique_ptr<CBasePainter> CMemoryWindow::CreatePainter(CRasterDevice& device)
 {
@@ -149,10 +146,7 @@ int CMemoryWindow::RunPosted()
     return counts->ran - before;
 }
 
-int CMemoryWindow::GetPostedCount() const
-{
-    return m_QueueCounts->waiting;
-}
+int CMemoryWindow::GetPostedCount() const { return m_QueueCounts->waiting; }
 
 void CMemoryWindow::DropPosted()
 {
@@ -190,8 +184,8 @@ bool CMemoryWindow::AskTooltip()
     std::weak_ptr<int> const life = GetLifeToken();
     if (!Deliver(&CVexelControl::OnTooltip, &event) || life.expired())
         return false;
-    m_Tooltip = {!event.m_Text.empty(), position, event.m_Text, event.m_HotRect, event.m_BoundsRect, event.m_Multiline,
-                 event.m_Font};
+    m_Tooltip = {!event.m_Text.empty(), position,          event.m_Text, event.m_HotRect,
+                 event.m_BoundsRect,    event.m_Multiline, event.m_Font};
     return m_Tooltip.shown;
 }
 
@@ -210,10 +204,7 @@ void CMemoryWindow::TellSysColorChange()
 
 // What it was asked to do ------------------------------------------------------------------------------------------
 
-bool CMemoryWindow::HasCapture() const
-{
-    return GetSystem().GetCaptureNode() == this;
-}
+bool CMemoryWindow::HasCapture() const { return GetSystem().GetCaptureNode() == this; }
 
 void CMemoryWindow::SetFocus()
 {
@@ -221,10 +212,7 @@ void CMemoryWindow::SetFocus()
         GetSystem().SetFocusNode(this);
 }
 
-bool CMemoryWindow::HasFocus() const
-{
-    return GetSystem().GetFocusNode() == this;
-}
+bool CMemoryWindow::HasFocus() const { return GetSystem().GetFocusNode() == this; }
 
 void CMemoryWindow::CaptureMouse()
 {
@@ -307,15 +295,9 @@ void CMemoryWindow::NodeButtonDown(CMouseEvent& event, bool doubled)
         Deliver(&CVexelControl::OnDoubleClick, &second);
 }
 
-void CMemoryWindow::NodeButtonUp(CMouseEvent& event)
-{
-    Deliver(&CVexelControl::OnButtonUp, &event);
-}
+void CMemoryWindow::NodeButtonUp(CMouseEvent& event) { Deliver(&CVexelControl::OnButtonUp, &event); }
 
-void CMemoryWindow::NodeWheel(CMouseWheelEvent& event)
-{
-    Deliver(&CVexelControl::OnWheel, &event);
-}
+void CMemoryWindow::NodeWheel(CMouseWheelEvent& event) { Deliver(&CVexelControl::OnWheel, &event); }
 
 void CMemoryWindow::NodeHover(CMouseEvent& event)
 {
@@ -337,15 +319,9 @@ bool CMemoryWindow::NodeKeyDown(CKeyboardEvent& event)
     return !event.IsContinue() || !event.m_PassOn;
 }
 
-void CMemoryWindow::NodeKeyUp(CKeyboardEvent& event)
-{
-    Deliver(&CVexelControl::OnKeyUp, &event);
-}
+void CMemoryWindow::NodeKeyUp(CKeyboardEvent& event) { Deliver(&CVexelControl::OnKeyUp, &event); }
 
-void CMemoryWindow::NodeChar(CKeyboardEvent& event)
-{
-    Deliver(&CVexelControl::OnChar, &event);
-}
+void CMemoryWindow::NodeChar(CKeyboardEvent& event) { Deliver(&CVexelControl::OnChar, &event); }
 
 void CMemoryWindow::NodeFocus(bool has)
 {
@@ -362,10 +338,7 @@ void CMemoryWindow::NodeTabbedInto(bool forward)
 
 // Frames -----------------------------------------------------------------------------------------------------------
 
-void CMemoryWindow::PresentDamage()
-{
-    GetDevice().GetDamage().Clear();
-}
+void CMemoryWindow::PresentDamage() { GetDevice().GetDamage().Clear(); }
 
 void CMemoryWindow::AfterPaint()
 {
@@ -381,4 +354,4 @@ void CMemoryWindow::AfterPaint()
     }
 }
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

@@ -36,31 +36,32 @@ public:
     ~CMemoryWindow() override;  ///< Destroys it natively first, if that wasn't done.
 
     // What happens to it ------------------------------------------------------------------------------------------
-    void Resize(size<int> const& extent);            ///< OnResize.
-    void MoveTo(point<int> const& screen);           ///< OnMove, if it differs.
-    void Show(bool visible);                         ///< OnShow or OnHide, if it differs.
-    void Destroy();                                  ///< OnDestroy; the control forgets the window. Once.
-    /// Runs the pending frame if there is one, the window is visible and its drawing isn't locked. Returns whether it ran.
+    void Resize(size<int> const& extent);   ///< OnResize.
+    void MoveTo(point<int> const& screen);  ///< OnMove, if it differs.
+    void Show(bool visible);                ///< OnShow or OnHide, if it differs.
+    void Destroy();                         ///< OnDestroy; the control forgets the window. Once.
+    /// Runs the pending frame if there is one, the window is visible and its drawing isn't locked. Returns whether it
+    /// ran.
     bool RunFrame();
-    void LoseSurface();                              ///< The next paint, asked for at once, is a full one.
-    int RunPosted();                                 ///< What is queued now. Returns how many runnables ran.
+    void LoseSurface();  ///< The next paint, asked for at once, is a full one.
+    int RunPosted();     ///< What is queued now. Returns how many runnables ran.
     int GetPostedCount() const;
-    void DropPosted();                               ///< Deletes what is queued, unrun.
+    void DropPosted();  ///< Deletes what is queued, unrun.
     /// Asks the control for a tip at the pointer. Returns whether one is shown now.
     bool AskTooltip();
-    void AskContextMenu();                           ///< At the pointer.
-    void TellSysColorChange();                       ///< OnSysColorChanged.
+    void AskContextMenu();      ///< At the pointer.
+    void TellSysColorChange();  ///< OnSysColorChanged.
 
     // What it was asked to do -------------------------------------------------------------------------------------
-    int GetCursor() const { return m_Cursor; }       ///< 1 at first.
+    int GetCursor() const { return m_Cursor; }  ///< 1 at first.
     bool HasCapture() const;
-    bool IsTracking() const { return m_Tracking; }   ///< Asked for hover and leave since the pointer came in.
+    bool IsTracking() const { return m_Tracking; }  ///< Asked for hover and leave since the pointer came in.
     STooltip const& GetTooltip() const { return m_Tooltip; }
-    int GetFrameCount() const { return m_Frames; }   ///< Native paints so far.
-    static int GetCount();                           ///< Living windows of the process.
-    bool IsInPaint() const { return IsPainting(); }  ///< The control's paint is under way.
-    virtual CMemoryPopup* GetPopup() { return nullptr; }  ///< The popup whose window it is.
-    void BringUp();                                  ///< Above all other windows, and visible.
+    int GetFrameCount() const { return m_Frames; }                      ///< Native paints so far.
+    static int GetCount();                                              ///< Living windows of the process.
+    bool IsInPaint() const { return IsPainting(); }                     ///< The control's paint is under way.
+    virtual CMemoryPopup* GetPopup() { return nullptr; }                ///< The popup whose window it is.
+    void BringUp();                                                     ///< Above all other windows, and visible.
     void AddPopup(CMemoryPopup& popup) { m_Popups.push_back(&popup); }  ///< A popup that it owns.
     void RemovePopup(CMemoryPopup& popup) { std::erase(m_Popups, &popup); }
 
@@ -122,4 +123,4 @@ private:
     std::shared_ptr<SQueueCounts> m_QueueCounts = std::make_shared<SQueueCounts>();
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

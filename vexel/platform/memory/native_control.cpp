@@ -19,15 +19,9 @@ CMemoryNativeNode::CMemoryNativeNode(CMemorySystem& system, CMemoryNode& parent)
     SetNodeVisible(false);
 }
 
-CMemoryNativeNode::~CMemoryNativeNode()
-{
-    --g_Count;
-}
+CMemoryNativeNode::~CMemoryNativeNode() { --g_Count; }
 
-int CMemoryNativeNode::GetCount()
-{
-    return g_Count;
-}
+int CMemoryNativeNode::GetCount() { return g_Count; }
 
 void CMemoryNativeNode::WantVisible(bool visible)
 {
@@ -55,10 +49,7 @@ void CMemoryNativeNode::WantFocus()
         GetSystem().FocusWhenShown(this);
 }
 
-void CMemoryNativeNode::WantEnabled(bool enabled)
-{
-    SetNodeEnabled(enabled);
-}
+void CMemoryNativeNode::WantEnabled(bool enabled) { SetNodeEnabled(enabled); }
 
 void CMemoryNativeNode::Place(int left, int top, int width, int height)
 {
@@ -78,4 +69,4 @@ void CMemoryNativeNode::Guarded(CBase* self, std::function<void()> const& work)
     }
 }
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

@@ -34,7 +34,8 @@ protected:
     ~CMemoryNativeNode() override;
 
     virtual void VisibleChanged(bool) {}
-    /// Runs what calls the application's handlers; nothing that they throw gets out, and the control lives until it ends.
+    /// Runs what calls the application's handlers; nothing that they throw gets out, and the control lives until it
+    /// ends.
     void Guarded(CBase* self, std::function<void()> const& work);
 
 private:
@@ -44,7 +45,8 @@ private:
 };
 
 /// A native control with the interface `Interface`: what ICustomControl asks, by the node.
-template <class Interface> class CMemoryNativeControl : public CImplEventSender<Interface>, public CMemoryNativeNode
+template <class Interface>
+class VEXEL_MEMORY_API CMemoryNativeControl : public CImplEventSender<Interface>, public CMemoryNativeNode
 {
 public:
     CMemoryNativeControl(CMemorySystem& system, CMemoryNode& parent) : CMemoryNativeNode(system, parent) {}
@@ -68,4 +70,4 @@ protected:
     void Do(std::function<void()> const& work) { Guarded(this, work); }
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

@@ -74,7 +74,7 @@ std::string Store(std::string const& bytes)
     return stream + BigEndian(Adler(bytes));
 }
 
-} // namespace
+}  // namespace
 
 bool WritePng(std::ostream& out, CPixelBuffer const& pixels)
 {
@@ -109,4 +109,4 @@ bool SavePng(std::string const& path, CPixelBuffer const& pixels)
     return file && WritePng(file, pixels) && file.flush().good();
 }
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

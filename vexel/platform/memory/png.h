@@ -14,4 +14,4 @@ namespace vexelbase::memory
 VEXEL_MEMORY_API bool WritePng(std::ostream& out, CPixelBuffer const& pixels);
 VEXEL_MEMORY_API bool SavePng(std::string const& path, CPixelBuffer const& pixels);
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

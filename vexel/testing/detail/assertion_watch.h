@@ -17,4 +17,4 @@ private:
     static void ExceptionReported(char const* where, char const* what);
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

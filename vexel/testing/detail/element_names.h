@@ -11,4 +11,4 @@ namespace vexel::test::detail
 void ForgetElementName(CVisualElement const* element);
 void ForgetElementNames();
 
-} // namespace vexel::test::detail
+}  // namespace vexel::test::detail

@@ -12,10 +12,7 @@ CElementWatch& CElementWatch::Get()
     return *watch;
 }
 
-void CElementWatch::Install()
-{
-    SetElementObserver(this);
-}
+void CElementWatch::Install() { SetElementObserver(this); }
 
 void CElementWatch::ElementPainted(CVisualElement* element, vexelbase::IPainter* painter)
 {
@@ -29,4 +26,4 @@ void CElementWatch::ElementGone(CVisualElement* element)
     detail::ForgetElementName(element);
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -27,4 +27,4 @@ private:
     std::set<CVisualElement*> m_Elements;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -7,7 +7,7 @@ namespace
 {
 // Never deleted: class-wide timers and pictures, and statics of tests, may outlive all else.
 vexelbase::memory::CMemorySystem* g_Own = nullptr;
-} // namespace
+}  // namespace
 
 vexelbase::memory::CMemorySystem* FindKitSystem()
 {
@@ -29,4 +29,4 @@ vexelbase::memory::CMemorySystem& KitSystem()
     return *FindKitSystem();
 }
 
-} // namespace vexel::test::detail
+}  // namespace vexel::test::detail

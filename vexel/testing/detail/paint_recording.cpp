@@ -15,8 +15,7 @@ CPaintRecording* g_Current = nullptr;
 CPaintRecording::CPaintRecording(PaintLog& log, vexelbase::IPainter* painter)
     : m_Log(log), m_Painter(painter), m_OuterRecorder(vexelbase::memory::SetPaintRecorder(this)),
       m_Outer(std::exchange(g_Current, this))
-{
-}
+{}
 
 CPaintRecording::~CPaintRecording()
 {
@@ -24,10 +23,7 @@ CPaintRecording::~CPaintRecording()
     vexelbase::memory::SetPaintRecorder(m_OuterRecorder);
 }
 
-CPaintRecording* CPaintRecording::GetCurrent()
-{
-    return g_Current;
-}
+CPaintRecording* CPaintRecording::GetCurrent() { return g_Current; }
 
 void CPaintRecording::PainterCalled(vexelbase::memory::CMemoryPainter& painter, int depth, std::string const& call)
 {
@@ -44,4 +40,4 @@ void CPaintRecording::ElementPainted(CVisualElement const& element, vexelbase::I
         m_Log.m_Entries.push_back({ElementName(&element), true, picture, 0});
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -11,7 +11,8 @@ class CVisualElement;
 namespace vexel::test
 {
 
-/// Writes painter calls and painted elements to a log while it stands. Recordings may be nested; the inner one takes all.
+/// Writes painter calls and painted elements to a log while it stands. Recordings may be nested; the inner one takes
+/// all.
 class CPaintRecording : public vexelbase::memory::IPaintRecorder
 {
 public:
@@ -34,4 +35,4 @@ private:
     CPaintRecording* m_Outer;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -57,4 +57,4 @@ private:
 /// The living scripted runners of the process.
 int GetScriptedRunnerCount();
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

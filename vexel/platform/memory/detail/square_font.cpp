@@ -12,10 +12,7 @@ namespace
 
 constexpr std::uint32_t Replacement = 0xFFFD;
 
-bool IsBlank(std::uint32_t character)
-{
-    return character <= 0x20 || character == 0x7F || character == 0xA0;
-}
+bool IsBlank(std::uint32_t character) { return character <= 0x20 || character == 0x7F || character == 0xA0; }
 
 // Nine bits, different for all characters below 512.
 unsigned PatternOf(std::uint32_t character)
@@ -23,7 +20,7 @@ unsigned PatternOf(std::uint32_t character)
     return character < 512 ? character : (character * 2654435761u >> 23) & 511u;
 }
 
-} // namespace
+}  // namespace
 
 std::uint32_t TakeCharacter(char const*& text, char const* end)
 {
@@ -122,4 +119,4 @@ void SSquareFont::AddLines(int width, std::vector<rectangle<int>>& rects) const
         rects.push_back({0, ascent / 2, width, ascent / 2 + 1});
 }
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

@@ -9,8 +9,8 @@
 namespace vexelbase::memory
 {
 
-/// One character of a UTF-8 text. Takes it from the front of `text`; a byte that is no part of a character counts as one
-/// character of its own, 0xFFFD.
+/// One character of a UTF-8 text. Takes it from the front of `text`; a byte that is no part of a character counts as
+/// one character of its own, 0xFFFD.
 std::uint32_t TakeCharacter(char const*& text, char const* end);
 int CountCharacters(char const* text, int length);
 
@@ -31,4 +31,4 @@ struct SSquareFont
     void AddLines(int width, std::vector<rectangle<int>>& rects) const;
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

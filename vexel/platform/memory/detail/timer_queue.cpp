@@ -1,7 +1,7 @@
 #include "vexel/platform/memory/detail/timer_queue.h"
 
-#include "vexel/platform/exception_report.h"
 #include "vexel/platform/events.h"
+#include "vexel/platform/exception_report.h"
 #include "vexel/signals/notify.h"
 
 #include <algorithm>
@@ -18,15 +18,15 @@ std::vector<CMemoryTimer*>& AllTimers()
     return *timers;
 }
 
-} // namespace
+}  // namespace
 
 // CTimerQueue ------------------------------------------------------------------------------------------------------
 
 std::vector<CTimerQueue::SEntry>::iterator CTimerQueue::FindNext()
 {
-    return std::min_element(m_Entries.begin(), m_Entries.end(), [](SEntry const& a, SEntry const& b) {
-        return a.due != b.due ? a.due < b.due : a.number < b.number;
-    });
+    return std::min_element(m_Entries.begin(), m_Entries.end(),
+                            [](SEntry const& a, SEntry const& b)
+                            { return a.due != b.due ? a.due < b.due : a.number < b.number; });
 }
 
 void CTimerQueue::Advance(int milliseconds)
@@ -54,9 +54,8 @@ void CTimerQueue::Reset()
 std::vector<int> CTimerQueue::GetRunningPeriods() const
 {
     std::vector<SEntry> entries = m_Entries;
-    std::sort(entries.begin(), entries.end(), [](SEntry const& a, SEntry const& b) {
-        return a.due != b.due ? a.due < b.due : a.number < b.number;
-    });
+    std::sort(entries.begin(), entries.end(),
+              [](SEntry const& a, SEntry const& b) { return a.due != b.due ? a.due < b.due : a.number < b.number; });
     std::vector<int> periods;
     for (SEntry const& entry : entries)
         periods.push_back(entry.period);
@@ -123,10 +122,7 @@ void CMemoryTimer::Tick()
     }
 }
 
-int CMemoryTimer::GetCount()
-{
-    return static_cast<int>(AllTimers().size());
-}
+int CMemoryTimer::GetCount() { return static_cast<int>(AllTimers().size()); }
 
 int CMemoryTimer::GetRunningCount()
 {
@@ -142,4 +138,4 @@ int CMemoryTimer::GetSubscriptionCount()
     return count;
 }
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory

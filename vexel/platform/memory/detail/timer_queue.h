@@ -60,4 +60,4 @@ private:
     int m_Period;
 };
 
-} // namespace vexelbase::memory
+}  // namespace vexelbase::memory
