@@ -290,8 +290,7 @@ void CImplEventSender<Sender>::FireEvent(std::type_info const& type, void (INoti
         }
     }
     catch (cancel_processing const&)
-    {
-    }
+    {}
 }
 
 namespace detail
