@@ -15,7 +15,9 @@ namespace vexelbase::qt
 ///
 /// The caller owns the window, Qt owns its native side as a child of `host`. They may go in any order, and so may the
 /// control on the window: deleting the window takes its child out of `host`; deleting `host`, or ending the application,
-/// tells the control (OnDestroy), which then has no window, and leaves an empty window behind.
+/// tells the control (OnDestroy), which then has no window, and leaves an empty window behind. Handlers of input may
+/// delete any of the three at once; handlers of OnResize, OnMove, OnShow and OnHide, within which Qt still works on the
+/// widget, may delete window and control, but `host` only by deleteLater.
 ///
 /// For the time being the window makes no native controls: its Create... operations give null.
 VEXEL_QT_API std::unique_ptr<ISysWindow> HostWindow(QWidget* host);

@@ -9,7 +9,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace vexelbase::qt
 {
@@ -73,6 +72,7 @@ QFont MakeQtFont(font const& value, double ratio)
     result.setItalic((value.style & font::fsItalic) != 0);
     result.setUnderline((value.style & font::fsUnderline) != 0);
     result.setStrikeOut((value.style & font::fsStrikeOut) != 0);
+    result.setHintingPreference(QFont::PreferFullHinting);
     result.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     return result;
 }
@@ -204,7 +204,7 @@ SGlyph const* CFontFace::Load(char32_t character)
     if (glyphs.size() != 1 || glyphs[0] == 0)
         return nullptr;
     QList<QPointF> const advances = m_RawFont.advancesForGlyphIndexes(glyphs);
-    slot.glyph.advance = static_cast<int>(std::lround((advances.isEmpty() ? 0.0 : advances[0].x()) * 64.0));
+    slot.glyph.advance = advances.isEmpty() ? 0 : std::max(0, qRound(advances[0].x()));
     slot.glyph.coverage = Render(glyphs[0]);
     slot.state = EState::Plain;
     return &slot.glyph;

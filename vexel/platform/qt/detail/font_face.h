@@ -18,7 +18,7 @@ namespace vexelbase::qt
 /// One character of a face that needs no shaping.
 struct SGlyph
 {
-    int advance = 0;  ///< 64ths of a device pixel.
+    int advance = 0;  ///< Device pixels; whole ones, so that the widths of parts add up to that of the run.
     SCoverage coverage;
 };
 
@@ -100,7 +100,7 @@ private:
 };
 
 /// The Qt font for one of the framework's, whose factor does not count; a font without size or name takes them from the
-/// application's font. `ratio`: multiplies the size.
+/// application's font. `ratio`: multiplies the size. Letters are hinted to whole pixels.
 QFont MakeQtFont(font const& value, double ratio);
 
 /// The quarter turns of a font's rotation; false if it stands at another angle.

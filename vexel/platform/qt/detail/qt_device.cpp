@@ -17,31 +17,26 @@ namespace
 
 constexpr std::int64_t MaxKeptPart = 1 << 20;  // pixels
 
-constexpr int ToPixels(int sixtyFourths)
-{
-    return (sixtyFourths + 32) >> 6;
-}
-
 std::string_view TextOf(IPaintDevice::SRun const& run)
 {
     return {run.text, static_cast<std::size_t>(std::max(0, run.length))};
 }
 
 // The pen position after so many pixels along the turned line.
-point<int> Along(IPaintDevice::SRun const& run, ETurn turn, int distance)
+point<int> Along(IPaintDevice::SRun const& run, ETurn turn, std::int64_t distance)
 {
     switch (turn)
     {
     case ETurn::Quarter:
-        return {run.x, run.y - distance};
+        return {run.x, static_cast<int>(run.y - distance)};
     case ETurn::Half:
-        return {run.x - distance, run.y};
+        return {static_cast<int>(run.x - distance), run.y};
     case ETurn::ThreeQuarters:
-        return {run.x, run.y + distance};
+        return {run.x, static_cast<int>(run.y + distance)};
     case ETurn::None:
         break;
     }
-    return {run.x + distance, run.y};
+    return {static_cast<int>(run.x + distance), run.y};
 }
 
 // The pen positions from which a glyph may reach the clip.
@@ -118,7 +113,7 @@ int CQtDevice::MeasureRun(font const& textFont, char const* text, int length)
         sum += glyph->advance;
         p += count;
     }
-    return ToPixels(SaturateToInt(sum));
+    return SaturateToInt(sum);
 }
 
 void CQtDevice::GetMetrics(font const& textFont, fontmetrics& metrics)
@@ -149,12 +144,11 @@ void CQtDevice::DrawRun(SRun const& run)
 void CQtDevice::DrawPlain(SRun const& run, CFontFace const& face, int width, rectangle<int> const& clip)
 {
     ETurn const turn = face.GetTurn();
-    int const pixels = ToPixels(width);
     fontmetrics const& metrics = face.GetMetrics();
     int const overhang = face.GetOverhang();
 
     // What the run may touch at most; a run beside the clip ends here.
-    rectangle<int> box = TurnRectangle({-overhang, -overhang, AddSaturated(pixels, overhang),
+    rectangle<int> box = TurnRectangle({-overhang, -overhang, AddSaturated(width, overhang),
                                         metrics.ascent + metrics.descent + overhang},
                                        turn);
     box = {AddSaturated(box.left, run.x), AddSaturated(box.top, run.y), AddSaturated(box.right, run.x),
@@ -168,13 +162,12 @@ void CQtDevice::DrawPlain(SRun const& run, CFontFace const& face, int width, rec
     std::int64_t pen = 0;
     for (SGlyph const* const glyph : m_Glyphs)
     {
-        std::int64_t const distance = (pen + 32) >> 6;
-        if (distance > reach.last)
+        if (pen > reach.last)
             break;
         SCoverage const& coverage = glyph->coverage;
-        if (!coverage.IsEmpty() && distance >= reach.first)
+        if (!coverage.IsEmpty() && pen >= reach.first)
         {
-            point<int> const at = Along(run, turn, static_cast<int>(distance));
+            point<int> const at = Along(run, turn, pen);
             int const left = at.x + coverage.left;
             int const top = at.y + coverage.top;
             ink.left = std::min(ink.left, left);
@@ -189,7 +182,7 @@ void CQtDevice::DrawPlain(SRun const& run, CFontFace const& face, int width, rec
     if (!ink.IsEmpty())
         Touch(ink);
     if (face.HasDecoration())
-        DrawDecoration(run, face, pixels, clip);
+        DrawDecoration(run, face, width, clip);
 }
 
 void CQtDevice::DrawShaped(SRun const& run, CFontFace const& face, rectangle<int> const& clip)

@@ -33,7 +33,7 @@ public:
                             int state) override;
 
 private:
-    /// The glyphs of a run, or false if it must be shaped. `width`: 64ths of a pixel.
+    /// The glyphs of a run, or false if it must be shaped.
     bool Collect(CFontFace& face, std::string_view text, int& width);
     void DrawPlain(SRun const& run, CFontFace const& face, int width, rectangle<int> const& clip);
     void DrawShaped(SRun const& run, CFontFace const& face, rectangle<int> const& clip);

@@ -33,8 +33,14 @@ CQtWidget::~CQtWidget()
 
 void CQtWidget::FillParent()
 {
-    if (QWidget const* const parent = parentWidget())
-        setGeometry(parent->contentsRect());
+    QWidget const* const parent = parentWidget();
+    if (!parent)
+        return;
+    QRect const area = parent->contentsRect();
+    if (pos() == area.topLeft())
+        resize(area.size());  // setGeometry would tell of a move
+    else
+        setGeometry(area);
 }
 
 int CQtWidget::FrameEvent()
