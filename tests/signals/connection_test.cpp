@@ -16,12 +16,10 @@ TEST(Connection, RunsItsClosureWithTheArgumentsOfTheSignal)
 {
     signal_t<std::string const&, bool&> signal;
     std::string text;
-    CConnection const connection(signal,
-                                 [&](std::string const& value, bool& flag)
-                                 {
-                                     text = value;
-                                     flag = true;
-                                 });
+    CConnection const connection(signal, [&](std::string const& value, bool& flag) {
+        text = value;
+        flag = true;
+    });
     bool flag = false;
     signal("value", flag);
     EXPECT_EQ(text, "value");
@@ -76,12 +74,10 @@ TEST(Connection, MayEndItselfWhileItsClosureRuns)
     auto kept = std::make_shared<std::string>("kept");
     std::string seen;
     CConnection connection;
-    connection = CConnection(signal,
-                             [&, kept]
-                             {
-                                 connection.Disconnect();
-                                 seen = *kept;
-                             });
+    connection = CConnection(signal, [&, kept] {
+        connection.Disconnect();
+        seen = *kept;
+    });
     signal();
     signal();
     EXPECT_EQ(seen, "kept");

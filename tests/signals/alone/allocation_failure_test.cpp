@@ -50,12 +50,30 @@ void* operator new(std::size_t size)
         throw std::bad_alloc();
     return memory;
 }
-void* operator new[](std::size_t size) { return operator new(size); }
-void* operator new(std::size_t size, std::nothrow_t const&) noexcept { return Allocate(size); }
-void operator delete(void* memory) noexcept { Free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { Free(memory); }
-void operator delete[](void* memory) noexcept { Free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { Free(memory); }
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept
+{
+    return Allocate(size);
+}
+void operator delete(void* memory) noexcept
+{
+    Free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept
+{
+    Free(memory);
+}
+void operator delete[](void* memory) noexcept
+{
+    Free(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept
+{
+    Free(memory);
+}
 
 namespace
 {
@@ -164,8 +182,7 @@ TEST(AllocationFailure, InTheFirstConnectLeavesBothUnconnected)
 {
     int const failures = FailAtEach<SWorld>(
         [](SWorld&) {}, [](SWorld& world) { world.signal.connect(&world.receiver, &CCounter::Slot); },
-        [](SWorld& world)
-        {
+        [](SWorld& world) {
             EXPECT_EQ(world.signal.connection_count(), 0u);
             EXPECT_EQ(world.receiver.signal_count(), 0u);
             EXPECT_TRUE(IsFree(world.signal));
@@ -178,8 +195,7 @@ TEST(AllocationFailure, InTheFirstConnectLeavesBothUnconnected)
 TEST(AllocationFailure, InAFurtherConnectLeavesTheOthersAlone)
 {
     int const failures = FailAtEach<SWorld>(
-        [](SWorld& world)
-        {
+        [](SWorld& world) {
             for (int i = 0; i < 5; ++i)
             {
                 world.receivers.push_back(std::make_unique<CCounter>());
@@ -189,8 +205,7 @@ TEST(AllocationFailure, InAFurtherConnectLeavesTheOthersAlone)
             }
         },
         [](SWorld& world) { world.signal.connect(&world.receiver, &CCounter::Slot); },
-        [](SWorld& world)
-        {
+        [](SWorld& world) {
             EXPECT_EQ(world.signal.connection_count(), 5u);
             EXPECT_EQ(world.receiver.signal_count(), 5u);
             EXPECT_EQ(world.receiver.count_signal(&world.signal), 0u);
@@ -208,8 +223,7 @@ TEST(AllocationFailure, WhereALongListGetsItsIndexLeavesEverythingAsItWas)
     for (int length = 14; length <= 70; ++length)
     {
         int const failures = FailAtEach<SWorld>(
-            [length](SWorld& world)
-            {
+            [length](SWorld& world) {
                 for (int i = 0; i < length; ++i)
                 {
                     world.receivers.push_back(std::make_unique<CCounter>());
@@ -219,8 +233,7 @@ TEST(AllocationFailure, WhereALongListGetsItsIndexLeavesEverythingAsItWas)
                 }
             },
             [](SWorld& world) { world.signal.connect(&world.receiver, &CCounter::Slot); },
-            [length](SWorld& world)
-            {
+            [length](SWorld& world) {
                 EXPECT_EQ(world.signal.connection_count(), static_cast<std::size_t>(length));
                 EXPECT_EQ(world.receiver.signal_count(), static_cast<std::size_t>(length));
                 world.signal();
@@ -253,15 +266,13 @@ TEST(AllocationFailure, InAConnectDuringAnEmissionLeavesTheEmissionRunning)
         CCounter last;
     };
     int const failures = FailAtEach<SEmission>(
-        [](SEmission& world)
-        {
+        [](SEmission& world) {
             world.acts.m_World = &world;
             world.signal.connect(&world.acts, &SEmission::SActs::Slot);
             world.signal.connect(&world.last, &CCounter::Slot);
         },
         [](SEmission& world) { world.signal(); },
-        [](SEmission& world)
-        {
+        [](SEmission& world) {
             EXPECT_EQ(world.last.m_Calls, 0) << "the exception ended the emission";
             EXPECT_EQ(world.signal.connection_count(), 2u);
             EXPECT_EQ(world.receiver.signal_count(), 0u);
@@ -379,8 +390,7 @@ TEST(AllocationFailure, InTheConstructorOfASenderOrASubscriberLeavesNothing)
     struct SNothing
     {};
     int const failures = FailAtEach<SNothing>([](SNothing&) {},
-                                              [](SNothing&)
-                                              {
+                                              [](SNothing&) {
                                                   CImplEventSender<IEventSender> sender;
                                                   CTimerNotify subscriber;
                                               },
@@ -397,13 +407,11 @@ TEST(AllocationFailure, InSubscribeLeavesNoDanglingSubscriber)
     };
     int const failures =
         FailAtEach<SSending>([](SSending& world) { world.sender.SetSupportedEvent(typeid(ITimerNotify)); },
-                             [](SSending& world)
-                             {
+                             [](SSending& world) {
                                  if (world.subscriber)
                                      world.sender.Subscribe(world.subscriber.get(), typeid(ITimerNotify), true);
                              },
-                             [](SSending& world)
-                             {
+                             [](SSending& world) {
                                  EXPECT_FALSE(world.sender.IsSubscribed(typeid(ITimerNotify)));
                                  world.subscriber.reset();
                              });
