@@ -127,9 +127,9 @@ template <class Peer> void register_cases(std::string const& peer, bool is_sende
     std::string const whole = is_sender_whole_object ? "_object" : "";
     benchmark::RegisterBenchmark(("construct_destroy/" + peer + whole).c_str(), construct_destroy<Peer>);
     benchmark::RegisterBenchmark(("connect_once_and_destroy/" + peer + whole).c_str(), whole_life<Peer>);
-    benchmark::RegisterBenchmark(("receivers_die_10000_at_one_signal/" + peer).c_str(),
-                                 [](benchmark::State& state) { receivers_die<Peer>(state, 10000); })
-        ->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark(("receivers_die_10000_at_one_signal/" + peer).c_str(), [](benchmark::State& state) {
+        receivers_die<Peer>(state, 10000);
+    })->Unit(benchmark::kMicrosecond);
 }
 
 }  // namespace bench_signals

@@ -81,8 +81,7 @@ private:
 
 sleeper const s_sleeper;
 
-bool const registered = []
-{
+bool const registered = [] {
     register_cases<qt_peer>("qt", true);
     return true;
 }();

@@ -33,8 +33,7 @@ struct vexel_peer
         }
     };
     struct Handle
-    {
-    };
+    {};
 
     static Handle connect(Signal& signal, Receiver& receiver)
     {
@@ -53,8 +52,7 @@ struct sigc_trackable_peer
 {
     using Signal = sigc::signal<void(int)>;
     struct Receiver : receiver_base, sigc::trackable
-    {
-    };
+    {};
     using Handle = sigc::connection;
 
     static Handle connect(Signal& signal, Receiver& receiver)
@@ -93,21 +91,18 @@ void sigc_untracked_cases()
 
 void lock_cases()
 {
-    benchmark::RegisterBenchmark("lock/vexel",
-                                 [](benchmark::State& state)
-                                 {
-                                     plinth::threading::mutex_t mutex;
-                                     for (auto _ : state)
-                                     {
-                                         mutex.acquire();
-                                         benchmark::ClobberMemory();
-                                         mutex.release();
-                                     }
-                                 });
+    benchmark::RegisterBenchmark("lock/vexel", [](benchmark::State& state) {
+        plinth::threading::mutex_t mutex;
+        for (auto _ : state)
+        {
+            mutex.acquire();
+            benchmark::ClobberMemory();
+            mutex.release();
+        }
+    });
 }
 
-bool const registered = []
-{
+bool const registered = [] {
     register_cases<vexel_peer>("vexel");
     register_cases<sigc_trackable_peer>("sigc");
     sigc_untracked_cases();

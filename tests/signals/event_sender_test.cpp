@@ -200,8 +200,7 @@ TEST_F(EventSender, ANoticeMayMakeAnotherSubscriberLeaveAllLists)
         sender.Subscribe(subscriber, timer, false);
         sender.Subscribe(subscriber, click, false);
     }
-    a.m_OnStopped = [this]
-    {
+    a.m_OnStopped = [this] {
         a.m_OnStopped = nullptr;
         sender.Unsubscribe(&b, true);
     };
@@ -317,8 +316,7 @@ TEST_F(EventSender, ASubscriberAddedDuringAFiringIsNotReached)
 {
     sender.Subscribe(&a, timer, false);
     sender.Subscribe(&b, timer, false);
-    a.m_Action = [this]
-    {
+    a.m_Action = [this] {
         a.m_Action = nullptr;
         sender.Subscribe(&c, timer, false);
     };
@@ -330,8 +328,7 @@ TEST_F(EventSender, ASubscriberAddedToTheFrontShiftsTheOthersSoThatOneIsCalledTw
 {
     sender.Subscribe(&a, timer, false);
     sender.Subscribe(&b, timer, false);
-    a.m_Action = [this]
-    {
+    a.m_Action = [this] {
         a.m_Action = nullptr;
         sender.SubscribeToFront(&c, timer, false);
     };
@@ -342,8 +339,7 @@ TEST_F(EventSender, ASubscriberAddedToTheFrontShiftsTheOthersSoThatOneIsCalledTw
 TEST_F(EventSender, ASubscriberThatLeavesShiftsTheOthersSoThatOneIsMissed)
 {
     SubscribeAll();
-    a.m_Action = [this]
-    {
+    a.m_Action = [this] {
         a.m_Action = nullptr;
         sender.Unsubscribe(&a, timer, false);
     };
@@ -354,8 +350,7 @@ TEST_F(EventSender, ASubscriberThatLeavesShiftsTheOthersSoThatOneIsMissed)
 TEST_F(EventSender, FiringsMayBeNested)
 {
     SubscribeAll();
-    b.m_Action = [this]
-    {
+    b.m_Action = [this] {
         b.m_Action = nullptr;
         sender.FireEvent(timer, &INotify::Handle<&ITimerNotify::OnTimer>, nullptr, true);
     };
@@ -369,8 +364,7 @@ TEST_F(EventSender, AHandlerMayDeleteTheSenderAlsoFromANestedFiring)
     for (CTick* subscriber : {&a, &b, &c})
         dying->Subscribe(subscriber, timer, false);
     bool nested = false;
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         if (nested)
             return dying.reset();
         nested = true;
@@ -387,8 +381,7 @@ TEST_F(EventSender, AHandlerMayDeleteTheSenderAndThrow)
     dying->SetSupportedEvent(timer);
     dying->Subscribe(&a, timer, false);
     dying->Subscribe(&b, timer, false);
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         dying.reset();
         throw cancel_processing();
     };

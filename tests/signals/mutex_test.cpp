@@ -23,12 +23,10 @@ TEST(Mutex, MayBeTakenAgainByItsOwner)
     mutex.release();
 
     // It is free: another thread gets it.
-    std::thread other(
-        [&]
-        {
-            mutex.acquire();
-            mutex.release();
-        });
+    std::thread other([&] {
+        mutex.acquire();
+        mutex.release();
+    });
     other.join();
 }
 

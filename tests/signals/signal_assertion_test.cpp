@@ -98,8 +98,7 @@ TEST(SignalAssertion, ADisconnectThatFollowsOneInTheSameEmissionIsUnknown)
     signal_t<> signal;
     signal.connect(&a, &CReceiver::Slot);
     CReports reports;
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         signal.disconnect(&a, &CReceiver::Slot);
         signal.disconnect(&a, &CReceiver::Slot);
     };
@@ -118,8 +117,7 @@ TEST(SignalAssertion, RemovingTheClearedOnesDuringAnEmissionIsReportedAndDoneAll
         signal.connect(receiver, &CReceiver::Slot);
     CReports reports;
     std::size_t whileEmitting = 0;
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         signal.disconnect(&a, &CReceiver::Slot);
         signal.disconnect(&b, &CReceiver::Slot);
         signal.remove_invalid_connections();
@@ -212,7 +210,10 @@ TEST(SignalAssertion, AReporterMayUseTheSignal)
 
 int s_lastLine = 0;
 
-void RememberLine(char const*, char const*, int line, char const*) { s_lastLine = line; }
+void RememberLine(char const*, char const*, int line, char const*)
+{
+    s_lastLine = line;
+}
 
 TEST(AssertionReporter, IsReturnedWhenItIsReplaced)
 {

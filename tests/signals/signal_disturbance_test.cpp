@@ -240,8 +240,7 @@ TEST_P(Disturbance, LeavesTheEmissionThatItShould)
     if (tested.nested)
     {
         signal->connect(o.get(), &CReceiver::Slot);
-        o->m_Action = [this]
-        {
+        o->m_Action = [this] {
             o->m_Action = nullptr;
             EmitInBrackets();
         };
@@ -249,8 +248,7 @@ TEST_P(Disturbance, LeavesTheEmissionThatItShould)
     for (CReceiver* receiver : {a.get(), b.get(), c.get()})
         signal->connect(receiver, &CReceiver::Slot);
     CReceiver* const actor = By(tested.actor).get();
-    actor->m_Action = [&, actor]
-    {
+    actor->m_Action = [&, actor] {
         actor->m_Action = nullptr;
         Do(tested.deed, tested.actor);
     };
@@ -275,11 +273,8 @@ TEST_P(Disturbance, LeavesTheEmissionThatItShould)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, Disturbance, testing::ValuesIn(cases),
-                         [](auto const& tested)
-                         {
-                             return std::string(tested.param.name) + "By" + tested.param.actor +
-                                    (tested.param.nested ? "Nested" : "Outermost");
-                         });
+INSTANTIATE_TEST_SUITE_P(Each, Disturbance, testing::ValuesIn(cases), [](auto const& tested) {
+    return std::string(tested.param.name) + "By" + tested.param.actor + (tested.param.nested ? "Nested" : "Outermost");
+});
 
 }  // namespace

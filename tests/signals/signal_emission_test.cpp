@@ -44,8 +44,7 @@ TEST_F(Emission, ASlotThatDisconnectsItselfFinishesAndIsClearedUntilTheOutermost
     ConnectAll();
     bool finished = false;
     std::size_t whileEmitting = 0;
-    b.m_Action = [&]
-    {
+    b.m_Action = [&] {
         signal.disconnect(&b, &CReceiver::Slot);
         whileEmitting = signal.connection_count();
         finished = true;
@@ -71,8 +70,7 @@ TEST_F(Emission, ASlotThatConnectsANewSlotHasItCalledLastInThisSameEmission)
 {
     ConnectAll();
     CReceiver d(log, "d");
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         signal.connect(&d, &CReceiver::Slot);
         a.m_Action = nullptr;
     };
@@ -84,8 +82,7 @@ TEST_F(Emission, TheLastSlotMayConnectANewOneToo)
 {
     ConnectAll();
     CReceiver d(log, "d");
-    c.m_Action = [&]
-    {
+    c.m_Action = [&] {
         signal.connect(&d, &CReceiver::Slot);
         c.m_Action = nullptr;
     };
@@ -95,8 +92,7 @@ TEST_F(Emission, TheLastSlotMayConnectANewOneToo)
 TEST_F(Emission, ASlotThatDisconnectsItselfAndConnectsAgainIsCalledAgainAtTheEnd)
 {
     ConnectAll();
-    b.m_Action = [&]
-    {
+    b.m_Action = [&] {
         b.m_Action = nullptr;
         signal.disconnect(&b, &CReceiver::Slot);
         signal.connect(&b, &CReceiver::Slot);
@@ -135,8 +131,7 @@ TEST_F(Emission, ASlotThatDeletesTheSignalAndThrowsLetsTheExceptionPass)
     auto dying = std::make_unique<signal_t<>>();
     dying->connect(&a, &CReceiver::Slot);
     dying->connect(&b, &CReceiver::Slot);
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         dying.reset();
         throw std::runtime_error("slot");
     };
@@ -150,8 +145,7 @@ TEST_F(Emission, DeepInsideOthersASlotMayDeleteTheSignal)
     dying->connect(&a, &CReceiver::Slot);
     dying->connect(&b, &CReceiver::Slot);
     int depth = 0;
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         ++depth;
         if (depth < 5)
         {
@@ -185,8 +179,7 @@ TEST_F(Emission, ASignalThatIsDeletedInItsSlotMayBeMadeAnewInTheSamePlace)
     auto* made = new (place) signal_t<>;
     made->connect(&a, &CReceiver::Slot);
     made->connect(&b, &CReceiver::Slot);
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         a.m_Action = nullptr;
         std::destroy_at(made);
         made = new (place) signal_t<>;
@@ -204,8 +197,7 @@ TEST_F(Emission, ASlotThatEmitsTheSameSignalRunsAllValidSlotsAndPurgesOnlyAfterT
 {
     ConnectAll();
     std::size_t afterNested = 0;
-    b.m_Action = [&]
-    {
+    b.m_Action = [&] {
         b.m_Action = nullptr;
         signal.disconnect(&a, &CReceiver::Slot);
         signal();
@@ -224,8 +216,7 @@ TEST_F(Emission, AnOtherReceiverThatIsDeletedIsSkipped)
     signal.connect(dying.get(), &CReceiver::OtherSlot);
     signal.connect(&b, &CReceiver::Slot);
     std::size_t whileEmitting = 0;
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         dying.reset();
         whileEmitting = signal.connection_count();
     };
@@ -238,8 +229,7 @@ TEST_F(Emission, EraseAllInASlotEndsIt)
 {
     ConnectAll();
     std::size_t whileEmitting = 0;
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         signal._erase_all();
         whileEmitting = signal.connection_count();
     };
@@ -262,8 +252,7 @@ TEST_F(Emission, AnExceptionOfASlotReachesTheEmitterAndStopsThisEmissionOnly)
 TEST_F(Emission, AnExceptionEndsItLikeAnyOtherEnd)
 {
     ConnectAll();
-    b.m_Action = [&]
-    {
+    b.m_Action = [&] {
         signal.disconnect(&a, &CReceiver::Slot);
         throw vexel::cancel_processing();
     };
@@ -279,8 +268,7 @@ TEST_F(Emission, AnExceptionThatANestedEmitterCatchesLeavesTheOuterOneRunning)
 {
     ConnectAll();
     int calls = 0;
-    a.m_Action = [&]
-    {
+    a.m_Action = [&] {
         if (++calls != 1)
             throw 5;
         try
@@ -326,8 +314,7 @@ TEST_F(Emission, ReceiversThatDieInAnEmissionWithManyConnectionsAreSkipped)
         many.push_back(std::make_unique<CReceiver>(log, i % 10 == 0 ? "x" : "."));
         signal.connect(many.back().get(), &CReceiver::Slot);
     }
-    many[0]->m_Action = [&]
-    {
+    many[0]->m_Action = [&] {
         for (std::size_t i = 1; i < 100; ++i)
         {
             if (i % 10 != 0)

@@ -574,16 +574,13 @@ TEST(SignalModel, LongScriptsBehaveAsAListOfEntries)
 
 TEST(SignalModel, ManyReceiversBehaveAsAListOfEntries)
 {
-    EXPECT_TRUE(rc::check("scripts that begin with long lists",
-                          []
-                          {
-                              auto script = *rc::gen::container<std::vector<SStep>>(AnyStep(receiver_count));
-                              std::vector<SStep> const begin = {{What::connectMany, 0, 0, 0, 1},
-                                                                {What::connectMany, 0, 0, 1, 1},
-                                                                {What::connectMany, 1, 0, 0, 1}};
-                              script.insert(script.begin(), begin.begin(), begin.end());
-                              PlayAgainstModel(script);
-                          }));
+    EXPECT_TRUE(rc::check("scripts that begin with long lists", [] {
+        auto script = *rc::gen::container<std::vector<SStep>>(AnyStep(receiver_count));
+        std::vector<SStep> const begin = {
+            {What::connectMany, 0, 0, 0, 1}, {What::connectMany, 0, 0, 1, 1}, {What::connectMany, 1, 0, 0, 1}};
+        script.insert(script.begin(), begin.begin(), begin.end());
+        PlayAgainstModel(script);
+    }));
 }
 
 }  // namespace

@@ -530,7 +530,7 @@ TEST(SignalAsSlot, MayBeItsOwnAndDies)
 
 // Equality ------------------------------------------------------------------------------------------------------------
 
-TEST(Connection, IsTheSameForReceiverAndMethodAlone)
+TEST(ConnectionRecord, IsTheSameForReceiverAndMethodAlone)
 {
     std::string log;
     CReceiver a(log, "a");
@@ -651,6 +651,13 @@ TEST(SignalReceiver, OfAThousandSignalsForgetsExactlyThoseThatDie)
     (*signals[11])();
     EXPECT_EQ(log, "hh");
     EXPECT_EQ(signals[999]->connection_count(), 0u);
+
+    signals[11]->connect(&hub, &CReceiver::Slot);
+    signals[13]->connect(&hub, &CReceiver::Slot);
+    EXPECT_EQ(hub.signal_count(), 2u);
+    signals[11]->disconnect(&hub, &CReceiver::Slot);
+    EXPECT_EQ(hub.signal_count(), 1u);
+    EXPECT_EQ(hub.count_signal(signals[13].get()), 1u);
 }
 
 }  // namespace

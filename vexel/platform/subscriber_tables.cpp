@@ -77,8 +77,14 @@ INotify* CSubscribersTable::GetAny()
     return nullptr;
 }
 
-IEventSenderList* CreateDefSenderList() { return new CEventSenderList; }
+IEventSenderList* CreateDefSenderList()
+{
+    return new CEventSenderList;
+}
 
-ISubscribersTable* CreateDefSubscribersTable() { return new CSubscribersTable; }
+ISubscribersTable* CreateDefSubscribersTable()
+{
+    return new CSubscribersTable;
+}
 
 }  // namespace vexelbase

@@ -24,7 +24,6 @@ private:
 /// Thrown by a handler, or by a list of subscribers, to end the firing under way; FireEvent swallows it.
 /// Unlike vexel::cancel_processing it leaves the processing of the native event alone.
 class VEXEL_API cancel_processing
-{
-};
+{};
 
 }  // namespace vexelbase

@@ -172,7 +172,10 @@ public:
     CFiring(CFiring const&) = delete;
     CFiring& operator=(CFiring const&) = delete;
 
-    bool IsSenderAlive() const { return m_Sender != nullptr; }
+    bool IsSenderAlive() const
+    {
+        return m_Sender != nullptr;
+    }
 
     /// Tells this firing and those around it.
     void SenderDies()
@@ -290,8 +293,7 @@ void CImplEventSender<Sender>::FireEvent(std::type_info const& type, void (INoti
         }
     }
     catch (cancel_processing const&)
-    {
-    }
+    {}
 }
 
 namespace detail

@@ -25,8 +25,7 @@ struct bed
 bed& bed_of(unsigned group)
 {
     alignas(bed) static unsigned char memory[waiting_group_count][sizeof(bed)];
-    static bool const made = []
-    {
+    static bool const made = [] {
         for (auto& place : memory)
             new (place) bed;
         return true;
@@ -37,9 +36,15 @@ bed& bed_of(unsigned group)
 
 }  // namespace
 
-void mutex_t::acquire() noexcept { mutex_core::acquire(*this); }
+void mutex_t::acquire() noexcept
+{
+    mutex_core::acquire(*this);
+}
 
-void mutex_t::release() noexcept { mutex_core::release(*this); }
+void mutex_t::release() noexcept
+{
+    mutex_core::release(*this);
+}
 
 void mutex_core::wait(mutex_t& mutex, void const* self) noexcept
 {

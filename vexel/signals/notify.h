@@ -175,8 +175,7 @@ public:
 
 /// A scroll bar's subscriber.
 class VEXEL_API CScrollBarNotify : public CSubscriber<IScrollBarNotify>
-{
-};
+{};
 
 /// An edit's subscriber: what remains to be overridden are its keys and return.
 class VEXEL_API CEditNotify : public CSubscriber<IEditNotify>

@@ -15,12 +15,10 @@ namespace _internal
 
 /// Stands for an unused argument position.
 struct dummy_t
-{
-};
+{};
 
 template <class... Args> struct arguments_t
-{
-};
+{};
 
 /// arguments_t of those positions that are in use; the unused ones must be the last ones.
 template <class Used, class... Rest> struct used_arguments;
@@ -115,8 +113,7 @@ public:
 template <class Receiver, class MemberFunction, class A1 = dummy_t, class A2 = dummy_t, class A3 = dummy_t,
           class A4 = dummy_t, class A5 = dummy_t, class A6 = dummy_t>
 class signal_templ : public casting_t<Receiver, MemberFunction, used_arguments_t<A1, A2, A3, A4, A5, A6>>
-{
-};
+{};
 
 /// Per signature: the emission.
 template <class A1, class A2, class A3, class A4, class A5, class A6>
@@ -150,7 +147,8 @@ public:
         this->_insert(make_connection(receiver, method));
     }
 
-    /// Ends a connection, named by the arguments of its connect. See signal_base_t::_erase.
+    /// Ends a connection, named by the arguments of its connect. See signal_base_t::_erase. An inline member function
+    /// may have an address of its own in each shared library; who connected one disconnects it in the same library.
     template <class Receiver, class MemberFunction> void disconnect(Receiver* receiver, MemberFunction method)
     {
         this->_erase(make_connection(receiver, method));

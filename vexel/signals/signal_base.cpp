@@ -22,7 +22,10 @@ inline subscriber_state_t* subscriber_base_t::find_state() const
     return reinterpret_cast<subscriber_state_t*>(m_word.load(std::memory_order_acquire) & ~signal_tag);
 }
 
-inline signal_state_t* signal_base_t::find_signal_state() const { return static_cast<signal_state_t*>(find_state()); }
+inline signal_state_t* signal_base_t::find_signal_state() const
+{
+    return static_cast<signal_state_t*>(find_state());
+}
 
 subscriber_state_t& subscriber_base_t::get_state()
 {
@@ -42,7 +45,10 @@ subscriber_state_t& subscriber_base_t::get_state()
     return *reinterpret_cast<subscriber_state_t*>(expected & ~signal_tag);
 }
 
-inline signal_state_t& signal_base_t::get_signal_state() { return static_cast<signal_state_t&>(get_state()); }
+inline signal_state_t& signal_base_t::get_signal_state()
+{
+    return static_cast<signal_state_t&>(get_state());
+}
 
 // Subscribers ---------------------------------------------------------------------------------------------------------
 
@@ -273,7 +279,10 @@ bool signal_base_t::check_valid_state_after_call(onstack_signal_state_t& state)
     return check_valid(signal_state_t::of(state), state);
 }
 
-void signal_base_t::post_call(onstack_signal_state_t& state) { end_call(signal_state_t::of(state), state); }
+void signal_base_t::post_call(onstack_signal_state_t& state)
+{
+    end_call(signal_state_t::of(state), state);
+}
 
 void signal_base_t::remove_invalid_connections() const
 {

@@ -33,9 +33,8 @@ using typeless_caster_t = void (*)();
 /// Whom an emission calls, and how.
 struct connection_t
 {
-    void* m_receiver = nullptr;  ///< The object as the caster expects it.
-    subscriber_base_t* m_subscriber =
-        nullptr;  ///< The same object's subscriber part; null: cleared by an emission's slot.
+    void* m_receiver = nullptr;                 ///< The object as the caster expects it.
+    subscriber_base_t* m_subscriber = nullptr;  ///< The same object's subscriber part; null: cleared.
     typeless_connection_t m_method;
     typeless_caster_t m_caster = nullptr;
 
@@ -117,7 +116,8 @@ private:
 ///
 /// Operations may be called on any thread. Each holds the signal's recursive mutex for its whole length, an emission
 /// while it calls slots, too; inside it takes the mutex of the subscriber concerned. disconnect_all_signals takes the
-/// two in the other order, so threads that share a signal must not let receivers of it die.
+/// two in the other order: a receiver must not die on one thread while another one connects or disconnects it. Nor may
+/// a signal die while another thread uses it.
 class VEXEL_API signal_base_t : public subscriber_base_t
 {
 public:

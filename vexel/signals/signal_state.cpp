@@ -88,8 +88,8 @@ connection_node_t* connection_list::find(connection_t const& connection) const n
 connection_node_t* connection_list::find_subscriber(subscriber_base_t const* subscriber) const noexcept
 {
     if (m_index)
-        return m_index->m_by_subscriber.find(hash_of(subscriber), [&](connection_node_t& n)
-                                             { return n.m_connection.m_subscriber == subscriber; });
+        return m_index->m_by_subscriber.find(
+            hash_of(subscriber), [&](connection_node_t& n) { return n.m_connection.m_subscriber == subscriber; });
     for (connection_node_t* node = first(); node; node = node->m_next)
     {
         if (node->m_connection.m_subscriber == subscriber)

@@ -21,6 +21,7 @@ namespace
 constexpr long never = -1;
 thread_local long s_untilFailure = never;  // allocations that still succeed
 thread_local long s_made = 0;
+thread_local long s_alive = 0;
 
 void* Allocate(std::size_t size)
 {
@@ -29,7 +30,15 @@ void* Allocate(std::size_t size)
     if (s_untilFailure > 0)
         --s_untilFailure;
     ++s_made;
+    ++s_alive;
     return std::malloc(size ? size : 1);
+}
+
+void Free(void* memory)
+{
+    if (memory)
+        --s_alive;
+    std::free(memory);
 }
 
 }  // namespace
@@ -41,12 +50,30 @@ void* operator new(std::size_t size)
         throw std::bad_alloc();
     return memory;
 }
-void* operator new[](std::size_t size) { return operator new(size); }
-void* operator new(std::size_t size, std::nothrow_t const&) noexcept { return Allocate(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept
+{
+    return Allocate(size);
+}
+void operator delete(void* memory) noexcept
+{
+    Free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept
+{
+    Free(memory);
+}
+void operator delete[](void* memory) noexcept
+{
+    Free(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept
+{
+    Free(memory);
+}
 
 namespace
 {
@@ -155,8 +182,7 @@ TEST(AllocationFailure, InTheFirstConnectLeavesBothUnconnected)
 {
     int const failures = FailAtEach<SWorld>(
         [](SWorld&) {}, [](SWorld& world) { world.signal.connect(&world.receiver, &CCounter::Slot); },
-        [](SWorld& world)
-        {
+        [](SWorld& world) {
             EXPECT_EQ(world.signal.connection_count(), 0u);
             EXPECT_EQ(world.receiver.signal_count(), 0u);
             EXPECT_TRUE(IsFree(world.signal));
@@ -169,8 +195,7 @@ TEST(AllocationFailure, InTheFirstConnectLeavesBothUnconnected)
 TEST(AllocationFailure, InAFurtherConnectLeavesTheOthersAlone)
 {
     int const failures = FailAtEach<SWorld>(
-        [](SWorld& world)
-        {
+        [](SWorld& world) {
             for (int i = 0; i < 5; ++i)
             {
                 world.receivers.push_back(std::make_unique<CCounter>());
@@ -180,8 +205,7 @@ TEST(AllocationFailure, InAFurtherConnectLeavesTheOthersAlone)
             }
         },
         [](SWorld& world) { world.signal.connect(&world.receiver, &CCounter::Slot); },
-        [](SWorld& world)
-        {
+        [](SWorld& world) {
             EXPECT_EQ(world.signal.connection_count(), 5u);
             EXPECT_EQ(world.receiver.signal_count(), 5u);
             EXPECT_EQ(world.receiver.count_signal(&world.signal), 0u);
@@ -199,8 +223,7 @@ TEST(AllocationFailure, WhereALongListGetsItsIndexLeavesEverythingAsItWas)
     for (int length = 14; length <= 70; ++length)
     {
         int const failures = FailAtEach<SWorld>(
-            [length](SWorld& world)
-            {
+            [length](SWorld& world) {
                 for (int i = 0; i < length; ++i)
                 {
                     world.receivers.push_back(std::make_unique<CCounter>());
@@ -210,8 +233,7 @@ TEST(AllocationFailure, WhereALongListGetsItsIndexLeavesEverythingAsItWas)
                 }
             },
             [](SWorld& world) { world.signal.connect(&world.receiver, &CCounter::Slot); },
-            [length](SWorld& world)
-            {
+            [length](SWorld& world) {
                 EXPECT_EQ(world.signal.connection_count(), static_cast<std::size_t>(length));
                 EXPECT_EQ(world.receiver.signal_count(), static_cast<std::size_t>(length));
                 world.signal();
@@ -244,15 +266,13 @@ TEST(AllocationFailure, InAConnectDuringAnEmissionLeavesTheEmissionRunning)
         CCounter last;
     };
     int const failures = FailAtEach<SEmission>(
-        [](SEmission& world)
-        {
+        [](SEmission& world) {
             world.acts.m_World = &world;
             world.signal.connect(&world.acts, &SEmission::SActs::Slot);
             world.signal.connect(&world.last, &CCounter::Slot);
         },
         [](SEmission& world) { world.signal(); },
-        [](SEmission& world)
-        {
+        [](SEmission& world) {
             EXPECT_EQ(world.last.m_Calls, 0) << "the exception ended the emission";
             EXPECT_EQ(world.signal.connection_count(), 2u);
             EXPECT_EQ(world.receiver.signal_count(), 0u);
@@ -281,16 +301,96 @@ TEST(AllocationFailure, DisconnectingAndDyingTakeNoMemory)
     EXPECT_EQ(world.receiver.signal_count(), 0u);
 }
 
+// What is given back --------------------------------------------------------------------------------------------------
+
+struct SDies : subscriber_base_t
+{
+    void Slot()
+    {
+        if (--m_Levels != 0)
+            return (*m_Signal)();
+        m_Signal.reset();
+        if (m_Throws)
+            throw 1;
+    }
+
+    std::unique_ptr<signal_t<>> m_Signal = std::make_unique<signal_t<>>();
+    int m_Levels = 0;
+    bool m_Throws = false;
+};
+
+TEST(Memory, OfASignalThatDiesInItsEmissionsIsGivenBackOnce)
+{
+    for (int levels : {1, 2, 5})
+    {
+        for (int others : {0, 40})
+        {
+            for (bool throws : {false, true})
+            {
+                long const before = s_alive;
+                {
+                    SDies dies;
+                    dies.m_Levels = levels;
+                    dies.m_Throws = throws;
+                    std::vector<CCounter> more(static_cast<std::size_t>(others));
+                    dies.m_Signal->connect(&dies, &SDies::Slot);
+                    for (CCounter& receiver : more)
+                        dies.m_Signal->connect(&receiver, &CCounter::Slot);
+                    try
+                    {
+                        (*dies.m_Signal)();
+                        EXPECT_FALSE(throws);
+                    }
+                    catch (int)
+                    {
+                        EXPECT_TRUE(throws);
+                    }
+                    EXPECT_FALSE(dies.m_Signal);
+                }
+                EXPECT_EQ(s_alive, before) << levels << " levels, " << others << " others, throws: " << throws;
+            }
+        }
+    }
+}
+
+TEST(Memory, OfIdleSignalsAndReceiversIsGivenBackInWhateverOrderTheyDie)
+{
+    for (bool signalFirst : {false, true})
+    {
+        for (int count : {1, 3, 40})
+        {
+            long const before = s_alive;
+            {
+                auto signal = std::make_unique<signal_t<>>();
+                auto relay = std::make_unique<signal_t<>>();
+                std::vector<CCounter> receivers(static_cast<std::size_t>(count));
+                signal->connect(relay.get(), &signal_t<>::operator());
+                for (CCounter& receiver : receivers)
+                {
+                    signal->connect(&receiver, &CCounter::Slot);
+                    relay->connect(&receiver, &CCounter::OtherSlot);
+                }
+                (*signal)();
+                EXPECT_EQ(receivers.back().m_Calls, 2);
+                if (signalFirst)
+                    signal.reset();
+                else
+                    receivers.clear();
+                relay.reset();
+            }
+            EXPECT_EQ(s_alive, before) << count << " receivers, signal first: " << signalFirst;
+        }
+    }
+}
+
 // Senders and subscribers ---------------------------------------------------------------------------------------------
 
 TEST(AllocationFailure, InTheConstructorOfASenderOrASubscriberLeavesNothing)
 {
     struct SNothing
-    {
-    };
+    {};
     int const failures = FailAtEach<SNothing>([](SNothing&) {},
-                                              [](SNothing&)
-                                              {
+                                              [](SNothing&) {
                                                   CImplEventSender<IEventSender> sender;
                                                   CTimerNotify subscriber;
                                               },
@@ -307,13 +407,11 @@ TEST(AllocationFailure, InSubscribeLeavesNoDanglingSubscriber)
     };
     int const failures =
         FailAtEach<SSending>([](SSending& world) { world.sender.SetSupportedEvent(typeid(ITimerNotify)); },
-                             [](SSending& world)
-                             {
+                             [](SSending& world) {
                                  if (world.subscriber)
                                      world.sender.Subscribe(world.subscriber.get(), typeid(ITimerNotify), true);
                              },
-                             [](SSending& world)
-                             {
+                             [](SSending& world) {
                                  EXPECT_FALSE(world.sender.IsSubscribed(typeid(ITimerNotify)));
                                  world.subscriber.reset();
                              });

@@ -21,21 +21,19 @@ TEST(MutexThreads, OnlyOneThreadAtATimeHoldsItOnWhateverLevel)
     long count = 0;
     std::vector<std::thread> all;
     for (int i = 0; i < threads; ++i)
-        all.emplace_back(
-            [&]
+        all.emplace_back([&] {
+            for (int round = 0; round < rounds; ++round)
             {
-                for (int round = 0; round < rounds; ++round)
+                mutex_guard_t const outer(mutex);
+                long const before = count;
                 {
-                    mutex_guard_t const outer(mutex);
-                    long const before = count;
-                    {
-                        mutex_guard_t const inner(mutex);
-                        if (round % 64 == 0)
-                            std::this_thread::yield();
-                    }
-                    count = before + 1;
+                    mutex_guard_t const inner(mutex);
+                    if (round % 64 == 0)
+                        std::this_thread::yield();
                 }
-            });
+                count = before + 1;
+            }
+        });
     for (std::thread& thread : all)
         thread.join();
     EXPECT_EQ(count, 20000);
@@ -50,14 +48,12 @@ TEST(MutexThreads, AThreadThatWaitsGetsItAfterTheLastLevelIsReleased)
 
     mutex.acquire();
     mutex.acquire();
-    std::thread waits(
-        [&]
-        {
-            starts = true;
-            mutex.acquire();
-            seen = released;
-            mutex.release();
-        });
+    std::thread waits([&] {
+        starts = true;
+        mutex.acquire();
+        seen = released;
+        mutex.release();
+    });
     while (!starts)
         std::this_thread::yield();
     mutex.release();
@@ -77,14 +73,12 @@ TEST(MutexThreads, ManyThreadsThatWaitForOneHolderAllGetIt)
     mutex.acquire();
     std::vector<std::thread> all;
     for (int i = 0; i < 8; ++i)
-        all.emplace_back(
-            [&]
-            {
-                ++starting;
-                mutex.acquire();
-                ++got;
-                mutex.release();
-            });
+        all.emplace_back([&] {
+            ++starting;
+            mutex.acquire();
+            ++got;
+            mutex.release();
+        });
     while (starting != 8)
         std::this_thread::yield();
     mutex.release();
@@ -99,13 +93,11 @@ TEST(MutexThreads, MayBeDestroyedRightAfterAnotherThreadsRelease)
     {
         auto mutex = std::make_unique<mutex_t>();
         bool done = false;
-        std::thread other(
-            [&]
-            {
-                mutex->acquire();
-                done = true;
-                mutex->release();
-            });
+        std::thread other([&] {
+            mutex->acquire();
+            done = true;
+            mutex->release();
+        });
         // Who sees `done` under the mutex knows that the other one needs it no more.
         while (true)
         {
@@ -126,8 +118,7 @@ TEST(MutexThreads, TwoOfThemTakenInTurnsDoNotLoseAWakeUp)
     // Threads that hand a token to each other, always waiting for the other one's release.
     mutex_t mutex;
     int turn = 0;
-    auto const play = [&](int me)
-    {
+    auto const play = [&](int me) {
         for (int rounds = 0; rounds < 2000;)
         {
             mutex.acquire();

@@ -31,8 +31,7 @@ TEST(SignalThreads, TwoThreadsMayMakeTheFirstConnectionAtOnce)
         signals.push_back(std::make_unique<signal_t<>>());
     std::vector<CCounter> first(rounds), second(rounds);
     std::barrier start(2);
-    auto const connect = [&](std::vector<CCounter>& receivers)
-    {
+    auto const connect = [&](std::vector<CCounter>& receivers) {
         for (std::size_t i = 0; i < rounds; ++i)
         {
             start.arrive_and_wait();
@@ -62,8 +61,7 @@ TEST(SignalThreads, OneReceiverMayBeConnectedToItsFirstSignalsByTwoThreadsAtOnce
         second.push_back(std::make_unique<signal_t<>>());
     }
     std::barrier start(2);
-    auto const connect = [&](std::vector<std::unique_ptr<signal_t<>>>& signals)
-    {
+    auto const connect = [&](std::vector<std::unique_ptr<signal_t<>>>& signals) {
         for (std::size_t i = 0; i < rounds; ++i)
         {
             start.arrive_and_wait();
@@ -86,22 +84,20 @@ TEST(SignalThreads, ConnectDisconnectAndEmitFromSeveralThreads)
     signal.connect(&always, &CCounter::Slot);
     std::vector<std::thread> all;
     for (int i = 0; i < threads; ++i)
-        all.emplace_back(
-            [&, i]
+        all.emplace_back([&, i] {
+            CCounter mine, another;
+            for (int round = 0; round < rounds; ++round)
             {
-                CCounter mine, another;
-                for (int round = 0; round < rounds; ++round)
-                {
-                    signal.connect(&mine, &CCounter::Slot);
-                    if (i % 2 == 0)
-                        signal.connect(&another, &CCounter::Slot);
-                    signal();
-                    signal.disconnect(&mine, &CCounter::Slot);
-                    if (i % 2 == 0)
-                        signal.disconnect(&another, &CCounter::Slot);
-                }
-                EXPECT_GE(mine.m_Calls, rounds) << "each emission of this thread reached its own receiver";
-            });
+                signal.connect(&mine, &CCounter::Slot);
+                if (i % 2 == 0)
+                    signal.connect(&another, &CCounter::Slot);
+                signal();
+                signal.disconnect(&mine, &CCounter::Slot);
+                if (i % 2 == 0)
+                    signal.disconnect(&another, &CCounter::Slot);
+            }
+            EXPECT_GE(mine.m_Calls, rounds) << "each emission of this thread reached its own receiver";
+        });
     for (std::thread& thread : all)
         thread.join();
     EXPECT_EQ(always.m_Calls, 6000);
@@ -124,15 +120,12 @@ TEST(SignalThreads, AnEmissionHoldsTheMutexForItsWholeLength)
     std::atomic<bool> connected{false};
     bool tooEarly = false;
     std::thread other;
-    starter.m_Action = [&]
-    {
-        other = std::thread(
-            [&]
-            {
-                tries = true;
-                signal.connect(&late, &CCounter::Slot);
-                connected = true;
-            });
+    starter.m_Action = [&] {
+        other = std::thread([&] {
+            tries = true;
+            signal.connect(&late, &CCounter::Slot);
+            connected = true;
+        });
         while (!tries)
             std::this_thread::yield();
         for (int i = 0; i < 200; ++i)
@@ -153,18 +146,16 @@ TEST(SignalThreads, ASignalConnectedOnAnotherThreadMayBeEmittedAndDestroyedHere)
     // As a background task hands a slot of a lasting object over to the thread that runs it.
     CCounter lasting;
     std::atomic<signal_t<>*> handed{nullptr};
-    std::thread worker(
-        [&]
+    std::thread worker([&] {
+        for (int i = 0; i < 500; ++i)
         {
-            for (int i = 0; i < 500; ++i)
-            {
-                auto signal = std::make_unique<signal_t<>>();
-                signal->connect(&lasting, &CCounter::Slot);
-                while (handed)
-                    std::this_thread::yield();
-                handed = signal.release();
-            }
-        });
+            auto signal = std::make_unique<signal_t<>>();
+            signal->connect(&lasting, &CCounter::Slot);
+            while (handed)
+                std::this_thread::yield();
+            handed = signal.release();
+        }
+    });
     for (int i = 0; i < 500; ++i)
     {
         while (!handed)
@@ -183,16 +174,14 @@ TEST(SignalThreads, ReceiversOfOneSignalMayDieOnTheirThreadsWhileOthersConnect)
     signal_t<> signal;
     std::vector<std::thread> all;
     for (int i = 0; i < 3; ++i)
-        all.emplace_back(
-            [&]
+        all.emplace_back([&] {
+            for (int round = 0; round < 500; ++round)
             {
-                for (int round = 0; round < 500; ++round)
-                {
-                    std::vector<CCounter> mine(30);
-                    for (CCounter& receiver : mine)
-                        signal.connect(&receiver, &CCounter::Slot);
-                }
-            });
+                std::vector<CCounter> mine(30);
+                for (CCounter& receiver : mine)
+                    signal.connect(&receiver, &CCounter::Slot);
+            }
+        });
     for (std::thread& thread : all)
         thread.join();
     EXPECT_EQ(signal.connection_count(), 0u);
