@@ -11,7 +11,8 @@ namespace vexelbase::qt
 {
 
 /// A program on the Qt 6 desktop: makes the application object, unless there is one already, and installs the backend as
-/// the current system. The only one of its kind while it lives; belongs to the thread that runs main.
+/// the current system. Belongs to the thread that runs main. Where there is one already, another stands on the same
+/// application object.
 ///
 /// Windows and controls should go before it. Windows that are left over lose their native side with it; pictures, timers
 /// and palettes may outlive it, but do nothing any more.

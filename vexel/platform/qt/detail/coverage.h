@@ -17,7 +17,7 @@ namespace qt
 /// How much of each pixel a glyph covers, 0 to 255. `bits`: `height` rows of `stride` bytes, 0 behind `width`.
 struct SCoverage
 {
-    static constexpr int StrideStep = 4;  ///< Strides are multiples of it.
+    static constexpr int StrideStep = 8;  ///< Strides are multiples of it, so that groups of pixels can be read whole.
 
     int left = 0;  ///< From the pen position at the run's left-top, in device pixels.
     int top = 0;

@@ -6,6 +6,7 @@
 #include "vexel/platform/qt/detail/qt_device.h"
 #include "vexel/platform/qt/detail/qt_timer.h"
 #include "vexel/platform/qt/detail/qt_window.h"
+#include "vexel/platform/qt/detail/text_engine.h"
 #include "vexel/platform/runner.h"
 #include "vexel/platform/xpm.h"
 
@@ -104,18 +105,16 @@ CQtSystem& CQtSystem::Get()
 
 void CQtSystem::Install()
 {
+    if (m_Installed++ > 0)
+        return;
     qAddPostRoutine(&CQtSystem::ApplicationGoes);
-    ISystem* const before = SetCurrentSystem(this);
-    if (before != this)
-        m_Before = before;
-    m_Installed = true;
+    m_Before = SetCurrentSystem(this);
 }
 
 void CQtSystem::Uninstall()
 {
-    if (!m_Installed)
+    if (m_Installed == 0 || --m_Installed > 0)
         return;
-    m_Installed = false;
     if (GetCurrentSystem() == this)
         SetCurrentSystem(m_Before);
     m_Before = nullptr;
@@ -127,7 +126,10 @@ void CQtSystem::ApplicationGoes()
     CQtWindow::DestroyAll();
     CQtTimer::StopAll();
     CNativeParts::Get().Clear();
-    Get().Uninstall();
+    CTextEngine::Get().Clear();
+    CQtSystem& system = Get();
+    system.m_Installed = std::min(system.m_Installed, 1);
+    system.Uninstall();
 }
 
 font CQtSystem::GetDefaultFont()

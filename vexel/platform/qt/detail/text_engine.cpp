@@ -2,7 +2,6 @@
 
 #include "vexel/platform/convert.h"
 
-#include <QCoreApplication>
 #include <QImage>
 #include <QPainter>
 #include <QTextLayout>
@@ -102,11 +101,7 @@ CTextEngine& CTextEngine::Get()
 {
     // Never destroyed, so that static objects may still paint and measure when the program ends; emptied when the
     // application object goes.
-    static CTextEngine* const engine = []
-    {
-        qAddPostRoutine([] { Get().Clear(); });
-        return new CTextEngine;
-    }();
+    static CTextEngine* const engine = new CTextEngine;
     return *engine;
 }
 
