@@ -71,14 +71,12 @@ private:
     // Called in a signal of the frame.
     void ChangeScale(double factor)
     {
-        m_Window->Post(new CLater(
-            [this, factor]
-            {
-                CFrame::SState const state = m_Frame->GetState();
-                m_Frame.reset();
-                m_App.SetZoom(m_BaseScale * factor);
-                MakeFrame(state);
-            }));
+        m_Window->Post(new CLater([this, factor] {
+            CFrame::SState const state = m_Frame->GetState();
+            m_Frame.reset();
+            m_App.SetZoom(m_BaseScale * factor);
+            MakeFrame(state);
+        }));
     }
 
     vexelbase::qt::CApplication& m_App;
@@ -154,4 +152,7 @@ int Main(int argc, char** argv)
 
 }  // namespace gallery
 
-int main(int argc, char** argv) { return gallery::Main(argc, argv); }
+int main(int argc, char** argv)
+{
+    return gallery::Main(argc, argv);
+}

@@ -23,8 +23,7 @@ SOptions ReadOptions(int argc, char const* const* argv)
     for (int i = 1; i < argc; ++i)
     {
         std::string const argument = argv[i];
-        auto const value = [&]() -> std::string
-        {
+        auto const value = [&]() -> std::string {
             if (i + 1 < argc)
                 return argv[++i];
             options.error = argument + " needs a value";

@@ -18,7 +18,10 @@ namespace gallery
 namespace
 {
 
-template <class Page> std::unique_ptr<CPage> Make() { return std::make_unique<Page>(); }
+template <class Page> std::unique_ptr<CPage> Make()
+{
+    return std::make_unique<Page>();
+}
 
 SPage const g_Pages[] = {
     {"docking", "Docking", "Click a panel to dock it to the next edge; the wheel makes it thicker or thinner.",
@@ -43,7 +46,10 @@ SPage const g_Pages[] = {
 
 }  // namespace
 
-std::span<SPage const> GetPages() { return g_Pages; }
+std::span<SPage const> GetPages()
+{
+    return g_Pages;
+}
 
 int FindPage(std::string const& name)
 {

@@ -21,7 +21,10 @@ CFrame::CFrame(CBaseControl& control, SHooks hooks, SState const& state) : m_Con
 }
 
 // The elements go before the page that they report to.
-CFrame::~CFrame() { m_Control.GetContent()->GetChildren()->Clear(); }
+CFrame::~CFrame()
+{
+    m_Control.GetContent()->GetChildren()->Clear();
+}
 
 CFrame::SState CFrame::GetState() const
 {
@@ -68,7 +71,10 @@ void CFrame::Build(SState const& state)
     m_Area = new CPanel(root, {0, 0}, alClient);
 }
 
-void CFrame::SetPage(int index) { m_List->SetCurrent(index); }
+void CFrame::SetPage(int index)
+{
+    m_List->SetCurrent(index);
+}
 
 void CFrame::BuildPage()
 {
@@ -84,7 +90,10 @@ void CFrame::BuildPage()
     m_Control.Rearrange();
 }
 
-void CFrame::PageChosen(CPageList*, int) { BuildPage(); }
+void CFrame::PageChosen(CPageList*, int)
+{
+    BuildPage();
+}
 
 void CFrame::EnableToggled(CToggle*, bool on)
 {
@@ -93,10 +102,19 @@ void CFrame::EnableToggled(CToggle*, bool on)
 }
 
 // Sizes are scaled when elements are made, so the hook makes the frame anew; later, since this is the switch's signal.
-void CFrame::ScaleToggled(CToggle*, bool on) { m_Hooks.setScale(on ? 2.0 : 1.0); }
+void CFrame::ScaleToggled(CToggle*, bool on)
+{
+    m_Hooks.setScale(on ? 2.0 : 1.0);
+}
 
-void CFrame::RepaintsToggled(CToggle*, bool on) { m_Hooks.setShowRepaints(on); }
+void CFrame::RepaintsToggled(CToggle*, bool on)
+{
+    m_Hooks.setShowRepaints(on);
+}
 
-void CFrame::LineWritten(std::string const& line) { m_Line->SetText(line); }
+void CFrame::LineWritten(std::string const& line)
+{
+    m_Line->SetText(line);
+}
 
 }  // namespace gallery

@@ -18,7 +18,10 @@ template <class Notify> void Join(CVexelControl& control, CSubscriber<Notify>* s
     control.Subscribe(subscriber, typeid(Notify), true);
 }
 
-void Tell(std::string const& line) { CLog::Get().Write("native " + line); }
+void Tell(std::string const& line)
+{
+    CLog::Get().Write("native " + line);
+}
 
 void Tell(char const* name, CMouseEvent const& event)
 {
@@ -39,17 +42,35 @@ CNativeLog::CNativeLog(CVexelControl& control) : m_Control(control)
     Join<ITooltipNotify>(control, this);
 }
 
-void CNativeLog::OnButtonDown(CMouseEvent* event) { Tell("down", *event); }
+void CNativeLog::OnButtonDown(CMouseEvent* event)
+{
+    Tell("down", *event);
+}
 
-void CNativeLog::OnButtonUp(CMouseEvent* event) { Tell("up", *event); }
+void CNativeLog::OnButtonUp(CMouseEvent* event)
+{
+    Tell("up", *event);
+}
 
-void CNativeLog::OnMouseMove(CMouseEvent* event) { Tell("move", *event); }
+void CNativeLog::OnMouseMove(CMouseEvent* event)
+{
+    Tell("move", *event);
+}
 
-void CNativeLog::OnWheel(CMouseWheelEvent* event) { Tell("wheel " + std::to_string(event->m_Delta)); }
+void CNativeLog::OnWheel(CMouseWheelEvent* event)
+{
+    Tell("wheel " + std::to_string(event->m_Delta));
+}
 
-void CNativeLog::OnClick(CMouseEvent* event) { Tell("click", *event); }
+void CNativeLog::OnClick(CMouseEvent* event)
+{
+    Tell("click", *event);
+}
 
-void CNativeLog::OnDoubleClick(CMouseEvent* event) { Tell("double", *event); }
+void CNativeLog::OnDoubleClick(CMouseEvent* event)
+{
+    Tell("double", *event);
+}
 
 void CNativeLog::OnKeyDown(CKeyboardEvent* event)
 {
@@ -75,25 +96,49 @@ void CNativeLog::OnResize(CWindowEvent*)
     }
 }
 
-void CNativeLog::OnMove(CWindowEvent*) { Tell("window moved"); }
+void CNativeLog::OnMove(CWindowEvent*)
+{
+    Tell("window moved");
+}
 
-void CNativeLog::OnDestroy(CWindowEvent*) { Tell("destroy"); }
+void CNativeLog::OnDestroy(CWindowEvent*)
+{
+    Tell("destroy");
+}
 
-void CNativeLog::OnShow(CWindowEvent*) { Tell("show"); }
+void CNativeLog::OnShow(CWindowEvent*)
+{
+    Tell("show");
+}
 
-void CNativeLog::OnHide(CWindowEvent*) { Tell("hide"); }
+void CNativeLog::OnHide(CWindowEvent*)
+{
+    Tell("hide");
+}
 
-void CNativeLog::OnGetFocus(CFocusEvent*) { Tell("focus"); }
+void CNativeLog::OnGetFocus(CFocusEvent*)
+{
+    Tell("focus");
+}
 
-void CNativeLog::OnLostFocus(CFocusEvent*) { Tell("unfocus"); }
+void CNativeLog::OnLostFocus(CFocusEvent*)
+{
+    Tell("unfocus");
+}
 
 void CNativeLog::OnContextMenu(CContextMenuEvent* event)
 {
     Tell("menu " + std::to_string(event->m_X) + " " + std::to_string(event->m_Y));
 }
 
-void CNativeLog::OnTooltip(CTooltipEvent* event) { Tell("tooltip \"" + event->m_Text + "\""); }
+void CNativeLog::OnTooltip(CTooltipEvent* event)
+{
+    Tell("tooltip \"" + event->m_Text + "\"");
+}
 
-void CNativeLog::OnTooltipTrack(CTooltipEvent*) { Tell("tooltip track"); }
+void CNativeLog::OnTooltipTrack(CTooltipEvent*)
+{
+    Tell("tooltip track");
+}
 
 }  // namespace gallery

@@ -94,7 +94,10 @@ bool CPageList::HandleMouseMove(int, int y, int, MouseButton)
     return true;
 }
 
-void CPageList::HandleMouseLeave(CVisualElement*) { SetHot(-1); }
+void CPageList::HandleMouseLeave(CVisualElement*)
+{
+    SetHot(-1);
+}
 
 bool CPageList::HandleKeyDown(int, int key)
 {

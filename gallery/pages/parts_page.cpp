@@ -26,21 +26,18 @@ void AddParts(CGrid* grid)
                                   {"radio on", IPainter::ceRadioChecked},    {"radio off", IPainter::ceRadioUnchecked}};
     for (SPart const& part : parts)
     {
-        new CSample(
-            grid, part.caption,
-            [part](IPainter* p, Rect const& r)
+        new CSample(grid, part.caption, [part](IPainter* p, Rect const& r) {
+            bool const mark = part.element != IPainter::ceHeaderSection && part.element != IPainter::cePushButton;
+            double const width = mark ? 18 * p->GetDPIScale() : (r.right - r.left) / 2 - 2;
+            double const height = 18 * p->GetDPIScale();
+            int const states[] = {0, IPainter::esHot, IPainter::esPressed, IPainter::esDisabled};
+            for (int i = 0; i < 4; ++i)
             {
-                bool const mark = part.element != IPainter::ceHeaderSection && part.element != IPainter::cePushButton;
-                double const width = mark ? 18 * p->GetDPIScale() : (r.right - r.left) / 2 - 2;
-                double const height = 18 * p->GetDPIScale();
-                int const states[] = {0, IPainter::esHot, IPainter::esPressed, IPainter::esDisabled};
-                for (int i = 0; i < 4; ++i)
-                {
-                    double const x = r.left + i % 2 * ToInt(width + 3);
-                    double const y = r.top + i / 2 * ToInt(height + 4);
-                    p->DrawControlElement(part.element, x, y, x + ToInt(width) - 1, y + ToInt(height) - 1, states[i]);
-                }
-            });
+                double const x = r.left + i % 2 * ToInt(width + 3);
+                double const y = r.top + i / 2 * ToInt(height + 4);
+                p->DrawControlElement(part.element, x, y, x + ToInt(width) - 1, y + ToInt(height) - 1, states[i]);
+            }
+        });
     }
 }
 
@@ -48,16 +45,14 @@ void AddBorders(CGrid* grid)
 {
     for (int shape = bsBox; shape <= bsFrame; ++shape)
     {
-        new CSample(grid, "border " + std::to_string(shape),
-                    [shape](IPainter* p, Rect const& r)
-                    {
-                        double const step = ToInt((r.bottom - r.top) / 3);
-                        for (int style = bsFlat; style <= bsSunken; ++style)
-                        {
-                            Rect const box{r.left, r.top + style * step, r.right, r.top + (style + 1) * step - 4};
-                            DrawBorder(p, box, static_cast<BorderShape>(shape), static_cast<BorderStyle>(style), true);
-                        }
-                    });
+        new CSample(grid, "border " + std::to_string(shape), [shape](IPainter* p, Rect const& r) {
+            double const step = ToInt((r.bottom - r.top) / 3);
+            for (int style = bsFlat; style <= bsSunken; ++style)
+            {
+                Rect const box{r.left, r.top + style * step, r.right, r.top + (style + 1) * step - 4};
+                DrawBorder(p, box, static_cast<BorderShape>(shape), static_cast<BorderStyle>(style), true);
+            }
+        });
     }
 }
 

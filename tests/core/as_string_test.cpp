@@ -307,4 +307,4 @@ TEST_F(AsString, TheHandlersAnswerIsTheAnswer)
     EXPECT_EQ(m_System.m_Clipboard, "");
 }
 
-} // namespace
+}  // namespace

@@ -23,10 +23,7 @@ protected:
         m_Log.Clear();
     }
 
-    std::string TakeChain()
-    {
-        return m_Log.Take({"BeforeProcessChange", "ProcessChange", "UpdateElement"});
-    }
+    std::string TakeChain() { return m_Log.Take({"BeforeProcessChange", "ProcessChange", "UpdateElement"}); }
 
     CScriptedSystem m_System;
     CCallLog m_Log;
@@ -364,4 +361,4 @@ TEST_F(ChangeChain, AGlobalUpdateSurvivesAChildThatLeavesDuringIt)
     EXPECT_EQ(m_Log.Take({"UpdateElement"}).find("aunt.UpdateElement()"), std::string::npos);
 }
 
-} // namespace
+}  // namespace

@@ -235,4 +235,4 @@ TEST(ChildrenOfAnElement, BehaveLikeAVectorWhateverIsDone)
     }));
 }
 
-} // namespace
+}  // namespace

@@ -354,4 +354,4 @@ TEST_F(DisplayableRect, TouchingTheEdgeOfAnAncestorIsNothing)
     EXPECT_FALSE(m_Leaf.GetDisplayableRect(&rect));
 }
 
-} // namespace
+}  // namespace

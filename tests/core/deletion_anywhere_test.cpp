@@ -122,12 +122,20 @@ enum class Misdeed
     throwError
 };
 
-constexpr Misdeed all_misdeeds[] = {
-    Misdeed::deleteSelf,        Misdeed::deleteParent,  Misdeed::deleteSibling,
-    Misdeed::deleteChildren,    Misdeed::deleteRoot,    Misdeed::deleteFocused,
-    Misdeed::deleteControl,     Misdeed::deleteWindow,  Misdeed::deleteControlThenWindow,
-    Misdeed::deleteWindowThenControl, Misdeed::detachSelf, Misdeed::hideParent,
-    Misdeed::throwCancel,       Misdeed::throwError};
+constexpr Misdeed all_misdeeds[] = {Misdeed::deleteSelf,
+                                    Misdeed::deleteParent,
+                                    Misdeed::deleteSibling,
+                                    Misdeed::deleteChildren,
+                                    Misdeed::deleteRoot,
+                                    Misdeed::deleteFocused,
+                                    Misdeed::deleteControl,
+                                    Misdeed::deleteWindow,
+                                    Misdeed::deleteControlThenWindow,
+                                    Misdeed::deleteWindowThenControl,
+                                    Misdeed::detachSelf,
+                                    Misdeed::hideParent,
+                                    Misdeed::throwCancel,
+                                    Misdeed::throwError};
 
 // A window with a control and this tree, and a scenario played on it:
 //   root > panel (docked) > left (focusable, dragged), middle > inner (focusable), right; delegate below middle
@@ -177,7 +185,8 @@ public:
         {
             EXPECT_FALSE(m_Control->GetControl()->IsTabKeyProcessing());
             m_Window->Resize({90, 50});
-            while (m_Window->RunFrame()) {}
+            while (m_Window->RunFrame())
+            {}
             EXPECT_FALSE(m_Window->GetPainter()->m_Painting);
             EXPECT_FALSE(m_Window->GetPainter()->m_DisabledMode);
             EXPECT_EQ(m_Control->GetContent()->GetPos(), (rectangle<int>{0, 0, 89, 49}));
@@ -198,11 +207,9 @@ public:
             step();
         }
         catch (vexel::cancel_processing const&)
-        {
-        }
+        {}
         catch (std::runtime_error const&)
-        {
-        }
+        {}
     }
     bool Has(CActor* actor) const { return m_Alive.count(actor) != 0; }
 
@@ -486,12 +493,30 @@ protected:
     }
 };
 
-TEST_P(DeletionAnywhere, EndsAMouseChain) { PlayWithEach(&UseMouse); }
-TEST_P(DeletionAnywhere, EndsAKeyOrFocusChain) { PlayWithEach(&UseKeyboard); }
-TEST_P(DeletionAnywhere, EndsADrag) { PlayWithEach(&DragAndDrop); }
-TEST_P(DeletionAnywhere, EndsALayoutOrPaint) { PlayWithEach(&LayOutAndPaint); }
-TEST_P(DeletionAnywhere, EndsAChangeOfTheTree) { PlayWithEach(&ChangeTree); }
-TEST_P(DeletionAnywhere, EndsAnExchangeOfTheRoot) { PlayWithEach(&ExchangeRoot); }
+TEST_P(DeletionAnywhere, EndsAMouseChain)
+{
+    PlayWithEach(&UseMouse);
+}
+TEST_P(DeletionAnywhere, EndsAKeyOrFocusChain)
+{
+    PlayWithEach(&UseKeyboard);
+}
+TEST_P(DeletionAnywhere, EndsADrag)
+{
+    PlayWithEach(&DragAndDrop);
+}
+TEST_P(DeletionAnywhere, EndsALayoutOrPaint)
+{
+    PlayWithEach(&LayOutAndPaint);
+}
+TEST_P(DeletionAnywhere, EndsAChangeOfTheTree)
+{
+    PlayWithEach(&ChangeTree);
+}
+TEST_P(DeletionAnywhere, EndsAnExchangeOfTheRoot)
+{
+    PlayWithEach(&ExchangeRoot);
+}
 
 std::string MisdeedName(testing::TestParamInfo<Misdeed> const& info)
 {
@@ -504,4 +529,4 @@ std::string MisdeedName(testing::TestParamInfo<Misdeed> const& info)
 
 INSTANTIATE_TEST_SUITE_P(All, DeletionAnywhere, testing::ValuesIn(all_misdeeds), MisdeedName);
 
-} // namespace
+}  // namespace

@@ -109,7 +109,7 @@ protected:
     CTile& m_Target = *new CTile(m_Host.Root(), {0, 0}, alClient);
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(DragDrop, AMoveOfExactlyTheSensitivityIsNoDragOnePixelMoreIs)
 {

@@ -384,4 +384,4 @@ TEST(ElementConstruction, AChildTakesTheFontOfItsParent)
     EXPECT_EQ(child.GetOwnFont(), value);
 }
 
-} // namespace
+}  // namespace

@@ -27,7 +27,7 @@ protected:
         for (int i = 0; i < m_List.GetCount(); ++i)
         {
             CVisualElement* const e = m_List.GetItem(i);
-            char const* const name = !e              ? "-"
+            char const* const name = !e               ? "-"
                                      : e == &m_Root   ? "root"
                                      : e == &m_Middle ? "middle"
                                      : e == &m_Leaf   ? "leaf"
@@ -389,4 +389,4 @@ TEST(ElementListModel, BehavesLikeAPlainVectorWhateverIsDone)
     }));
 }
 
-} // namespace
+}  // namespace

@@ -196,4 +196,4 @@ TEST_F(ElementSize, LeavingTheDockRunsTheRearrangeChainToo)
     EXPECT_EQ(TakeChain(), s_Chain);
 }
 
-} // namespace
+}  // namespace

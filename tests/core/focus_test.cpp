@@ -33,7 +33,7 @@ protected:
     CHearing& m_Two = *new CHearing(m_Log, "two", &m_Box, {20, 0}, alLeft);
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(Focus, TakingItTellsTheElementAndThenAllAbove)
 {
@@ -52,11 +52,10 @@ TEST_F(Focus, MovingItTellsTheOldOneFirst)
 
     m_Two.SetFocus(true);
 
-    EXPECT_EQ(m_Log.Text(),
-              "one.lost() one:LostFocus(two) one.childlost(one) one:ChildFocus(one, two, false) "
-              "box.childlost(one, box) box:ChildFocus(one, two, false) "
-              "two.get() two:GetFocus(one, true) two.childget(two) two:ChildFocus(two, one, true) "
-              "box.childget(two, box) box:ChildFocus(two, one, true)");
+    EXPECT_EQ(m_Log.Text(), "one.lost() one:LostFocus(two) one.childlost(one) one:ChildFocus(one, two, false) "
+                            "box.childlost(one, box) box:ChildFocus(one, two, false) "
+                            "two.get() two:GetFocus(one, true) two.childget(two) two:ChildFocus(two, one, true) "
+                            "box.childget(two, box) box:ChildFocus(two, one, true)");
 }
 
 TEST_F(Focus, BothTheOldAndTheNewOneAreRepainted)

@@ -399,4 +399,4 @@ TEST_F(Colours, BackgroundAndForegroundAreIndependent)
     EXPECT_EQ(m_Element.GetBkColor(), _color(0xFF112233));
 }
 
-} // namespace
+}  // namespace

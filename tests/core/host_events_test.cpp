@@ -161,65 +161,71 @@ protected:
 
 TEST_F(HostEvents, AButtonDownGoesToTheTreeThenToTheSubscribers)
 {
-    CheckFrame<CMouseEvent>(&CVexelControl::OnButtonDown, [] { return CMouseEvent(20, 5, 1, mbLeft); },
-                            "HandleButtonDown(10, 5)", "OnButtonDown");
+    CheckFrame<CMouseEvent>(
+        &CVexelControl::OnButtonDown, [] { return CMouseEvent(20, 5, 1, mbLeft); }, "HandleButtonDown(10, 5)",
+        "OnButtonDown");
 }
 
 TEST_F(HostEvents, AButtonUpGoesToTheTreeThenToTheSubscribers)
 {
-    CheckFrame<CMouseEvent>(&CVexelControl::OnButtonUp, [] { return CMouseEvent(20, 5, 0, mbLeft); },
-                            "HandleButtonUp(10, 5)", "OnButtonUp");
+    CheckFrame<CMouseEvent>(
+        &CVexelControl::OnButtonUp, [] { return CMouseEvent(20, 5, 0, mbLeft); }, "HandleButtonUp(10, 5)",
+        "OnButtonUp");
 }
 
 TEST_F(HostEvents, AMouseMoveGoesToTheTreeThenToTheSubscribers)
 {
-    CheckFrame<CMouseEvent>(&CVexelControl::OnMouseMove, [] { return CMouseEvent(20, 5, 0, mbNone); },
-                            "HandleMouseMove(10, 5)", "OnMouseMove");
+    CheckFrame<CMouseEvent>(
+        &CVexelControl::OnMouseMove, [] { return CMouseEvent(20, 5, 0, mbNone); }, "HandleMouseMove(10, 5)",
+        "OnMouseMove");
 }
 
 TEST_F(HostEvents, ADoubleClickGoesToTheTreeThenToTheSubscribers)
 {
-    CheckFrame<CMouseEvent>(&CVexelControl::OnDoubleClick, [] { return CMouseEvent(20, 5, 1, mbLeft); },
-                            "HandleDoubleClick(10, 5)", "OnDoubleClick");
+    CheckFrame<CMouseEvent>(
+        &CVexelControl::OnDoubleClick, [] { return CMouseEvent(20, 5, 1, mbLeft); }, "HandleDoubleClick(10, 5)",
+        "OnDoubleClick");
 }
 
 TEST_F(HostEvents, ATooltipTrackGoesToTheTreeThenToTheSubscribers)
 {
-    CheckFrame<CTooltipEvent>(&CVexelControl::OnTooltipTrack,
-                              [] {
-                                  CTooltipEvent event;
-                                  event.m_X = 20;
-                                  event.m_Y = 5;
-                                  return event;
-                              },
-                              "HandleOnTooltipTrack(10, 5)", "OnTooltipTrack");
+    CheckFrame<CTooltipEvent>(
+        &CVexelControl::OnTooltipTrack,
+        [] {
+            CTooltipEvent event;
+            event.m_X = 20;
+            event.m_Y = 5;
+            return event;
+        },
+        "HandleOnTooltipTrack(10, 5)", "OnTooltipTrack");
 }
 
 TEST_F(HostEvents, AContextMenuGoesToTheTreeThenToTheSubscribers)
 {
-    CheckFrame<CContextMenuEvent>(&CVexelControl::OnContextMenu, [] { return CContextMenuEvent(20, 5); },
-                                  "HandleContextMenu(10, 5)", "OnContextMenu");
+    CheckFrame<CContextMenuEvent>(
+        &CVexelControl::OnContextMenu, [] { return CContextMenuEvent(20, 5); }, "HandleContextMenu(10, 5)",
+        "OnContextMenu");
 }
 
 TEST_F(HostEvents, AKeyDownGoesToTheTreeThenToTheSubscribers)
 {
     m_Child.SetFocus(false);
-    CheckFrame<CKeyboardEvent>(&CVexelControl::OnKeyDown, [] { return CKeyboardEvent(0, 65); }, "HandleKeyDown(0, 65)",
-                               "OnKeyDown");
+    CheckFrame<CKeyboardEvent>(
+        &CVexelControl::OnKeyDown, [] { return CKeyboardEvent(0, 65); }, "HandleKeyDown(0, 65)", "OnKeyDown");
 }
 
 TEST_F(HostEvents, AKeyUpGoesToTheTreeThenToTheSubscribers)
 {
     m_Child.SetFocus(false);
-    CheckFrame<CKeyboardEvent>(&CVexelControl::OnKeyUp, [] { return CKeyboardEvent(0, 65); }, "HandleKeyUp(0, 65)",
-                               "OnKeyUp");
+    CheckFrame<CKeyboardEvent>(
+        &CVexelControl::OnKeyUp, [] { return CKeyboardEvent(0, 65); }, "HandleKeyUp(0, 65)", "OnKeyUp");
 }
 
 TEST_F(HostEvents, ACharacterGoesToTheTreeThenToTheSubscribers)
 {
     m_Child.SetFocus(false);
-    CheckFrame<CKeyboardEvent>(&CVexelControl::OnChar, [] { return CKeyboardEvent(0, 65, 'a'); }, "HandleChar(a)",
-                               "OnChar");
+    CheckFrame<CKeyboardEvent>(
+        &CVexelControl::OnChar, [] { return CKeyboardEvent(0, 65, 'a'); }, "HandleChar(a)", "OnChar");
 }
 
 TEST_F(HostEvents, TheWheelGoesToTheTreeThenToTheSubscribers)
@@ -594,4 +600,4 @@ TEST_F(HostEvents, EventsThatTheControlLeavesAloneReachTheSubscribers)
     EXPECT_EQ(m_Log.Take(), "listener.OnMove() listener.OnShow() listener.OnHide() listener.OnClick()");
 }
 
-} // namespace
+}  // namespace

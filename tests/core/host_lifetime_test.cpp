@@ -13,8 +13,7 @@ namespace
 {
 
 class HostLifetime : public testing::Test, protected CHostBench
-{
-};
+{};
 
 // Without a window ---------------------------------------------------------------------------------------------------------------
 
@@ -202,12 +201,12 @@ TEST_F(HostLifetime, TheEndOfTheWindowIsToldToSubscribersSignalTreeAndHostInThis
 
     m_Control->OnDestroy(&event);
 
-    EXPECT_EQ(m_Log.Take({"OnDestroy", "SigDestroyed", "SigControlDestroy", "HandleControlDestroy",
-                          "SigWindowDestroyed"}),
-              "listener.OnDestroy() control.SigDestroyed() "
-              "root.SigControlDestroy() root.HandleControlDestroy() "
-              "child.SigControlDestroy() child.HandleControlDestroy() leaf.HandleControlDestroy() "
-              "second.HandleControlDestroy() host.SigWindowDestroyed()");
+    EXPECT_EQ(
+        m_Log.Take({"OnDestroy", "SigDestroyed", "SigControlDestroy", "HandleControlDestroy", "SigWindowDestroyed"}),
+        "listener.OnDestroy() control.SigDestroyed() "
+        "root.SigControlDestroy() root.HandleControlDestroy() "
+        "child.SigControlDestroy() child.HandleControlDestroy() leaf.HandleControlDestroy() "
+        "second.HandleControlDestroy() host.SigWindowDestroyed()");
 }
 
 TEST_F(HostLifetime, TheTreeLivesOnAfterTheEndOfTheWindow)
@@ -303,8 +302,8 @@ TEST_F(HostLifetime, TheControlForgetsItsWindowsEventsWhenItDies)
 TEST_F(HostLifetime, AControlMayBeDeletedByASlotOfItsTree)
 {
     Paint();
-    auto const slot = Listen(m_Root->m_SigButtonDown,
-                             [&](CVisualElement*, int, int, int, MouseButton) { m_Control.reset(); });
+    auto const slot =
+        Listen(m_Root->m_SigButtonDown, [&](CVisualElement*, int, int, int, MouseButton) { m_Control.reset(); });
     CMouseEvent press(5, 5, 1, mbLeft);
     CBaseControl* const control = m_Control.get();
 
@@ -335,7 +334,8 @@ TEST_F(HostLifetime, EventsDuringTheEndOfTheControlReachNobody)
 
     m_Control.reset();
 
-    EXPECT_EQ(m_Log.Take({"HandleMouseMove", "HandleKeyDown", "HandleControlChangeFocus", "SetPos", "DrawContent"}), "");
+    EXPECT_EQ(m_Log.Take({"HandleMouseMove", "HandleKeyDown", "HandleControlChangeFocus", "SetPos", "DrawContent"}),
+              "");
 }
 
-} // namespace
+}  // namespace

@@ -331,11 +331,10 @@ TEST_F(HostRearrange, ForcingInTheAfterSignalServesTheListOfWhatIsAskedForMeanwh
 
     Host().ForceRearrange();
 
-    EXPECT_EQ(TakeLayout(),
-              "host.before() left.SetPos(0 0 30 49, true) leaf.SetPos(0 0 30 20, true) "
-              "other.SetPos(0 21 30 31, true) host.after() "
-              "host.before() left.SetPos(0 0 30 49, true) leaf.SetPos(0 0 30 21, true) "
-              "other.SetPos(0 22 30 47, true) host.after()");
+    EXPECT_EQ(TakeLayout(), "host.before() left.SetPos(0 0 30 49, true) leaf.SetPos(0 0 30 20, true) "
+                            "other.SetPos(0 21 30 31, true) host.after() "
+                            "host.before() left.SetPos(0 0 30 49, true) leaf.SetPos(0 0 30 21, true) "
+                            "other.SetPos(0 22 30 47, true) host.after()");
 }
 
 TEST_F(HostRearrange, ARequestInTheAfterSignalWaitsForTheNextLayout)
@@ -652,8 +651,7 @@ TEST_F(HostRearrange, ProcessResizeInPartLaysOutWithoutForceAndInvalidates)
 // The first paint -----------------------------------------------------------------------------------------------------------------
 
 class FirstPaint : public testing::Test, protected CHostBench
-{
-};
+{};
 
 TEST_F(FirstPaint, LaysEverythingOutByForceWhateverWaits)
 {
@@ -693,4 +691,4 @@ TEST_F(FirstPaint, ComesOnceOnly)
     EXPECT_EQ(child.GetPos(), (rectangle<int>{0, 0, 40, 49}));
 }
 
-} // namespace
+}  // namespace

@@ -13,8 +13,7 @@ namespace
 {
 
 class HostState : public testing::Test, protected CHostBench
-{
-};
+{};
 
 // As it comes ----------------------------------------------------------------------------------------------------------------
 
@@ -454,8 +453,7 @@ TEST_F(HostCopy, ASlotThatDeletesAnAskedElementDoesNoHarm)
         EXPECT_FALSE(m_Control->CopyToClipboard());
     }
     catch (vexel::cancel_processing const&)
-    {
-    }
+    {}
 
     EXPECT_EQ(Host().GetFocusedElement(), nullptr);
     EXPECT_EQ(m_Root->GetChildren()->GetCount(), 1);
@@ -482,8 +480,7 @@ TEST_F(HostCopy, TheShortcutCopiesAndGoesNoFurther)
 
     m_Control->OnKeyDown(&event);
 
-    EXPECT_EQ(m_Log.Take(),
-              "root.HandleCopyToClipboard() middle.HandleCopyToClipboard() leaf.HandleCopyToClipboard()");
+    EXPECT_EQ(m_Log.Take(), "root.HandleCopyToClipboard() middle.HandleCopyToClipboard() leaf.HandleCopyToClipboard()");
 }
 
 TEST_F(HostCopy, TheShortcutIsAnOrdinaryKeyWhenNothingCouldBeCopied)
@@ -514,4 +511,4 @@ TEST_F(HostCopy, OnlyControlAloneWithCIsTheShortcut)
     }
 }
 
-} // namespace
+}  // namespace

@@ -389,7 +389,10 @@ protected:
         Paint();
     }
 
-    CMouseEvent At(int x, int y, MouseButton button = mbNone) { return CMouseEvent(x, y, button == mbLeft ? 1 : 0, button); }
+    CMouseEvent At(int x, int y, MouseButton button = mbNone)
+    {
+        return CMouseEvent(x, y, button == mbLeft ? 1 : 0, button);
+    }
 
     CRecordingElement* m_Extra;
 };
@@ -538,4 +541,4 @@ TEST_F(HostForget, AnElementThatMovesWithinItsTreeIsRemembered)
     EXPECT_EQ(Host().GetCapture(), m_Extra);
 }
 
-} // namespace
+}  // namespace

@@ -54,7 +54,7 @@ protected:
     CFill& m_Ground = *new CFill(m_Host.Root(), {0, 0}, alClient, g_White);
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(IncrementalException, TheLowerOfOverlappingSiblingsCoversTheUpperOne)
 {

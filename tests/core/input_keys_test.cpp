@@ -35,7 +35,7 @@ protected:
     CHearing& m_Other = *new CHearing(m_Log, "other", &m_Box, {30, 0}, alLeft);
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(KeyInput, AKeyBubblesFromTheFocusedElementToTheRoot)
 {

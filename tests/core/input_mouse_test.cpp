@@ -32,7 +32,7 @@ protected:
     CHearing& m_Inner = *new CHearing(m_Log, "inner", &m_Box, {30, 0}, alLeft);
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(MouseInput, APressAndAReleaseOnOneElementAreDownClickUpDeepestFirst)
 {
@@ -313,7 +313,7 @@ protected:
     CHearing& m_Inner = *new CHearing(m_Log, "inner", &m_Box, {30, 0}, alLeft);
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(PointerInput, AMoveOntoAnElementIsHoveringAndThenTheMoveDeepestFirst)
 {

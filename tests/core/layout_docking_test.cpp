@@ -298,4 +298,4 @@ TEST_F(Docking, GrandchildrenAreLaidOutInTheirParents)
     EXPECT_EQ(inner.GetPos(), (rectangle<int>{0, 40, 20, 50}));
 }
 
-} // namespace
+}  // namespace

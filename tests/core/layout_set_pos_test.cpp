@@ -509,4 +509,4 @@ TEST_F(SetPos, TheValidRectangleIsTakenInTheParentsPixelsAndGivenInItsOwn)
     EXPECT_EQ(m_Box.GetBounds(), (rectangle<int>{0, 0, 40, 20}));
 }
 
-} // namespace
+}  // namespace

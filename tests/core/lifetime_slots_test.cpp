@@ -32,8 +32,7 @@ protected:
             operation();
         }
         catch (vexel::cancel_processing const&)
-        {
-        }
+        {}
     }
 
     // Deletes an element once, whatever calls it how often.
@@ -501,4 +500,4 @@ TEST_F(LifetimeInSlots, ALayoutMayBringAnotherContent)
     CheckTree(0);
 }
 
-} // namespace
+}  // namespace

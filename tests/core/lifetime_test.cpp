@@ -25,9 +25,8 @@ protected:
 
     auto NoteDestroy(CVisualElement& element)
     {
-        return Listen(element.m_SigDestroy, [this](CVisualElement* dying) {
-            m_Log.Add(m_Log.NameOf(dying), "SigDestroy");
-        });
+        return Listen(element.m_SigDestroy,
+                      [this](CVisualElement* dying) { m_Log.Add(m_Log.NameOf(dying), "SigDestroy"); });
     }
 
     CScriptedSystem m_System;
@@ -300,15 +299,14 @@ TEST_F(Lifetime, AMemberOfADeletedElementLeavesItsListInTime)
     public:
         explicit CHolder(CVisualElement* parent)
             : CVisualElement(parent, {0, 0}, alNone), m_First(this, {0, 0}, alNone), m_Second(this, {0, 0}, alNone)
-        {
-        }
+        {}
         CVisualElement m_First;
         CVisualElement m_Second;
     };
     auto* const holder = new CHolder(&m_Root);
     int left = -1;
-    auto const slot = Listen(holder->m_SigDestroy,
-                             [&](CVisualElement* dying) { left = dying->GetChildren()->GetCount(); });
+    auto const slot =
+        Listen(holder->m_SigDestroy, [&](CVisualElement* dying) { left = dying->GetChildren()->GetCount(); });
 
     m_Root.GetChildren()->Clear();
 
@@ -379,4 +377,4 @@ TEST(LifetimeOfMany, AHundredThousandSiblingsMayDieFromTheLastToTheFirst)
     EXPECT_EQ(parent.GetChildren()->GetCount(), 0);
 }
 
-} // namespace
+}  // namespace

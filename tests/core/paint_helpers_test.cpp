@@ -79,7 +79,8 @@ namespace
 class ClipHolder : public testing::Test
 {
 protected:
-    ClipHolder() : m_Picture(CTestHost::System().CreateRasterPicture(size<int>{20, 10})), m_Painter(*m_Picture->GetPainter())
+    ClipHolder()
+        : m_Picture(CTestHost::System().CreateRasterPicture(size<int>{20, 10})), m_Painter(*m_Picture->GetPainter())
     {
         m_Painter.BeginPaint(IPainter::ssPaint);
     }
@@ -89,7 +90,7 @@ protected:
     IPainter& m_Painter;
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(ClipHolder, OnAPainterWithoutAClipSetsItAndLeavesNone)
 {
@@ -248,7 +249,7 @@ protected:
     CVisualElement& m_Box = *new CVisualElement(m_Host.Root(), {40, 0}, alLeft);
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(Background, ThePartUnderAnElementIsToldAndTheRectangleNarrowedToIt)
 {

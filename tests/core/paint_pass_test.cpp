@@ -52,7 +52,7 @@ protected:
     CBox& m_C = *new CBox(m_Host.Root(), {0, 0}, alClient, "c");
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(PaintPass, TheFirstOnePaintsTheWholeTreeWhateverWaits)
 {

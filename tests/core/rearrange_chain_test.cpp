@@ -193,4 +193,4 @@ TEST_F(RearrangeChain, RefreshPosSurvivesAChildThatLeavesDuringIt)
                                                 "child.HandleRefreshPos()");
 }
 
-} // namespace
+}  // namespace

@@ -71,7 +71,7 @@ protected:
     CMenu m_Menu;
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(Tips, AnElementsTextIsShownOverItsRectangle)
 {

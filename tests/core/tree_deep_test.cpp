@@ -65,8 +65,8 @@ CVisualElement* Nest(CVisualElement*& innermost)
     CVisualElement* outermost = innermost;
     for (int i = 1; i < levels; ++i)
     {
-        CVisualElement* const around = i % 50 == 0 ? new CWall(nullptr, {0, 0}, alClient)
-                                                   : new CVisualElement(nullptr, {0, 0}, alClient);
+        CVisualElement* const around =
+            i % 50 == 0 ? new CWall(nullptr, {0, 0}, alClient) : new CVisualElement(nullptr, {0, 0}, alClient);
         outermost->ReParent(around, false);
         outermost = around;
     }
@@ -131,4 +131,4 @@ TEST(DeepTree, IsShownHiddenUpdatedSearchedAndReadAloud)
     });
 }
 
-} // namespace
+}  // namespace

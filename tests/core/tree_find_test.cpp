@@ -217,4 +217,4 @@ TEST_F(FindById, AmongVisibleOnesNothingIsFoundUnderAHiddenRoot)
     EXPECT_EQ(m_Root.FindVisualElement(3ul, false), &m_BelowSecond);
 }
 
-} // namespace
+}  // namespace

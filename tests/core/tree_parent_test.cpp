@@ -59,8 +59,8 @@ TEST_F(TreeParent, WithinOneControlTheOldParentLaysOutThenTheNewOneIsToldAndLays
 {
     m_Child.ReParent(&m_Next, true);
 
-    EXPECT_EQ(m_Log.Take(), std::string(s_OldChain) + " next.AddNewChild(child) " + s_NewChain +
-                                " child.ChangeParent(old)");
+    EXPECT_EQ(m_Log.Take(),
+              std::string(s_OldChain) + " next.AddNewChild(child) " + s_NewChain + " child.ChangeParent(old)");
     EXPECT_EQ(m_Child.GetParent(), &m_Next);
     EXPECT_EQ(m_Old.GetChildren()->GetCount(), 0);
     ASSERT_EQ(m_Next.GetChildren()->GetCount(), 1);
@@ -154,8 +154,8 @@ TEST_F(TreeParent, ANewParentBringsItsControl)
 
     EXPECT_EQ(loose.GetControl(), &m_Control);
     EXPECT_EQ(inner.GetControl(), &m_Control);
-    EXPECT_EQ(m_Log.Take({"ProcessSetControl", "AttributeChanged", "AfterSetControl", "AddNewChild",
-                          "RearrangeElement", "ChangeParent"}),
+    EXPECT_EQ(m_Log.Take({"ProcessSetControl", "AttributeChanged", "AfterSetControl", "AddNewChild", "RearrangeElement",
+                          "ChangeParent"}),
               "loose.ProcessSetControl(control) inner.ProcessSetControl(control) "
               "inner.AttributeChanged() inner.AfterSetControl() loose.AttributeChanged() loose.AfterSetControl() "
               "next.AddNewChild(loose) control.RearrangeElement(loose) loose.ChangeParent(null)");
@@ -368,4 +368,4 @@ TEST_F(TreeParent, FocusNeedsTheWishAVisibleBranchAnEnabledElementAndAControl)
     EXPECT_FALSE(CanHaveFocus(&m_Child));
 }
 
-} // namespace
+}  // namespace

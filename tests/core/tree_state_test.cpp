@@ -291,4 +291,4 @@ TEST_F(TreeState, ScrollingSurvivesAChildThatLeavesDuringIt)
                                              "leaf.ScrollContent(1, 2)");
 }
 
-} // namespace
+}  // namespace

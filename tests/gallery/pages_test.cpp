@@ -219,8 +219,7 @@ TEST(GalleryOptions, AreReadFromTheCommandLine)
 
 TEST(GalleryOptions, SayWhatIsWrongWithThem)
 {
-    auto const error = [](std::vector<char const*> words)
-    {
+    auto const error = [](std::vector<char const*> words) {
         words.insert(words.begin(), "vexel-gallery");
         return ReadOptions(static_cast<int>(words.size()), words.data()).error;
     };

@@ -237,8 +237,7 @@ TEST_F(CBaseWindowTest, PaintsAtOnceOnUpdateNow)
 
 TEST_F(CBaseWindowTest, DoesNotPaintWithinAPaint)
 {
-    m_Control.m_Draw = [this](IPainter*)
-    {
+    m_Control.m_Draw = [this](IPainter*) {
         m_Control.m_Log += "[";
         m_Window->UpdateNow();
         m_Window->PaintFrame();
@@ -387,8 +386,7 @@ TEST_F(CBaseWindowTest, KeepsAFrameThatComesWhileDrawingIsLocked)
 
 TEST_F(CBaseWindowTest, PresentsAfterUnlockingWhatAPaintLocked)
 {
-    m_Control.m_Draw = [this](IPainter* painter)
-    {
+    m_Control.m_Draw = [this](IPainter* painter) {
         Fill(painter, Red, 0, 0, 0, 0);
         m_Window->LockDrawing(true);
     };
@@ -411,8 +409,7 @@ TEST_F(CBaseWindowTest, TakesNoNoticeOfAnUnlockTooMany)
 
 TEST_F(CBaseWindowTest, RepeatsAPaintThatAnExceptionEndedOnceAndInFull)
 {
-    m_Control.m_Draw = [](IPainter* painter)
-    {
+    m_Control.m_Draw = [](IPainter* painter) {
         painter->BeginPaint(IPainter::ssMeasure);
         throw vexel::cancel_processing();
     };
@@ -448,8 +445,7 @@ TEST_F(CBaseWindowTest, ReportsExceptionsButNotCancellations)
 
 TEST_F(CBaseWindowTest, MayBeDeletedByItsOwnPaint)
 {
-    m_Control.m_Draw = [this](IPainter*)
-    {
+    m_Control.m_Draw = [this](IPainter*) {
         m_Window.reset();
         throw vexel::cancel_processing();
     };
@@ -462,8 +458,7 @@ TEST_F(CBaseWindowTest, MayBeDeletedByItsOwnPaint)
 TEST_F(CBaseWindowTest, OutlivesAControlThatItsPaintDeletes)
 {
     auto* const control = new CDrawn(m_Window.get());
-    control->m_Draw = [&](IPainter*)
-    {
+    control->m_Draw = [&](IPainter*) {
         std::unique_ptr<CDrawn> const death(control);
         throw vexel::cancel_processing();
     };
@@ -485,8 +480,7 @@ TEST_F(CBaseWindowTest, TellsTheControlOnceThatItGoesAndIsForgotten)
 
 TEST_F(CBaseWindowTest, AsksForNothingWhileItGoes)
 {
-    m_Control.m_Destroyed = [this]
-    {
+    m_Control.m_Destroyed = [this] {
         m_Window->InvalidateRect(0, 0, 1, 1);
         m_Window->UpdateNow();
         m_Window->LockDrawing(true);
@@ -533,12 +527,10 @@ TEST_F(CBaseWindowTest, RunsItsQueueInOrderAndDeletesWhatRan)
 TEST_F(CBaseWindowTest, LeavesWhatIsPostedByARunnableToTheNextRun)
 {
     m_Log.clear();
-    Post(
-        [this]
-        {
-            m_Log += "a";
-            Post(Note("c"));
-        });
+    Post([this] {
+        m_Log += "a";
+        Post(Note("c"));
+    });
     Post(Note("b"));
     m_Window->RunQueue();
     EXPECT_EQ(m_Log, "ab");
@@ -550,14 +542,12 @@ TEST_F(CBaseWindowTest, LeavesWhatIsPostedByARunnableToTheNextRun)
 TEST_F(CBaseWindowTest, KeepsTheOrderWhenARunnableRunsTheQueue)
 {
     m_Log.clear();
-    Post(
-        [this]
-        {
-            m_Log += "a";
-            Post(Note("d"));
-            m_Window->RunQueue();
-            m_Log += "!";
-        });
+    Post([this] {
+        m_Log += "a";
+        Post(Note("d"));
+        m_Window->RunQueue();
+        m_Log += "!";
+    });
     Post(Note("b"));
     Post(Note("c"));
     m_Window->RunQueue();
@@ -591,8 +581,7 @@ TEST_F(CBaseWindowTest, DeletesUnrunWhatIsLeftWhenItGoes)
 {
     m_Log.clear();
     Post(Note("a"));
-    m_Control.m_Destroyed = [this]
-    {
+    m_Control.m_Destroyed = [this] {
         Post(Note("b"));
         EXPECT_EQ(m_Alive, 0);
     };
@@ -630,12 +619,10 @@ TEST_F(CBaseWindowTest, TakesPostsFromOtherThreads)
     std::vector<std::thread> threads;
     for (int i = 0; i < 4; ++i)
     {
-        threads.emplace_back(
-            [this]
-            {
-                for (int j = 0; j < 100; ++j)
-                    m_Window->Post(new CDot(m_Log));
-            });
+        threads.emplace_back([this] {
+            for (int j = 0; j < 100; ++j)
+                m_Window->Post(new CDot(m_Log));
+        });
     }
     for (std::thread& thread : threads)
         thread.join();

@@ -200,7 +200,10 @@ TEST_F(HtmlText, WhatIsNoEntityStandsForItself)
     EXPECT_EQ(Drawn("&&amp;"), "&&@0,0");
 }
 
-TEST_F(HtmlText, AnEntityIsOneCharacterWide) { EXPECT_EQ(Draw({0, 0, 1000, 90}, "&lt;&#x1F600;x"), (Size{24, 8})); }
+TEST_F(HtmlText, AnEntityIsOneCharacterWide)
+{
+    EXPECT_EQ(Draw({0, 0, 1000, 90}, "&lt;&#x1F600;x"), (Size{24, 8}));
+}
 
 TEST_F(HtmlText, AHardBlankIsNoPlaceToWrap)
 {

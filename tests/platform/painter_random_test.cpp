@@ -264,8 +264,7 @@ RC_GTEST_PROP(PainterProperty, OneInvertedFigureInvertsNoPixelTwice, ())
     // Copied in black and inverted with white, an outline on white looks the same.
     SFigure figure = *Figures(fkFocus);
     figure.filled = false;
-    auto const draw = [&](IPainter::RasterOperation mode, _color const& color)
-    {
+    auto const draw = [&](IPainter::RasterOperation mode, _color const& color) {
         CCanvas canvas(Width, Height);
         figure.mode = mode;
         struct CColored
@@ -435,20 +434,17 @@ RC_GTEST_PROP(ClipRegionProperty, EqualsASetOfPixels, ())
 
     std::array<int, side * side> drawn{};
     rectangle<int> bounds = region.GetBounds();
-    region.ForEach(surface,
-                   [&](rectangle<int> const& part)
-                   {
-                       RC_ASSERT(!part.IsEmpty());
-                       for (int y = part.top; y < part.bottom; ++y)
-                       {
-                           for (int x = part.left; x < part.right; ++x)
-                           {
-                               ++drawn[static_cast<std::size_t>(y * side + x)];
-                               RC_ASSERT(unlimited || (x >= bounds.left && x < bounds.right && y >= bounds.top &&
-                                                       y < bounds.bottom));
-                           }
-                       }
-                   });
+    region.ForEach(surface, [&](rectangle<int> const& part) {
+        RC_ASSERT(!part.IsEmpty());
+        for (int y = part.top; y < part.bottom; ++y)
+        {
+            for (int x = part.left; x < part.right; ++x)
+            {
+                ++drawn[static_cast<std::size_t>(y * side + x)];
+                RC_ASSERT(unlimited || (x >= bounds.left && x < bounds.right && y >= bounds.top && y < bounds.bottom));
+            }
+        }
+    });
     for (std::size_t p = 0; p < drawn.size(); ++p)
         RC_ASSERT(drawn[p] == (model[p] ? 1 : 0));
 }

@@ -45,7 +45,10 @@ private:
     ISystem* m_Former;
 };
 
-_color Rgb(int red, int green, int blue) { return _color::FromRgb(red, green, blue); }
+_color Rgb(int red, int green, int blue)
+{
+    return _color::FromRgb(red, green, blue);
+}
 
 }  // namespace
 

@@ -28,7 +28,10 @@ struct SLine
     friend bool operator==(SLine const&, SLine const&) = default;
 };
 
-bool IsDelimiter(char c) { return c == ' ' || c == '.' || c == '/'; }
+bool IsDelimiter(char c)
+{
+    return c == ' ' || c == '.' || c == '/';
+}
 
 /// Cuts off words from the front and puts them on lines as long as they have room. `room`: characters.
 std::vector<SLine> WrapByHand(std::string text, int room)
@@ -66,7 +69,10 @@ std::vector<SLine> WrapByHand(std::string text, int room)
     return lines;
 }
 
-std::string WithoutBlanksAtEnd(std::string const& text) { return text.substr(0, text.find_last_not_of(' ') + 1); }
+std::string WithoutBlanksAtEnd(std::string const& text)
+{
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
 
 /// What was drawn, line by line from the top: a line without a run is empty.
 std::vector<std::string> DrawnLines(std::vector<SDrawnRun> const& runs)
@@ -91,7 +97,10 @@ struct SPiece
     bool breaks = false;
 };
 
-std::ostream& operator<<(std::ostream& stream, SPiece const& piece) { return stream << '"' << piece.source << '"'; }
+std::ostream& operator<<(std::ostream& stream, SPiece const& piece)
+{
+    return stream << '"' << piece.source << '"';
+}
 
 std::vector<SPiece> const& Pieces()
 {
@@ -177,161 +186,151 @@ public:
 
 TEST(TextProperty, PlainTextIsWrappedAsByHand)
 {
-    EXPECT_TRUE(rc::check(
-        []
-        {
-            auto const text =
-                *rc::gen::container<std::string>(rc::gen::element('a', 'b', 'c', ' ', ' ', '.', '/', '\n'));
-            int const room = *rc::gen::inRange(0, 12);
-            std::vector<SLine> const expected = WrapByHand(text, room);
+    EXPECT_TRUE(rc::check([] {
+        auto const text = *rc::gen::container<std::string>(rc::gen::element('a', 'b', 'c', ' ', ' ', '.', '/', '\n'));
+        int const room = *rc::gen::inRange(0, 12);
+        std::vector<SLine> const expected = WrapByHand(text, room);
 
-            STextBench bench;
-            Size const measured = bench.painter.DrawStringEx({0, 0, room * 8.0, 4000}, text.c_str(),
-                                                             IPainter::AlignMeasureOnly, -1, TextDelimiters, nullptr);
-            bench.device.m_PretendedSize = {2000, 4000};
-            Size const drawn =
-                bench.painter.DrawStringEx({0, 0, room * 8.0, 4000}, text.c_str(), 0, -1, TextDelimiters, nullptr);
-            int width = 0;
-            for (SLine const& line : expected)
-                width = std::max(width, line.width);
-            RC_ASSERT(measured.width == width * 8);
-            RC_ASSERT(measured.height == static_cast<double>(expected.size()) * 8);
-            RC_ASSERT(drawn == measured);
+        STextBench bench;
+        Size const measured = bench.painter.DrawStringEx({0, 0, room * 8.0, 4000}, text.c_str(),
+                                                         IPainter::AlignMeasureOnly, -1, TextDelimiters, nullptr);
+        bench.device.m_PretendedSize = {2000, 4000};
+        Size const drawn =
+            bench.painter.DrawStringEx({0, 0, room * 8.0, 4000}, text.c_str(), 0, -1, TextDelimiters, nullptr);
+        int width = 0;
+        for (SLine const& line : expected)
+            width = std::max(width, line.width);
+        RC_ASSERT(measured.width == width * 8);
+        RC_ASSERT(measured.height == static_cast<double>(expected.size()) * 8);
+        RC_ASSERT(drawn == measured);
 
-            std::vector<std::string> lines = DrawnLines(bench.device.m_Runs);
-            lines.resize(expected.size());
-            for (std::size_t i = 0; i < expected.size(); ++i)
-                RC_ASSERT(lines[i] == expected[i].text);
+        std::vector<std::string> lines = DrawnLines(bench.device.m_Runs);
+        lines.resize(expected.size());
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            RC_ASSERT(lines[i] == expected[i].text);
 
-            // Mark-up is laid out the same way where there is none.
-            CHTMLTextFormatter formatter;
-            bench.device.m_Runs.clear();
-            Size const marked =
-                bench.painter.DrawStringEx({0, 0, room * 8.0, 4000}, text.c_str(), 0, -1, TextDelimiters, &formatter);
-            RC_ASSERT(marked == measured);
-            std::vector<std::string> markedLines = DrawnLines(bench.device.m_Runs);
-            markedLines.resize(expected.size());
-            for (std::size_t i = 0; i < lines.size(); ++i)
-                RC_ASSERT(WithoutBlanksAtEnd(markedLines[i]) == WithoutBlanksAtEnd(lines[i]));
-        }));
+        // Mark-up is laid out the same way where there is none.
+        CHTMLTextFormatter formatter;
+        bench.device.m_Runs.clear();
+        Size const marked =
+            bench.painter.DrawStringEx({0, 0, room * 8.0, 4000}, text.c_str(), 0, -1, TextDelimiters, &formatter);
+        RC_ASSERT(marked == measured);
+        std::vector<std::string> markedLines = DrawnLines(bench.device.m_Runs);
+        markedLines.resize(expected.size());
+        for (std::size_t i = 0; i < lines.size(); ++i)
+            RC_ASSERT(WithoutBlanksAtEnd(markedLines[i]) == WithoutBlanksAtEnd(lines[i]));
+    }));
 }
 
 TEST(TextProperty, AFittedTextStaysInItsRectangleAndSaysWhetherItWasShortened)
 {
-    EXPECT_TRUE(rc::check(
-        []
+    EXPECT_TRUE(rc::check([] {
+        auto const text = *rc::gen::container<std::string>(rc::gen::element('a', 'b', ' ', '.', '\n'));
+        int const room = *rc::gen::inRange(3, 12);
+        int const rows = *rc::gen::inRange(1, 5);
+        STextBench bench;
+        bench.device.m_PretendedSize = {2000, 4000};
+        Size const size = bench.painter.DrawStringEx({0, 0, room * 8.0, rows * 8.0}, text.c_str(),
+                                                     IPainter::AlignFitText, -1, TextDelimiters, nullptr);
+        for (SDrawnRun const& run : bench.device.m_Runs)
         {
-            auto const text = *rc::gen::container<std::string>(rc::gen::element('a', 'b', ' ', '.', '\n'));
-            int const room = *rc::gen::inRange(3, 12);
-            int const rows = *rc::gen::inRange(1, 5);
-            STextBench bench;
-            bench.device.m_PretendedSize = {2000, 4000};
-            Size const size = bench.painter.DrawStringEx({0, 0, room * 8.0, rows * 8.0}, text.c_str(),
-                                                         IPainter::AlignFitText, -1, TextDelimiters, nullptr);
-            for (SDrawnRun const& run : bench.device.m_Runs)
-            {
-                RC_ASSERT(run.x + static_cast<int>(run.text.size()) * 8 <= room * 8);
-                RC_ASSERT(run.y + 8 <= rows * 8);
-            }
-            RC_ASSERT(bench.painter.m_TextShortened == (size.width > room * 8 || size.height > rows * 8));
-        }));
+            RC_ASSERT(run.x + static_cast<int>(run.text.size()) * 8 <= room * 8);
+            RC_ASSERT(run.y + 8 <= rows * 8);
+        }
+        RC_ASSERT(bench.painter.m_TextShortened == (size.width > room * 8 || size.height > rows * 8));
+    }));
 }
 
 TEST(TextProperty, MarkUpShowsTheRightCharactersInTheRightStyles)
 {
-    EXPECT_TRUE(rc::check(
-        []
+    EXPECT_TRUE(rc::check([] {
+        auto const pieces = *rc::gen::container<std::vector<SPiece>>(rc::gen::elementOf(Pieces()));
+        std::string source;
+        std::vector<SShown> expected;
+        int bold = 0;
+        int italic = 0;
+        int line = 0;
+        int width = 0;
+        int linkWidth = 0;
+        bool link = false;
+        bool told = false;
+        int targets = 0;
+        for (SPiece const& piece : pieces)
         {
-            auto const pieces = *rc::gen::container<std::vector<SPiece>>(rc::gen::elementOf(Pieces()));
-            std::string source;
-            std::vector<SShown> expected;
-            int bold = 0;
-            int italic = 0;
-            int line = 0;
-            int width = 0;
-            int linkWidth = 0;
-            bool link = false;
-            bool told = false;
-            int targets = 0;
-            for (SPiece const& piece : pieces)
+            source += piece.source;
+            bold = std::max(0, bold + piece.bold);
+            italic = std::max(0, italic + piece.italic);
+            if (piece.link != 0)
             {
-                source += piece.source;
-                bold = std::max(0, bold + piece.bold);
-                italic = std::max(0, italic + piece.italic);
-                if (piece.link != 0)
-                {
-                    link = piece.link > 0;
-                    told = false;
-                }
-                line += piece.breaks ? 1 : 0;
-                std::size_t const before = expected.size();
-                SplitCharacters(piece.shown, (bold ? 1 : 0) | (italic ? 2 : 0) | (link ? 4 : 0), line, expected);
-                int const pieceWidth = static_cast<int>(expected.size() - before) * (bold ? 9 : 8);
-                width += pieceWidth;
-                if (link && pieceWidth > 0)
-                {
-                    linkWidth += pieceWidth;
-                    targets += told ? 0 : 1;
-                    told = true;
-                }
+                link = piece.link > 0;
+                told = false;
             }
-
-            STextBench bench;
-            bench.device.m_PretendedSize = {3000, 4000};
-            CLinkCount formatter;
-            auto const shown = [&]
+            line += piece.breaks ? 1 : 0;
+            std::size_t const before = expected.size();
+            SplitCharacters(piece.shown, (bold ? 1 : 0) | (italic ? 2 : 0) | (link ? 4 : 0), line, expected);
+            int const pieceWidth = static_cast<int>(expected.size() - before) * (bold ? 9 : 8);
+            width += pieceWidth;
+            if (link && pieceWidth > 0)
             {
-                std::vector<SShown> result;
-                for (SDrawnRun const& run : bench.device.m_Runs)
-                    SplitCharacters(run.text, run.style, run.y / 8, result);
-                bench.device.m_Runs.clear();
-                return result;
-            };
-            bench.painter.DrawStringEx({0, 0, 3000, 4000}, source.c_str(), IPainter::AlignSingleLine, -1,
-                                       MarkupDelimiters, &formatter);
-            RC_ASSERT(shown() == expected);
-            RC_ASSERT(formatter.m_Targets == targets);
-            RC_ASSERT(formatter.m_RightTargets == targets);
-            RC_ASSERT(formatter.m_Width == linkWidth);
-            RC_ASSERT(bench.painter.GetFont().style == 0);
+                linkWidth += pieceWidth;
+                targets += told ? 0 : 1;
+                told = true;
+            }
+        }
 
-            // Wrapped, the same characters are seen, but for blanks where a line ends.
-            int const room = *rc::gen::inRange(0, 100);
-            Size const size = bench.painter.DrawStringEx({0, 0, static_cast<double>(room), 4000}, source.c_str(), 0, -1,
-                                                         MarkupDelimiters, &formatter);
-            RC_ASSERT(WithoutBlanksAndLines(shown()) == WithoutBlanksAndLines(expected));
-            RC_ASSERT(size.width <= width);
-            RC_ASSERT(bench.painter.DrawStringEx({0, 0, static_cast<double>(room), 4000}, source.c_str(),
-                                                 IPainter::AlignMeasureOnly, -1, MarkupDelimiters, &formatter) == size);
-        }));
+        STextBench bench;
+        bench.device.m_PretendedSize = {3000, 4000};
+        CLinkCount formatter;
+        auto const shown = [&] {
+            std::vector<SShown> result;
+            for (SDrawnRun const& run : bench.device.m_Runs)
+                SplitCharacters(run.text, run.style, run.y / 8, result);
+            bench.device.m_Runs.clear();
+            return result;
+        };
+        bench.painter.DrawStringEx({0, 0, 3000, 4000}, source.c_str(), IPainter::AlignSingleLine, -1, MarkupDelimiters,
+                                   &formatter);
+        RC_ASSERT(shown() == expected);
+        RC_ASSERT(formatter.m_Targets == targets);
+        RC_ASSERT(formatter.m_RightTargets == targets);
+        RC_ASSERT(formatter.m_Width == linkWidth);
+        RC_ASSERT(bench.painter.GetFont().style == 0);
+
+        // Wrapped, the same characters are seen, but for blanks where a line ends.
+        int const room = *rc::gen::inRange(0, 100);
+        Size const size = bench.painter.DrawStringEx({0, 0, static_cast<double>(room), 4000}, source.c_str(), 0, -1,
+                                                     MarkupDelimiters, &formatter);
+        RC_ASSERT(WithoutBlanksAndLines(shown()) == WithoutBlanksAndLines(expected));
+        RC_ASSERT(size.width <= width);
+        RC_ASSERT(bench.painter.DrawStringEx({0, 0, static_cast<double>(room), 4000}, source.c_str(),
+                                             IPainter::AlignMeasureOnly, -1, MarkupDelimiters, &formatter) == size);
+    }));
 }
 
 TEST(TextProperty, AnyBytesDoNoHarm)
 {
-    EXPECT_TRUE(rc::check(
-        []
+    EXPECT_TRUE(rc::check([] {
+        auto const text = *rc::gen::container<std::string>(rc::gen::oneOf(
+            rc::gen::arbitrary<char>(), rc::gen::element('<', '>', '&', ';', '#', '"', '=', 'a', '/', 'b')));
+        STextBench bench;
+        CLinkCount formatter;
+        double const width = *rc::gen::inRange(-50, 200);
+        double const height = *rc::gen::inRange(-50, 100);
+        bench.UseFont(*rc::gen::inRange(0, 16), *rc::gen::element(0, 900, 1800, 2700, 450));
+        int const flags = *rc::gen::inRange(0, 0x4000);
+        int const count = *rc::gen::element(-1, 0, 1, 5, 1000);
+        IPainter::ITextFormatter* const formatters[] = {&formatter, nullptr};
+        for (IPainter::ITextFormatter* const each : formatters)
         {
-            auto const text = *rc::gen::container<std::string>(rc::gen::oneOf(
-                rc::gen::arbitrary<char>(), rc::gen::element('<', '>', '&', ';', '#', '"', '=', 'a', '/', 'b')));
-            STextBench bench;
-            CLinkCount formatter;
-            double const width = *rc::gen::inRange(-50, 200);
-            double const height = *rc::gen::inRange(-50, 100);
-            bench.UseFont(*rc::gen::inRange(0, 16), *rc::gen::element(0, 900, 1800, 2700, 450));
-            int const flags = *rc::gen::inRange(0, 0x4000);
-            int const count = *rc::gen::element(-1, 0, 1, 5, 1000);
-            IPainter::ITextFormatter* const formatters[] = {&formatter, nullptr};
-            for (IPainter::ITextFormatter* const each : formatters)
-            {
-                Size const size = bench.painter.DrawStringEx({0, 0, width, height}, text.c_str(), flags, count,
-                                                             MarkupDelimiters, each);
-                RC_ASSERT(size.width >= 0);
-                RC_ASSERT(size.height >= 0);
-            }
-            bench.painter.DrawString({0, 0, width, height}, text.c_str(), flags, count);
-            bench.painter.GetTextSize(text, nullptr, count);
-            RC_ASSERT(RemoveLinks(text).size() <= text.size());
-        }));
+            Size const size =
+                bench.painter.DrawStringEx({0, 0, width, height}, text.c_str(), flags, count, MarkupDelimiters, each);
+            RC_ASSERT(size.width >= 0);
+            RC_ASSERT(size.height >= 0);
+        }
+        bench.painter.DrawString({0, 0, width, height}, text.c_str(), flags, count);
+        bench.painter.GetTextSize(text, nullptr, count);
+        RC_ASSERT(RemoveLinks(text).size() <= text.size());
+    }));
 }
 
 }  // namespace vexel::test

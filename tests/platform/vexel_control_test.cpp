@@ -97,7 +97,10 @@ public:
 };
 
 #define NOTE(handler, type)                                                                                            \
-    void handler(type* event) override { this->Note(#handler, event); }
+    void handler(type* event) override                                                                                 \
+    {                                                                                                                  \
+        this->Note(#handler, event);                                                                                   \
+    }
 
 class CDrawing : public CListenerBase<IDrawingNotify>
 {

@@ -426,7 +426,10 @@ rc::Gen<std::string> AnyText(int maxLength)
     return rc::gen::resize(maxLength, rc::gen::container<std::string>(rc::gen::nonZero<char>()));
 }
 
-rc::Gen<std::string> AnyOf(std::vector<std::string> const& values) { return rc::gen::elementOf(values); }
+rc::Gen<std::string> AnyOf(std::vector<std::string> const& values)
+{
+    return rc::gen::elementOf(values);
+}
 
 }  // namespace
 
@@ -438,65 +441,60 @@ TEST(XpmProperty, AnyLinesDoNoHarm)
 
 TEST(XpmProperty, LinesThatAreNearlyRightDoNoHarm)
 {
-    EXPECT_TRUE(rc::check(
-        []
-        {
-            auto const number =
-                AnyOf({"0", "1", "2", "3", "4", "8", "9", "-1", "255", "32767", "32768", "65536", "65537", "2147483647",
-                       "2147483648", "4294967296", "18446744073709551616", "x", ""});
-            auto const small = AnyOf({"1", "2", "3", "4"});
-            bool const sane = *rc::gen::weightedElement<bool>({{4, true}, {1, false}});
-            std::vector<std::string> lines;
-            std::string header;
-            for (int i = 0; i < 4; ++i)
-                header += (sane ? *small : *number) + " ";
-            lines.push_back(header);
-            int const count = *rc::gen::inRange(0, 12);
-            for (int i = 0; i < count; ++i)
-                lines.push_back(
-                    *rc::gen::oneOf(rc::gen::map(rc::gen::pair(AnyOf({"a", "b", " ", "ab", "  ", "aba", "abab", ""}),
-                                                               AnyOf({" c red", " c #F00", " c None", " m x c blue", "",
-                                                                      " c", " s", " g4 gray1"})),
-                                                 [](std::pair<std::string, std::string> const& parts)
-                                                 { return parts.first + parts.second; }),
-                                    AnyOf({"aaaa", "abab", "a", "", "abababababababab", "bbbbbbbb"}), AnyText(12)));
-            CheckImage(lines, *rc::gen::arbitrary<bool>());
-        }));
+    EXPECT_TRUE(rc::check([] {
+        auto const number = AnyOf({"0", "1", "2", "3", "4", "8", "9", "-1", "255", "32767", "32768", "65536", "65537",
+                                   "2147483647", "2147483648", "4294967296", "18446744073709551616", "x", ""});
+        auto const small = AnyOf({"1", "2", "3", "4"});
+        bool const sane = *rc::gen::weightedElement<bool>({{4, true}, {1, false}});
+        std::vector<std::string> lines;
+        std::string header;
+        for (int i = 0; i < 4; ++i)
+            header += (sane ? *small : *number) + " ";
+        lines.push_back(header);
+        int const count = *rc::gen::inRange(0, 12);
+        for (int i = 0; i < count; ++i)
+            lines.push_back(*rc::gen::oneOf(
+                rc::gen::map(
+                    rc::gen::pair(AnyOf({"a", "b", " ", "ab", "  ", "aba", "abab", ""}),
+                                  AnyOf({" c red", " c #F00", " c None", " m x c blue", "", " c", " s", " g4 gray1"})),
+                    [](std::pair<std::string, std::string> const& parts) { return parts.first + parts.second; }),
+                AnyOf({"aaaa", "abab", "a", "", "abababababababab", "bbbbbbbb"}), AnyText(12)));
+        CheckImage(lines, *rc::gen::arbitrary<bool>());
+    }));
 }
 
 TEST(XpmProperty, ARightTextIsReadAsItWasWritten)
 {
-    EXPECT_TRUE(rc::check(
-        []
+    EXPECT_TRUE(rc::check([] {
+        int const width = *rc::gen::inRange(1, 8);
+        int const height = *rc::gen::inRange(1, 8);
+        int const characters = *rc::gen::inRange(1, 9);
+        int const colors = *rc::gen::inRange(1, 10);
+        auto const symbol = [&](int index) {
+            return std::string(static_cast<std::size_t>(characters - 1), ' ') + static_cast<char>('a' + index);
+        };
+        std::vector<std::string> lines = {std::to_string(width) + " " + std::to_string(height) + " " +
+                                          std::to_string(colors) + " " + std::to_string(characters)};
+        for (int i = 0; i < colors; ++i)
+            lines.push_back(symbol(i) + "\tc #0" + std::to_string(i) + "0000");
+        std::vector<int> written;
+        for (int y = 0; y < height; ++y)
         {
-            int const width = *rc::gen::inRange(1, 8);
-            int const height = *rc::gen::inRange(1, 8);
-            int const characters = *rc::gen::inRange(1, 9);
-            int const colors = *rc::gen::inRange(1, 10);
-            auto const symbol = [&](int index)
-            { return std::string(static_cast<std::size_t>(characters - 1), ' ') + static_cast<char>('a' + index); };
-            std::vector<std::string> lines = {std::to_string(width) + " " + std::to_string(height) + " " +
-                                              std::to_string(colors) + " " + std::to_string(characters)};
-            for (int i = 0; i < colors; ++i)
-                lines.push_back(symbol(i) + "\tc #0" + std::to_string(i) + "0000");
-            std::vector<int> written;
-            for (int y = 0; y < height; ++y)
+            std::string row;
+            for (int x = 0; x < width; ++x)
             {
-                std::string row;
-                for (int x = 0; x < width; ++x)
-                {
-                    written.push_back(*rc::gen::inRange(0, colors));
-                    row += symbol(written.back());
-                }
-                lines.push_back(row);
+                written.push_back(*rc::gen::inRange(0, colors));
+                row += symbol(written.back());
             }
-            XPMImage const image = Image(lines);
-            RC_ASSERT(image.GetWidth() == width);
-            RC_ASSERT(image.GetHeight() == height);
-            for (int y = 0; y < height; ++y)
-                for (int x = 0; x < width; ++x)
-                    RC_ASSERT(image.GetPixel(x, y).Red() == written[static_cast<std::size_t>(y * width + x)]);
-        }));
+            lines.push_back(row);
+        }
+        XPMImage const image = Image(lines);
+        RC_ASSERT(image.GetWidth() == width);
+        RC_ASSERT(image.GetHeight() == height);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                RC_ASSERT(image.GetPixel(x, y).Red() == written[static_cast<std::size_t>(y * width + x)]);
+    }));
 }
 
 }  // namespace vexel::test

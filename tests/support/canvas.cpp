@@ -91,7 +91,10 @@ CCanvas::CCanvas(int width, int height) : m_Pixels({width, height}), m_Device(m_
     NoBrush();
 }
 
-CCanvas::CCanvas(std::string const& text) : CCanvas(0, 0) { m_Pixels = FromText(text); }
+CCanvas::CCanvas(std::string const& text) : CCanvas(0, 0)
+{
+    m_Pixels = FromText(text);
+}
 
 void CCanvas::Pen(_color const& color, int style, int width)
 {

@@ -13,7 +13,8 @@ namespace vexel::test
 class CHearing : public CVisualElement
 {
 public:
-    CHearing(CSignalLog& log, std::string const& name, CVisualElement* parent, size<int> const& extent, Alignment alignment)
+    CHearing(CSignalLog& log, std::string const& name, CVisualElement* parent, size<int> const& extent,
+             Alignment alignment)
         : CVisualElement(parent, extent, alignment), m_Log(log), m_Name(name)
     {
         log.Name(*this, name);
@@ -21,7 +22,9 @@ public:
 
     CHearing& HearMouse()
     {
-        m_Log.Add(m_SigButtonDown, m_Name + ".down").Add(m_SigButtonUp, m_Name + ".up").Add(m_SigClick, m_Name + ".click");
+        m_Log.Add(m_SigButtonDown, m_Name + ".down")
+            .Add(m_SigButtonUp, m_Name + ".up")
+            .Add(m_SigClick, m_Name + ".click");
         m_Log.Add(m_SigDoubleClick, m_Name + ".double").Add(m_SigWheel, m_Name + ".wheel");
         return *this;
     }
@@ -34,7 +37,9 @@ public:
     }
     CHearing& HearKeys()
     {
-        m_Log.Add(m_SigKeyDown, m_Name + ".keydown").Add(m_SigKeyUp, m_Name + ".keyup").Add(m_SigChar, m_Name + ".char");
+        m_Log.Add(m_SigKeyDown, m_Name + ".keydown")
+            .Add(m_SigKeyUp, m_Name + ".keyup")
+            .Add(m_SigChar, m_Name + ".char");
         return *this;
     }
     CHearing& HearFocus()
@@ -104,4 +109,4 @@ private:
     bool m_Focus = false;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

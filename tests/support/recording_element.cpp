@@ -15,7 +15,7 @@ std::string Bool(bool value)
     return value ? "true" : "false";
 }
 
-} // namespace
+}  // namespace
 
 CRecordingElement::CRecordingElement(CCallLog& log, std::string const& name, CVisualElement* parent,
                                      size<int> const& extent, Alignment alignment)

@@ -17,9 +17,9 @@ public:
     std::string const& GetName() const { return m_Name; }
 
     // Answers ---------------------------------------------------------------------------------------------------------
-    std::function<void(vexel::CVisualElement**)> m_OnChange;                       ///< Inside ProcessChange.
+    std::function<void(vexel::CVisualElement**)> m_OnChange;                        ///< Inside ProcessChange.
     std::function<bool(vexel::CVisualElement*, vexel::UpdateType)> m_BeforeChange;  ///< BeforeProcessChange.
-    std::function<void(vexel::CVisualElement**)> m_OnRearrange;                    ///< Inside ProcessRearrange.
+    std::function<void(vexel::CVisualElement**)> m_OnRearrange;                     ///< Inside ProcessRearrange.
     std::function<void()> m_OnUpdateElement;
     std::function<void()> m_OnRefreshPos;
     std::function<void()> m_OnScrollContent;

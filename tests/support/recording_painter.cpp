@@ -12,7 +12,7 @@ std::string Coordinates(point<double> const& value, bool extent)
            (extent ? "true" : "false");
 }
 
-} // namespace
+}  // namespace
 
 void CRecordingPainter::BeginPaint(StdSettings settings)
 {

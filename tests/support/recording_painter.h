@@ -52,7 +52,10 @@ public:
     void FocusRect(double, double, double, double) override {}
     void SetPixel(double, double, vexelbase::_color) override {}
     vexelbase::_color GetPixel(double, double) const override { return {}; }
-    vexelbase::size<double> DrawString(vexelbase::rectangle<double> const&, char const*, int, int) override { return {}; }
+    vexelbase::size<double> DrawString(vexelbase::rectangle<double> const&, char const*, int, int) override
+    {
+        return {};
+    }
     vexelbase::size<double> DrawStringEx(vexelbase::rectangle<double> const&, char const*, int, int, char const*,
                                          ITextFormatter*) override
     {
@@ -74,13 +77,11 @@ public:
     void DrawRasterPicture(vexelbase::IRasterPicture*, double, double, double, double, RasterOperation) override {}
     void DrawRasterPictureEx(vexelbase::IRasterPicture*, double, double, double, double, double, double, double, double,
                              RasterOperation) override
-    {
-    }
+    {}
     void ExtractRasterPicture(vexelbase::IRasterPicture*, double, double, double, double) override {}
     void ExtractRasterPictureEx(vexelbase::IRasterPicture*, double, double, double, double, double, double, double,
                                 double) override
-    {
-    }
+    {}
     void AlphaBlend(double, double, double, double, vexelbase::IRasterPicture*, int) override {}
     void DrawXPM(vexelbase::XPMImage const&, double, double, int, int, int, int, RasterOperation) override {}
     double GetDPIScale() const override { return 1.0; }

@@ -27,7 +27,7 @@ template <class Signal, class... Arguments> auto Listen(Signal& signal, std::fun
     return slot;
 }
 
-} // namespace detail
+}  // namespace detail
 
 /// Connects a closure, which must take the signal's arguments. It listens as long as the result lives.
 ///

@@ -276,7 +276,10 @@ void CTreeGame::Collect(CVisualElement* element)
     }
 }
 
-CTreeGame::CNode* CTreeGame::Pick() { return m_All.empty() ? nullptr : m_Random.Pick(m_All); }
+CTreeGame::CNode* CTreeGame::Pick()
+{
+    return m_All.empty() ? nullptr : m_Random.Pick(m_All);
+}
 
 // For all but strips, which have no children either.
 CVisualElement* CTreeGame::PickParent()
@@ -290,9 +293,15 @@ CVisualElement* CTreeGame::PickParent()
     return m_Base;
 }
 
-bool CTreeGame::IsStrips(CNode const* node) { return dynamic_cast<CStrips const*>(node) != nullptr; }
+bool CTreeGame::IsStrips(CNode const* node)
+{
+    return dynamic_cast<CStrips const*>(node) != nullptr;
+}
 
-bool CTreeGame::IsFree(CNode const* node) { return node->GetAlignment() == alNone; }
+bool CTreeGame::IsFree(CNode const* node)
+{
+    return node->GetAlignment() == alNone;
+}
 
 // Docks what is not on a board, and gives a place to what is. After a change of parent, or to move on a board.
 void CTreeGame::PlaceByParent(CNode* node)

@@ -129,12 +129,10 @@ TEST(Census, BeforeTheFirstHostThereIsNoSystem)
 int g_WarmedUp = 0;
 vexel_ptr<ISysTimer> g_LastingTimer;
 
-CWarmUp const g_WarmUp(
-    []
-    {
-        ++g_WarmedUp;
-        g_LastingTimer = GetCurrentSystem()->CreateTimer(100, 0);
-    });
+CWarmUp const g_WarmUp([] {
+    ++g_WarmedUp;
+    g_LastingTimer = GetCurrentSystem()->CreateTimer(100, 0);
+});
 
 TEST(Census, WhatAWarmUpMadeStaysAndIsNotCounted)
 {

@@ -73,8 +73,7 @@ TEST_F(MemoryControls, ShowingDuringAPaintWaitsForItsEndWhileIsVisibleAnswersAtO
     vexel_ptr<IEdit> const edit = m_Window->CreateEdit(false);
     auto* const node = static_cast<CMemoryEdit*>(edit.get());
     bool wanted = false, shown = true;
-    m_Control.m_Do = [&](std::string const& name)
-    {
+    m_Control.m_Do = [&](std::string const& name) {
         if (name != "draw")
             return;
         edit->SetVisible(true);
@@ -626,8 +625,7 @@ TEST_F(MemoryEdit, AListenerMayDropTheLastReferenceInAnyEvent)
     {
         vexel_ptr<IEdit> edit = m_Host.Window().CreateEdit(false);
         CEditLog log;
-        log.m_Do = [&](std::string const& what)
-        {
+        log.m_Do = [&](std::string const& what) {
             if (what == when)
                 edit.reset();
         };
@@ -802,8 +800,7 @@ TEST_F(MemoryPopup, APressOutsideClosesItBeforeThePressIsTold)
     EXPECT_TRUE(m_Popup->IsVisible());
     m_System.MovePointer({150, 150});
     m_Control.Take();
-    m_Control.m_Do = [&](std::string const& name)
-    {
+    m_Control.m_Do = [&](std::string const& name) {
         if (name == "down")
             m_Control.Note(m_Popup->IsVisible() ? "open" : "closed");
     };

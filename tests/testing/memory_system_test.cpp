@@ -179,8 +179,7 @@ TEST_F(MemoryTimer, ATimerStartedInATickFiresWithinTheSameAdvance)
 {
     CTicker a(m_System, m_Log, "a", 10);
     CTicker b(m_System, m_Log, "b", 5);
-    a.m_Do = [&]
-    {
+    a.m_Do = [&] {
         b.Start();
         a.Stop();
     };
@@ -309,8 +308,7 @@ TEST_F(MemoryRunner, ARunnerMayStopAndStartOtherWorkInARound)
     CWork first(100);
     CWork second(2);
     vexel_ptr<IRunner> const runner = m_System.GetRunner();
-    first.m_Do = [&]
-    {
+    first.m_Do = [&] {
         runner->Stop();
         runner->Run(&second);
     };
@@ -476,8 +474,7 @@ TEST(MemorySystem, LocksExcludeEachOther)
     CMemorySystem system;
     vexel_ptr<ILock> const lock = system.CreateLock();
     int shared = 0;
-    auto const add = [&]
-    {
+    auto const add = [&] {
         for (int i = 0; i < 1000; ++i)
         {
             lock->Acquire();

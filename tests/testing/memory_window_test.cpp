@@ -130,8 +130,7 @@ TEST_F(MemoryWindow, TheCaptureTakesAllMouseEventsAndPutsLeavingOff)
     m_System.MovePointer({215, 25});
     EXPECT_EQ(m_OtherControl.Take(), "");
     EXPECT_EQ(m_Control.Take(), "move 3 4 0 0, down 3 4 1 1, move 205 5 1 1");
-    m_Control.m_Do = [&](std::string const& name)
-    {
+    m_Control.m_Do = [&](std::string const& name) {
         if (name == "up")
             m_Window->ReleaseMouse();
     };
@@ -175,8 +174,7 @@ TEST_F(MemoryWindow, AHiddenWindowGetsNoMouse)
 TEST_F(MemoryWindow, AHandlerOfTheMouseMayDestroyTheWindow)
 {
     m_Window->TrackPointer();
-    m_Control.m_Do = [&](std::string const& name)
-    {
+    m_Control.m_Do = [&](std::string const& name) {
         if (name == "down")
             m_Window.reset();
     };
@@ -205,8 +203,9 @@ TEST_F(MemoryWindow, TheFocusIsTakenFromTheFormerWindowFirst)
 {
     std::string log;
     m_Control.m_Do = [&](std::string const& name) { log += "first " + name + (m_Window->HasFocus() ? "+ " : "- "); };
-    m_OtherControl.m_Do = [&](std::string const& name)
-    { log += "second " + name + (m_Other->HasFocus() ? "+ " : "- "); };
+    m_OtherControl.m_Do = [&](std::string const& name) {
+        log += "second " + name + (m_Other->HasFocus() ? "+ " : "- ");
+    };
     m_Window->SetFocus();
     m_Other->SetFocus();
     m_Other->SetFocus();
@@ -216,8 +215,7 @@ TEST_F(MemoryWindow, TheFocusIsTakenFromTheFormerWindowFirst)
 TEST_F(MemoryWindow, AHandlerMayGiveTheFocusBackAtOnce)
 {
     m_Window->SetFocus();
-    m_Control.m_Do = [&](std::string const& name)
-    {
+    m_Control.m_Do = [&](std::string const& name) {
         if (name == "blur")
             m_Window->SetFocus();
     };

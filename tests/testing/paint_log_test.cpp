@@ -43,8 +43,7 @@ protected:
     // The calls that the canvas made in its DrawContent.
     std::vector<std::string> CallsOf(std::function<void(IPainter&)> const& draw)
     {
-        m_Canvas.m_Draw = [&](IPainter& painter)
-        {
+        m_Canvas.m_Draw = [&](IPainter& painter) {
             painter.SetDrawMode(IPainter::roXor);  // a mark where they begin
             painter.SetDrawMode(IPainter::roCopy);
             draw(painter);
@@ -65,20 +64,18 @@ protected:
 TEST_F(PaintLogTest, ToolsAreWrittenByWhatTheyAre)
 {
     m_Host.Paint();
-    EXPECT_THAT(CallsOf(
-                    [](IPainter& p)
-                    {
-                        p.SetBrush({color_table[3], brush::bsSolid});
-                        p.SetBrush({color_table[3], brush::bsNone});
-                        p.SetPen({color_table[8], pen::psSolid, 1});
-                        p.SetPen({color_table[6], pen::psDash, 3});
-                        p.SetPen({color_table[6], pen::psSolid, 2});
-                        p.SetPen({color_table[6], pen::psNone, 2});
-                        p.SetTextColor(_color::FromRgb(0x12, 0x34, 0xAB));
-                        p.SetTextColor(color_table[0]);
-                        p.SetTextColor(_color(0xFFFFFF));
-                        p.SetBkColor(color_table[9]);
-                    }),
+    EXPECT_THAT(CallsOf([](IPainter& p) {
+                    p.SetBrush({color_table[3], brush::bsSolid});
+                    p.SetBrush({color_table[3], brush::bsNone});
+                    p.SetPen({color_table[8], pen::psSolid, 1});
+                    p.SetPen({color_table[6], pen::psDash, 3});
+                    p.SetPen({color_table[6], pen::psSolid, 2});
+                    p.SetPen({color_table[6], pen::psNone, 2});
+                    p.SetTextColor(_color::FromRgb(0x12, 0x34, 0xAB));
+                    p.SetTextColor(color_table[0]);
+                    p.SetTextColor(_color(0xFFFFFF));
+                    p.SetBkColor(color_table[9]);
+                }),
                 ElementsAre("SetBrush yellow", "SetBrush none", "SetPen grey", "SetPen red dash 3", "SetPen red 2",
                             "SetPen none", "SetTextColor #1234AB", "SetTextColor none", "SetTextColor white/00",
                             "SetBkColor white"));
@@ -87,20 +84,18 @@ TEST_F(PaintLogTest, ToolsAreWrittenByWhatTheyAre)
 TEST_F(PaintLogTest, FontsSayNameSizeAndWhatIsUnusual)
 {
     m_Host.Paint();
-    EXPECT_THAT(CallsOf(
-                    [](IPainter& p)
-                    {
-                        font value;
-                        value.name = "Square";
-                        value.family = font::ffSans;
-                        value.size = 8;
-                        p.SetFont(value);
-                        value.style = font::fsBold | font::fsItalic | font::fsUnderline | font::fsStrikeOut;
-                        value.rotation = 2700;
-                        value.factor = 1.3;
-                        value.family = font::ffMono;
-                        p.SetFont(value);
-                    }),
+    EXPECT_THAT(CallsOf([](IPainter& p) {
+                    font value;
+                    value.name = "Square";
+                    value.family = font::ffSans;
+                    value.size = 8;
+                    p.SetFont(value);
+                    value.style = font::fsBold | font::fsItalic | font::fsUnderline | font::fsStrikeOut;
+                    value.rotation = 2700;
+                    value.factor = 1.3;
+                    value.family = font::ffMono;
+                    p.SetFont(value);
+                }),
                 ElementsAre("SetFont \"Square\" 8",
                             "SetFont \"Square\" 8 bold italic underline strikeout rotation 2700 factor 1.3 family 2"));
 }
@@ -108,19 +103,17 @@ TEST_F(PaintLogTest, FontsSayNameSizeAndWhatIsUnusual)
 TEST_F(PaintLogTest, ShapesAreWrittenWithTheShortestNumbers)
 {
     m_Host.Paint();
-    EXPECT_THAT(CallsOf(
-                    [](IPainter& p)
-                    {
-                        p.MoveTo(0, 4);
-                        p.LineTo(9.5, 4);
-                        p.Rectangle(1, 2, 3, 4);
-                        p.FillRect(0, 0, 0.1, -0.0);
-                        p.RoundRect(0, 9, 20, 29, 20, 20);
-                        p.FocusRect(1.5, 2, 18, 9);
-                        point<double> const corners[] = {{0, 0}, {4, 4}, {8, 0}};
-                        p.Polygon(corners, 3);
-                        p.SetPixel(3, 4, color_table[6]);
-                    }),
+    EXPECT_THAT(CallsOf([](IPainter& p) {
+                    p.MoveTo(0, 4);
+                    p.LineTo(9.5, 4);
+                    p.Rectangle(1, 2, 3, 4);
+                    p.FillRect(0, 0, 0.1, -0.0);
+                    p.RoundRect(0, 9, 20, 29, 20, 20);
+                    p.FocusRect(1.5, 2, 18, 9);
+                    point<double> const corners[] = {{0, 0}, {4, 4}, {8, 0}};
+                    p.Polygon(corners, 3);
+                    p.SetPixel(3, 4, color_table[6]);
+                }),
                 ElementsAre("MoveTo 0 4", "LineTo 9.5 4", "Rectangle 1 2 3 4", "FillRect 0 0 0.1 0",
                             "RoundRect 0 9 20 29 20 20", "FocusRect 1.5 2 18 9", "Polygon 0 0 4 4 8 0",
                             "SetPixel 3 4 red"));
@@ -129,18 +122,16 @@ TEST_F(PaintLogTest, ShapesAreWrittenWithTheShortestNumbers)
 TEST_F(PaintLogTest, TextsAreQuotedAndMeasuringIsLeftOut)
 {
     m_Host.Paint();
-    EXPECT_THAT(CallsOf(
-                    [](IPainter& p)
-                    {
-                        rectangle<double> const rect{0, 0, 50, 20};
-                        p.DrawString(rect, "a \"b\"\n", 0x121, -1);
-                        p.DrawString(rect, std::string("hidden"), 1, 3);
-                        p.DrawString(rect, "measured", IPainter::AlignMeasureOnly, -1);
-                        p.DrawStringEx(rect, "plain", 0x24, -1, TextDelimiters, nullptr);
-                        p.GetTextSize("measured", nullptr);
-                        fontmetrics metrics;
-                        p.GetFontMetrics(&metrics);
-                    }),
+    EXPECT_THAT(CallsOf([](IPainter& p) {
+                    rectangle<double> const rect{0, 0, 50, 20};
+                    p.DrawString(rect, "a \"b\"\n", 0x121, -1);
+                    p.DrawString(rect, std::string("hidden"), 1, 3);
+                    p.DrawString(rect, "measured", IPainter::AlignMeasureOnly, -1);
+                    p.DrawStringEx(rect, "plain", 0x24, -1, TextDelimiters, nullptr);
+                    p.GetTextSize("measured", nullptr);
+                    fontmetrics metrics;
+                    p.GetFontMetrics(&metrics);
+                }),
                 ElementsAre("DrawString \"a \\\"b\\\"\\n\" 0 0 50 20 0x121", "DrawString \"hid\" 0 0 50 20 0x1 3",
                             "DrawStringEx \"plain\" 0 0 50 20 0x24"));
 }
@@ -149,8 +140,7 @@ TEST_F(PaintLogTest, WhatAFormatterDrawsIsWrittenOneDeeper)
 {
     m_Host.Paint();
     CDefTextFormatter formatter;
-    m_Canvas.m_Draw = [&](IPainter& p)
-    {
+    m_Canvas.m_Draw = [&](IPainter& p) {
         p.DrawStringEx({0, 0, 30, 30}, "ab cd", 0, -1, TextDelimiters, &formatter);
         p.DrawStringEx({0, 0, 30, 30}, "ab cd", IPainter::AlignMeasureOnly, -1, TextDelimiters, &formatter);
     };
@@ -167,20 +157,18 @@ TEST_F(PaintLogTest, PicturesAreWrittenByTheirSizeAndCallsOnThemApart)
 {
     m_Host.Paint();
     vexel_ptr<IRasterPicture> const picture = CTestHost::System().CreateRasterPicture(size<int>{16, 8});
-    EXPECT_THAT(CallsOf(
-                    [&](IPainter& p)
-                    {
-                        IRasterPicture* const raster = picture.get();
-                        p.DrawRasterPicture(raster, 0, 0, 15, 7, IPainter::roCopy);
-                        p.DrawRasterPicture(raster, 0, 0, 15, 7, IPainter::roXor);
-                        p.DrawRasterPictureEx(raster, 0, 0, 31, 15, 0, 0, 15, 7, IPainter::roAnd);
-                        p.ExtractRasterPicture(raster, 1, 2, 3, 4);
-                        p.ExtractRasterPictureEx(raster, 1, 2, 3, 4, 5, 6, 7, 7);
-                        p.AlphaBlend(0, 0, 15, 7, raster, 127);
-                        raster->GetPainter()->BeginPaint(IPainter::ssPaint);
-                        raster->GetPainter()->FillRect(0, 0, 3, 3);
-                        raster->GetPainter()->EndPaint();
-                    }),
+    EXPECT_THAT(CallsOf([&](IPainter& p) {
+                    IRasterPicture* const raster = picture.get();
+                    p.DrawRasterPicture(raster, 0, 0, 15, 7, IPainter::roCopy);
+                    p.DrawRasterPicture(raster, 0, 0, 15, 7, IPainter::roXor);
+                    p.DrawRasterPictureEx(raster, 0, 0, 31, 15, 0, 0, 15, 7, IPainter::roAnd);
+                    p.ExtractRasterPicture(raster, 1, 2, 3, 4);
+                    p.ExtractRasterPictureEx(raster, 1, 2, 3, 4, 5, 6, 7, 7);
+                    p.AlphaBlend(0, 0, 15, 7, raster, 127);
+                    raster->GetPainter()->BeginPaint(IPainter::ssPaint);
+                    raster->GetPainter()->FillRect(0, 0, 3, 3);
+                    raster->GetPainter()->EndPaint();
+                }),
                 ElementsAre("DrawRasterPicture 16x8 0 0 15 7", "DrawRasterPicture 16x8 0 0 15 7 xor",
                             "DrawRasterPictureEx 16x8 0 0 31 15 from 0 0 15 7 and", "ExtractRasterPicture 16x8 1 2 3 4",
                             "ExtractRasterPictureEx 16x8 1 2 3 4 to 5 6 7 7", "AlphaBlend 16x8 0 0 15 7 127",
@@ -191,23 +179,21 @@ TEST_F(PaintLogTest, PartsImagesClipsAndMappingsAreWritten)
 {
     static char const* lines[] = {"2 1 2 1", ". c #FFFFFF", "# c #000000", ".#"};
     m_Host.Paint();
-    EXPECT_THAT(CallsOf(
-                    [&](IPainter& p)
-                    {
-                        p.DrawControlElement(IPainter::cePushButton, 0, 0, 39, 19, IPainter::esPressed);
-                        XPMImage const image(XPMBuf(lines, true));
-                        p.DrawXPM(image, 3, 4, 0, 0, -1, -1, IPainter::roCopy);
-                        p.DrawXPM(image, 3, 4, 1, 0, 1, 1, IPainter::roXor);
-                        p.SetClipRect(0, 0, 9, 9, false);
-                        p.SetClipRect(2, 2, 7, 7, true);
-                        p.SimpleSetClipRect({0, 0, 10, 10}, false);
-                        IPainter::CoordInfo info;
-                        info.m_LogicalExtent = {20, 40};
-                        info.m_DeviceOrigin = {10, 5};
-                        info.m_DeviceExtent = {20, -40};
-                        p.SetCoordSystem(IPainter::mmCustom, &info);
-                        p.SetCoordSystem(IPainter::mmDevice, nullptr);
-                    }),
+    EXPECT_THAT(CallsOf([&](IPainter& p) {
+                    p.DrawControlElement(IPainter::cePushButton, 0, 0, 39, 19, IPainter::esPressed);
+                    XPMImage const image(XPMBuf(lines, true));
+                    p.DrawXPM(image, 3, 4, 0, 0, -1, -1, IPainter::roCopy);
+                    p.DrawXPM(image, 3, 4, 1, 0, 1, 1, IPainter::roXor);
+                    p.SetClipRect(0, 0, 9, 9, false);
+                    p.SetClipRect(2, 2, 7, 7, true);
+                    p.SimpleSetClipRect({0, 0, 10, 10}, false);
+                    IPainter::CoordInfo info;
+                    info.m_LogicalExtent = {20, 40};
+                    info.m_DeviceOrigin = {10, 5};
+                    info.m_DeviceExtent = {20, -40};
+                    p.SetCoordSystem(IPainter::mmCustom, &info);
+                    p.SetCoordSystem(IPainter::mmDevice, nullptr);
+                }),
                 ElementsAre("DrawControlElement 7 0 0 39 19 0x8", "DrawXPM 2x1 3 4", "DrawXPM 2x1 3 4 from 1 0 1 1 xor",
                             "SetClipRect 0 0 9 9", "SetClipRect 2 2 7 7 exclude", "SimpleSetClipRect 0 0 10 10",
                             "SetCoordSystem 3 0 0 20 40 10 5 20 -40", "SetCoordSystem 0"));
@@ -298,8 +284,7 @@ protected:
         CTestHost host(20, 20);
         CCanvas canvas(host.Root(), {20, 20}, alClient);
         host.Paint();
-        canvas.m_Draw = [](IPainter& p)
-        {
+        canvas.m_Draw = [](IPainter& p) {
             p.MoveTo(1, 1);
             p.LineTo(2, 2);
             p.LineTo(3, 3);

@@ -22,4 +22,4 @@ void CAliveLink::Cancel()
     throw cancel_processing();
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -71,4 +71,4 @@ public:
 /// Guards an element, most often the one whose operation runs.
 using CAliveGuard = CAlivePtr<CVisualElement const>;
 
-} // namespace vexel
+}  // namespace vexel

@@ -34,4 +34,4 @@ CBase::CBase() : m_Dynamic(s_NextIsDynamic)
 
 CBase::~CBase() = default;
 
-} // namespace vexel
+}  // namespace vexel

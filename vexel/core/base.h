@@ -38,4 +38,4 @@ private:
     static void* s_NextBlock;
 };
 
-} // namespace vexel
+}  // namespace vexel

@@ -23,11 +23,10 @@ template <class Work> void Guarded(Work const& work)
         work();
     }
     catch (cancel_processing const&)
-    {
-    }
+    {}
 }
 
-} // namespace
+}  // namespace
 
 CBaseControl::CBaseControl(ISysWindow* window) : CVexelControl(window, false)
 {
@@ -126,14 +125,12 @@ bool CBaseControl::CopyToClipboard()
 template <class Process, class Base> void CBaseControl::Pass(Process const& process, Base const& base)
 {
     CAlivePtr<CBaseControl> const alive(this);
-    Guarded(
-        [&]
-        {
-            if (m_Imp)
-                process(*m_Imp);
-            if (alive)
-                base();
-        });
+    Guarded([&] {
+        if (m_Imp)
+            process(*m_Imp);
+        if (alive)
+            base();
+    });
 }
 
 void CBaseControl::OnDraw(IPainter* painter)
@@ -165,31 +162,27 @@ void CBaseControl::OnDestroy(CWindowEvent* event)
 void CBaseControl::OnGetFocus(CFocusEvent* event)
 {
     CAlivePtr<CBaseControl> const alive(this);
-    Guarded(
-        [&]
-        {
-            if (m_Imp)
-                m_Imp->ProcessGetFocus();
-            if (alive)
-                CVexelControl::OnGetFocus(event);
-            if (alive)
-                m_SigGetFocus(this);
-        });
+    Guarded([&] {
+        if (m_Imp)
+            m_Imp->ProcessGetFocus();
+        if (alive)
+            CVexelControl::OnGetFocus(event);
+        if (alive)
+            m_SigGetFocus(this);
+    });
 }
 
 void CBaseControl::OnLostFocus(CFocusEvent* event)
 {
     CAlivePtr<CBaseControl> const alive(this);
-    Guarded(
-        [&]
-        {
-            if (m_Imp)
-                m_Imp->ProcessLostFocus();
-            if (alive)
-                CVexelControl::OnLostFocus(event);
-            if (alive)
-                m_SigLostFocus(this);
-        });
+    Guarded([&] {
+        if (m_Imp)
+            m_Imp->ProcessLostFocus();
+        if (alive)
+            CVexelControl::OnLostFocus(event);
+        if (alive)
+            m_SigLostFocus(this);
+    });
 }
 
 void CBaseControl::OnTooltip(CTooltipEvent* event)
@@ -197,12 +190,10 @@ void CBaseControl::OnTooltip(CTooltipEvent* event)
     CAlivePtr<CBaseControl> const alive(this);
     int const x = event->m_X;
     int const y = event->m_Y;
-    Guarded(
-        [&]
-        {
-            if (m_Imp)
-                m_Imp->ProcessTooltip(event);
-        });
+    Guarded([&] {
+        if (m_Imp)
+            m_Imp->ProcessTooltip(event);
+    });
     // The position went up the tree with the event.
     event->m_X = x;
     event->m_Y = y;
@@ -215,21 +206,20 @@ void CBaseControl::OnTooltipTrack(CTooltipEvent* event)
     CAlivePtr<CBaseControl> const alive(this);
     int const x = event->m_X;
     int const y = event->m_Y;
-    Guarded(
-        [&]
-        {
-            if (m_Imp)
-                m_Imp->ProcessTooltipTrack(event);
-            event->m_X = x;
-            event->m_Y = y;
-            if (alive)
-                CVexelControl::OnTooltipTrack(event);
-        });
+    Guarded([&] {
+        if (m_Imp)
+            m_Imp->ProcessTooltipTrack(event);
+        event->m_X = x;
+        event->m_Y = y;
+        if (alive)
+            CVexelControl::OnTooltipTrack(event);
+    });
 }
 
 void CBaseControl::OnButtonDown(CMouseEvent* event)
 {
-    Pass([=](CBaseControlImp& imp) { imp.ProcessButtonDown(event); }, [=, this] { CVexelControl::OnButtonDown(event); });
+    Pass([=](CBaseControlImp& imp) { imp.ProcessButtonDown(event); },
+         [=, this] { CVexelControl::OnButtonDown(event); });
 }
 
 void CBaseControl::OnButtonUp(CMouseEvent* event)
@@ -249,7 +239,8 @@ void CBaseControl::OnWheel(CMouseWheelEvent* event)
 
 void CBaseControl::OnDoubleClick(CMouseEvent* event)
 {
-    Pass([=](CBaseControlImp& imp) { imp.ProcessDoubleClick(event); }, [=, this] { CVexelControl::OnDoubleClick(event); });
+    Pass([=](CBaseControlImp& imp) { imp.ProcessDoubleClick(event); },
+         [=, this] { CVexelControl::OnDoubleClick(event); });
 }
 
 void CBaseControl::OnHover(CMouseEvent* event)
@@ -264,60 +255,53 @@ void CBaseControl::OnLeave(CMouseEvent* event)
 
 void CBaseControl::OnContextMenu(CContextMenuEvent* event)
 {
-    Pass([=](CBaseControlImp& imp) { imp.ProcessContextMenu(event); }, [=, this] { CVexelControl::OnContextMenu(event); });
+    Pass([=](CBaseControlImp& imp) { imp.ProcessContextMenu(event); },
+         [=, this] { CVexelControl::OnContextMenu(event); });
 }
 
 void CBaseControl::OnKeyDown(CKeyboardEvent* event)
 {
     CAlivePtr<CBaseControl> const alive(this);
-    Guarded(
-        [&]
-        {
-            if (m_CopyShortcut && event->m_Keys == ksControl && event->GetVirtualKey() == 'C' && CopyToClipboard())
-                return;
-            alive.Check();
-            if (m_Imp)
-                m_Imp->ProcessKeyDown(event);
-            if (alive && event->m_PassOn)
-                CVexelControl::OnKeyDown(event);
-        });
+    Guarded([&] {
+        if (m_CopyShortcut && event->m_Keys == ksControl && event->GetVirtualKey() == 'C' && CopyToClipboard())
+            return;
+        alive.Check();
+        if (m_Imp)
+            m_Imp->ProcessKeyDown(event);
+        if (alive && event->m_PassOn)
+            CVexelControl::OnKeyDown(event);
+    });
 }
 
 void CBaseControl::OnKeyUp(CKeyboardEvent* event)
 {
     CAlivePtr<CBaseControl> const alive(this);
-    Guarded(
-        [&]
-        {
-            if (m_Imp)
-                m_Imp->ProcessKeyUp(event);
-            if (alive && event->m_PassOn)
-                CVexelControl::OnKeyUp(event);
-        });
+    Guarded([&] {
+        if (m_Imp)
+            m_Imp->ProcessKeyUp(event);
+        if (alive && event->m_PassOn)
+            CVexelControl::OnKeyUp(event);
+    });
 }
 
 void CBaseControl::OnChar(CKeyboardEvent* event)
 {
     CAlivePtr<CBaseControl> const alive(this);
-    Guarded(
-        [&]
-        {
-            if (m_Imp)
-                m_Imp->ProcessChar(event);
-            if (alive && event->m_PassOn)
-                CVexelControl::OnChar(event);
-        });
+    Guarded([&] {
+        if (m_Imp)
+            m_Imp->ProcessChar(event);
+        if (alive && event->m_PassOn)
+            CVexelControl::OnChar(event);
+    });
 }
 
 void CBaseControl::OnSysColorChanged(CEvent*)
 {
     CAlivePtr<CBaseControl> const alive(this);
-    Guarded(
-        [&]
-        {
-            if (m_Imp)
-                m_Imp->ProcessSysColorChanged();
-        });
+    Guarded([&] {
+        if (m_Imp)
+            m_Imp->ProcessSysColorChanged();
+    });
     if (alive)
         Guarded([&] { m_SigSysColorChanged(this); });
 }
@@ -332,4 +316,4 @@ void CBaseControl::OnCustomEvent(CCustomEvent* event)
     Guarded([&] { m_Imp->ProcessCustom(event); });
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -78,4 +78,4 @@ private:
     bool m_CopyShortcut = false;
 };
 
-} // namespace vexel
+}  // namespace vexel

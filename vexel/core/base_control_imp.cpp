@@ -202,4 +202,4 @@ void CBaseControlImp::Forget(CVisualElement* element)
         GiveUpRoot();  // it has moved into another tree
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -101,11 +101,11 @@ public:
 private:
     enum MouseFlags : unsigned
     {
-        mfClicked = 16,           // a button is down
-        mfMakeBackground = 32,    // a drag has started: the next paint makes the picture of the screen
-        mfPutBackground = 64,     // a drag has ended: the next paint puts the picture back and drops it
-        mfAccepted = 128,         // the drag lies over a target that would take it
-        mfRefused = 256           // no new attempt until the button comes up
+        mfClicked = 16,         // a button is down
+        mfMakeBackground = 32,  // a drag has started: the next paint makes the picture of the screen
+        mfPutBackground = 64,   // a drag has ended: the next paint puts the picture back and drops it
+        mfAccepted = 128,       // the drag lies over a target that would take it
+        mfRefused = 256         // no new attempt until the button comes up
     };
 
     struct SPass;
@@ -143,8 +143,8 @@ private:
     CVisualElement* m_TabHandler = nullptr;
     CElementList m_Updates{true};  // wait for a repaint
     CElementList m_Rearranges;     // their children wait for a layout
-    SPass* m_Passes = nullptr;  // layout passes on the stack, innermost first
-    bool m_FullUpdate = false;  // the next paint paints everything
+    SPass* m_Passes = nullptr;     // layout passes on the stack, innermost first
+    bool m_FullUpdate = false;     // the next paint paints everything
     bool m_RearrangeNeeded = true;
     bool m_RearrangeAgain = false;  // asked for during a layout
     bool m_InRearrange = false;
@@ -160,4 +160,4 @@ private:
     unsigned m_MouseFlags = 0;
 };
 
-} // namespace vexel
+}  // namespace vexel

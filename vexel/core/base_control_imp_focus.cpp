@@ -205,4 +205,4 @@ void CBaseControlImp::ProcessControlDestroy()
         m_Root->ProcessControlDestroy();
 }
 
-} // namespace vexel
+}  // namespace vexel

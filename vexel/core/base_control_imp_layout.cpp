@@ -15,7 +15,7 @@ namespace
 // Elements that ask for each other in turn would go on for ever; after so many rounds the rest is dropped.
 constexpr int s_MaxRounds = 64;
 
-} // namespace
+}  // namespace
 
 void CBaseControlImp::RearrangeElement(CVisualElement* element)
 {
@@ -174,4 +174,4 @@ rectangle<int> CBaseControlImp::GetRealDrawRect() const
     return rect;
 }
 
-} // namespace vexel
+}  // namespace vexel

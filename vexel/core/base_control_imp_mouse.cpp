@@ -47,7 +47,7 @@ void KeepWithin(int& low, int& high, int limitLow, int limitHigh)
     }
 }
 
-} // namespace
+}  // namespace
 
 // Mouse ----------------------------------------------------------------------------------------------------------------------
 
@@ -347,4 +347,4 @@ void CBaseControlImp::FinishDrag(CVisualElement* draggedElement, point<int> cons
         m_SigDragEnd(dragged.get());
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -172,4 +172,4 @@ void CBaseControlImp::ScrollContent(int dx, int dy, screen_rectangle<int> const&
     painter->EndPaint();
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -39,4 +39,4 @@ CClipHolder::~CClipHolder()
         m_Painter->SimpleSetClipRect(m_SavedClip, false);
 }
 
-} // namespace vexel
+}  // namespace vexel

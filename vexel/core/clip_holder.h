@@ -23,4 +23,4 @@ private:
     IPainter* m_Painter;
 };
 
-} // namespace vexel
+}  // namespace vexel

@@ -16,4 +16,4 @@ public:
     virtual void Show(int x, int y, CVisualElement* element) = 0;
 };
 
-} // namespace vexel
+}  // namespace vexel

@@ -23,7 +23,7 @@ public:
     signal_t<> m_SigBeforeRearrange;
     signal_t<> m_SigAfterRearrange;
     signal_t<> m_SigBeforeDraw;
-    signal_t<> m_SigAfterDraw;                         ///< Also when the paint had nothing to draw.
+    signal_t<> m_SigAfterDraw;                          ///< Also when the paint had nothing to draw.
     signal_t<CVisualElement*, int, int> m_SigDragMove;  ///< Dragged element, pointer in control pixels.
     signal_t<CVisualElement*> m_SigDragEnd;
     signal_t<> m_SigWindowDestroyed;
@@ -35,13 +35,13 @@ public:
     virtual ISysWindow* GetWindow() = 0;  ///< Null without a window, or when it is gone.
     virtual IImageList* GetImageList() = 0;
     virtual void SetImageList(IImageList* list) = 0;
-    virtual int GetUpdatesLastPos() const = 0;     ///< How many elements wait for a repaint.
-    virtual void ClearUpdates(int keep) = 0;       ///< Drops the waiting ones from index `keep` on.
+    virtual int GetUpdatesLastPos() const = 0;  ///< How many elements wait for a repaint.
+    virtual void ClearUpdates(int keep) = 0;    ///< Drops the waiting ones from index `keep` on.
     /// Starts a drag by program; the element follows the pointer from the next move on.
     virtual void StartDragging(CVisualElement* element, DragInfo const& info) = 0;
     virtual size<int> GetDragStartSensitivity() const = 0;
     virtual void SetDragStartSensitivity(size<int> const& distance) = 0;  ///< A move of up to this is no drag.
-    virtual bool IsClicked() const = 0;            ///< A button is down in the control.
+    virtual bool IsClicked() const = 0;                                   ///< A button is down in the control.
     /// The window moves the pixels of `area` (control pixels, right and bottom included) now.
     virtual void ScrollContent(int dx, int dy, screen_rectangle<int> const& area) = 0;
     /// Completes the pending layout now; during a layout the request is remembered and served after it.
@@ -57,9 +57,11 @@ public:
     /// Whose tab walk the next tab uses in place of the focused element's parent; until the focus moves.
     virtual void SetTabHandler(CVisualElement* element) = 0;
     virtual void UpdateElement(CVisualElement* element, UpdateType type) = 0;  ///< The end of the change chain.
-    virtual void RearrangeElement(CVisualElement* element) = 0;  ///< The end of the rearrange chain: its parent lays out.
-    virtual bool IsTabKeyProcessing() const = 0;  ///< The focus is moving by the tab key.
-    virtual void ActivateHelp(std::string const& id) const = 0;  ///< Fires the host's m_SigHelp; nothing for an empty id.
+    virtual void
+    RearrangeElement(CVisualElement* element) = 0;  ///< The end of the rearrange chain: its parent lays out.
+    virtual bool IsTabKeyProcessing() const = 0;    ///< The focus is moving by the tab key.
+    virtual void
+    ActivateHelp(std::string const& id) const = 0;  ///< Fires the host's m_SigHelp; nothing for an empty id.
     virtual void SetMouseElement(CVisualElement* element) = 0;
     virtual CVisualElement* GetDraggedElement() const = 0;
     virtual void SetDragTarget(CVisualElement* element) = 0;
@@ -68,4 +70,4 @@ public:
     virtual ~IControl();
 };
 
-} // namespace vexel
+}  // namespace vexel

@@ -23,7 +23,7 @@ int Scaled(int value, double factor)
     return factor > 1.0 ? ToInt(value * factor) : value;
 }
 
-} // namespace
+}  // namespace
 
 void ApplyDPIScale(rectangle<int>& rect)
 {
@@ -43,4 +43,4 @@ void ApplyDPIScale(int& value)
     value = Scaled(value, GetFactor());
 }
 
-} // namespace vexel
+}  // namespace vexel

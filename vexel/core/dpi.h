@@ -12,4 +12,4 @@ VEXEL_API void ApplyDPIScale(rectangle<int>& rect);
 VEXEL_API void ApplyDPIScale(size<int>& extent);
 VEXEL_API void ApplyDPIScale(int& value);
 
-} // namespace vexel
+}  // namespace vexel

@@ -64,4 +64,4 @@ void CDropTarget::DropDone(CVisualElement* source, CVisualElement* target, int x
         HandleDropDone(source, x, y, info);
 }
 
-} // namespace vexel
+}  // namespace vexel

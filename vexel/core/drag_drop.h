@@ -77,4 +77,4 @@ public:
     signal_t<CVisualElement*, CVisualElement*, int, int, DragInfo*, bool*> m_SigDropDone;
 };
 
-} // namespace vexel
+}  // namespace vexel

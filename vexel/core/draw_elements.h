@@ -12,4 +12,4 @@ namespace vexel
 /// Leaves the last element's mapping in the painter.
 VEXEL_API void DrawElements(IVisualElements* list, IPainter* painter, rectangle<int> const& clip);
 
-} // namespace vexel
+}  // namespace vexel

@@ -11,8 +11,8 @@ IDrawingContext::~IDrawingContext() = default;
 
 unsigned long CDrawingContext::GetPixel(long x, long y)
 {
-    return m_Painter->GetPixel(static_cast<double>(x) * m_ScaleX + m_OriginX,
-                               static_cast<double>(y) * m_ScaleY + m_OriginY)
+    return m_Painter
+               ->GetPixel(static_cast<double>(x) * m_ScaleX + m_OriginX, static_cast<double>(y) * m_ScaleY + m_OriginY)
                .m_Value &
            0xFFFFFFu;
 }
@@ -23,4 +23,4 @@ void CDrawingContext::SetPixel(long x, long y, unsigned long value)
                         _color(static_cast<std::uint32_t>(value)));
 }
 
-} // namespace vexel
+}  // namespace vexel

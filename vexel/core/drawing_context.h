@@ -22,8 +22,7 @@ public:
     explicit CDrawingContext(IPainter* painter, double originX = 0, double originY = 0, double scaleX = 1,
                              double scaleY = 1)
         : m_Painter(painter), m_OriginX(originX), m_OriginY(originY), m_ScaleX(scaleX), m_ScaleY(scaleY)
-    {
-    }
+    {}
 
     unsigned long GetPixel(long x, long y) override;  ///< The top byte is cleared.
     void SetPixel(long x, long y, unsigned long value) override;
@@ -36,4 +35,4 @@ private:
     double m_ScaleY;
 };
 
-} // namespace vexel
+}  // namespace vexel

@@ -163,7 +163,7 @@ std::size_t HashPointer(CVisualElement const* element)
     return static_cast<std::size_t>(value * 0x9E3779B97F4A7C15u >> 32);
 }
 
-} // namespace
+}  // namespace
 
 CVisualElement* CElementList::GetItem(int index)
 {
@@ -364,4 +364,4 @@ void CElementList::Compact()
         BuildTable();
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -67,7 +67,7 @@ private:
 
     CVisualElement* const m_Owner;
     CVisualElement** m_Items = nullptr;
-    int m_Head = 0;      // free places before the first item
+    int m_Head = 0;  // free places before the first item
     int m_Count = 0;
     int m_Capacity = 0;
     bool m_Loose = false;  // holds items that are not children of the owner: they may stand twice
@@ -94,7 +94,7 @@ public:
     bool Contains(CVisualElement const* element) const;
     /// Sets the entries that have an ancestor in the list to null. The indices stay, and so does the count.
     void Reduce();
-    void DropHidden();  ///< Sets the entries that are not displayable to null.
+    void DropHidden();     ///< Sets the entries that are not displayable to null.
     void Clear(int keep);  ///< Drops the entries from index `keep` on, all of them if it is below 1.
     /// Takes over the entries of the other list, which is empty afterwards. Keeps the memory of both.
     void TakeFrom(CElementList& other);
@@ -148,4 +148,4 @@ private:
     std::uint32_t m_UsedPlaces = 0;
 };
 
-} // namespace vexel
+}  // namespace vexel

@@ -24,7 +24,10 @@ namespace detail
 extern VEXEL_API IElementObserver* g_ElementObserver;
 }
 
-inline IElementObserver* GetElementObserver() { return detail::g_ElementObserver; }
+inline IElementObserver* GetElementObserver()
+{
+    return detail::g_ElementObserver;
+}
 
 /// Installs the one observer; not owned, null takes it away. Returns the one before.
 VEXEL_API IElementObserver* SetElementObserver(IElementObserver* observer);

@@ -16,7 +16,7 @@ _color OrSystemColor(_color const& color, ISysPalette::SysColor number)
     return palette ? palette->GetColor(number) : color;
 }
 
-} // namespace
+}  // namespace
 
 void SBkFgElement::ProcessFlashed()
 {
@@ -88,4 +88,4 @@ void CPaletteRoutine::ProcessNormal()
         element.ProcessNormal();
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -74,4 +74,4 @@ private:
     std::vector<SPaletteElement> m_Elements;
 };
 
-} // namespace vexel
+}  // namespace vexel

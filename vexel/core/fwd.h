@@ -18,7 +18,7 @@ class IPainter;
 class IRasterPicture;
 class ISysWindow;
 
-} // namespace vexelbase
+}  // namespace vexelbase
 
 namespace vexel
 {
@@ -40,4 +40,4 @@ class IControl;
 class IVisualElements;
 struct DragInfo;
 
-} // namespace vexel
+}  // namespace vexel

@@ -11,7 +11,7 @@ bool IsTurned(double low, double high)
     return low > high;
 }
 
-} // namespace
+}  // namespace
 
 bool CInvalidRegion::LeftIsInvalid(rectangle<double> const& whole, rectangle<double> const& valid)
 {
@@ -74,4 +74,4 @@ void CInvalidRegion::Add(double left, double top, double right, double bottom)
     m_Rects[m_Count++] = {left, top, right, bottom};
 }
 
-} // namespace vexel
+}  // namespace vexel

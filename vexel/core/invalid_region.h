@@ -34,4 +34,4 @@ private:
     rectangle<double> m_Rects[4];
 };
 
-} // namespace vexel
+}  // namespace vexel

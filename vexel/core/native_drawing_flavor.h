@@ -17,4 +17,4 @@ protected:
     bool m_NativeDrawing;
 };
 
-} // namespace vexel
+}  // namespace vexel

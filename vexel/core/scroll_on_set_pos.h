@@ -13,4 +13,4 @@ namespace vexel
 VEXEL_API bool ScrollOnSetPos(CVisualElement* element, rectangle<int> const& newPos, rectangle<int> const& oldPos,
                               rectangle<int> const& bounds);
 
-} // namespace vexel
+}  // namespace vexel

@@ -38,4 +38,4 @@ void XORRectDrawer::DrawSelection(IPainter* painter, double oldLeft, double oldT
     DrawRect(painter, newLeft, newTop, newRight, newBottom);
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -25,4 +25,4 @@ struct VEXEL_API XORRectDrawer
                               double newLeft, double newTop, double newRight, double newBottom);
 };
 
-} // namespace vexel
+}  // namespace vexel

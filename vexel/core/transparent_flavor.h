@@ -24,4 +24,4 @@ protected:
     bool m_Transparent = false;
 };
 
-} // namespace vexel
+}  // namespace vexel

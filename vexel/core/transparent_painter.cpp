@@ -10,13 +10,10 @@ namespace vexel
 {
 
 CTransparentPainter::CTransparentPainter(IPainter* target, rectangle<int> const& rect, int alpha)
-    : m_Target(target),
-      m_Rect(rect),
-      m_Picture(GetCurrentSystem()->CreateRasterPicture(
-          {AddSaturated(std::max(SubtractSaturated(rect.right, rect.left), -1), 1),
-           AddSaturated(std::max(SubtractSaturated(rect.bottom, rect.top), -1), 1)})),
-      m_Painter(m_Picture->GetPainter()),
-      m_Alpha(alpha)
+    : m_Target(target), m_Rect(rect), m_Picture(GetCurrentSystem()->CreateRasterPicture(
+                                          {AddSaturated(std::max(SubtractSaturated(rect.right, rect.left), -1), 1),
+                                           AddSaturated(std::max(SubtractSaturated(rect.bottom, rect.top), -1), 1)})),
+      m_Painter(m_Picture->GetPainter()), m_Alpha(alpha)
 {
     m_Painter->BeginPaint(IPainter::ssPaint);
 }
@@ -27,4 +24,4 @@ CTransparentPainter::~CTransparentPainter()
     m_Target->AlphaBlend(m_Rect.left, m_Rect.top, m_Rect.right, m_Rect.bottom, m_Picture.get(), m_Alpha);
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -30,4 +30,4 @@ private:
     int m_Alpha;
 };
 
-} // namespace vexel
+}  // namespace vexel

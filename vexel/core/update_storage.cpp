@@ -20,4 +20,4 @@ IDirtyItemSet::DirtyType CUpdateStorage::GetItemType(int index) const
     return dirtyOther;
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -28,4 +28,4 @@ private:
     std::vector<std::pair<int, int>> m_Items;
 };
 
-} // namespace vexel
+}  // namespace vexel

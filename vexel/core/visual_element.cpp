@@ -387,4 +387,4 @@ bool IsAncestor(CVisualElement const* element, CVisualElement const* ancestor)
     return false;
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -29,8 +29,8 @@ namespace vexel
 /// handler of the same element; it can't consume, but a slot or handler may throw vexel::cancel_processing to end the
 /// native event, and may delete any element: the chain then ends. Belongs to the GUI thread.
 class VEXEL_API CVisualElement : public CBase,
-                                 public CDragSource,    // dragging
-                                 public CDropTarget,    // and being dropped on need no class of their own
+                                 public CDragSource,  // dragging
+                                 public CDropTarget,  // and being dropped on need no class of their own
                                  public subscriber_base_t
 {
 public:
@@ -43,10 +43,12 @@ public:
     CMouseSignal m_SigMouseMove;
     CMouseSignal m_SigClick;  ///< Pressed and released here; before m_SigButtonUp.
     CMouseSignal m_SigDoubleClick;
-    signal_t<CVisualElement*, int, int, int, MouseButton, int> m_SigWheel;  ///< Last: whole notches, above 0 away from the user.
+    signal_t<CVisualElement*, int, int, int, MouseButton, int>
+        m_SigWheel;  ///< Last: whole notches, above 0 away from the user.
     signal_t<CVisualElement*> m_SigMouseHover;
     signal_t<CVisualElement*> m_SigMouseLeave;
-    signal_t<CVisualElement*, int, int> m_SigKeyDown;  ///< Keys, virtual key. Fires on all ancestors, also once consumed.
+    signal_t<CVisualElement*, int, int>
+        m_SigKeyDown;  ///< Keys, virtual key. Fires on all ancestors, also once consumed.
     signal_t<CVisualElement*, int, int> m_SigKeyUp;
     signal_t<CVisualElement*, char> m_SigChar;
     signal_t<CVisualElement*, CTooltipEvent*> m_SigTooltip;
@@ -54,14 +56,16 @@ public:
     signal_t<CVisualElement*, int, int> m_SigContextMenu;  ///< x, y in own pixels.
     signal_t<CVisualElement*> m_SigGetFocus;
     signal_t<CVisualElement*> m_SigLostFocus;
-    signal_t<CVisualElement*, CVisualElement*> m_SigChildGetFocus;   ///< First the element that gets it, then this one.
-    signal_t<CVisualElement*, CVisualElement*> m_SigChildLostFocus;  ///< First the element that loses it, then this one.
+    signal_t<CVisualElement*, CVisualElement*> m_SigChildGetFocus;  ///< First the element that gets it, then this one.
+    signal_t<CVisualElement*, CVisualElement*>
+        m_SigChildLostFocus;                         ///< First the element that loses it, then this one.
     signal_t<CVisualElement*, IPainter*> m_SigDraw;  ///< Before DrawContent. Changes asked for here are not painted.
     signal_t<CVisualElement*, bool> m_SigVisible;    ///< The element's own flag has changed.
     signal_t<CVisualElement*> m_SigControlDestroy;   ///< The control's window goes, the tree lives on.
-    signal_t<CVisualElement*, std::string&> m_SigAsString;  ///< A slot that fills in text answers in the element's place.
+    signal_t<CVisualElement*, std::string&>
+        m_SigAsString;  ///< A slot that fills in text answers in the element's place.
     signal_t<CVisualElement*, bool&> m_SigCopyToClipboard;  ///< Whether copying is allowed; may be changed.
-    signal_t<CVisualElement*> m_SigDestroy;          ///< First step of the destructor: only this class's part still lives.
+    signal_t<CVisualElement*> m_SigDestroy;  ///< First step of the destructor: only this class's part still lives.
 
     /// `extent`: what the element asks for when it is docked; multiplied by the display scale if automatic scaling is on.
     /// With a parent the element becomes its last child and, if dynamic, its property.
@@ -107,7 +111,7 @@ public:
     virtual bool HandleGetBkImage(vexel_ptr<IRasterPicture>&, _color&, rectangle<int>&) { return false; }
 
     // Overridable: change and layout ---------------------------------------------------------------------------------------
-    virtual void UpdateElement() {}                        ///< A change of the whole control (utGlobal).
+    virtual void UpdateElement() {}                         ///< A change of the whole control (utGlobal).
     virtual bool ScrollContent(int, int) { return false; }  ///< True: repaint this element as a whole. See Scroll.
     virtual bool IsScrollableOnSetPos() const { return true; }
     virtual void ProcessSetControl(IControl*) {}  ///< Before the control changes; GetControl() is still the old one.
@@ -151,7 +155,10 @@ public:
     /// The rearrange chain passes by; `*element` may be replaced by this element or cleared to swallow the request.
     virtual void ProcessRearrange(CVisualElement**) {}
     virtual void ProcessChange(CVisualElement**) {}  ///< The same for the change chain.
-    virtual bool BeforeProcessChange(CVisualElement*, UpdateType) { return true; }  ///< False: ProcessChange isn't asked.
+    virtual bool BeforeProcessChange(CVisualElement*, UpdateType)
+    {
+        return true;
+    }                                       ///< False: ProcessChange isn't asked.
     virtual bool IsControlFocused() const;  ///< Default: asks the parent; false without one.
     virtual std::string HandleAsString() const { return {}; }
     virtual bool HandleCopyToClipboard() const;  ///< Default: the free CopyToClipboard(this).
@@ -185,13 +192,13 @@ public:
     // Geometry ---------------------------------------------------------------------------------------------------------------
     rectangle<int> const& GetPos() const { return m_Pos; }  ///< Parent's pixels.
     size<int> const& GetSize() const { return m_Size; }     ///< What is asked for when docked.
-    void SetWidth(int width, bool scale);    ///< By SetSize; with `scale` the other member is scaled as well.
+    void SetWidth(int width, bool scale);  ///< By SetSize; with `scale` the other member is scaled as well.
     void SetHeight(int height, bool scale);
     rectangle<int> GetBounds() const
     {
         return {0, 0, SubtractSaturated(m_Pos.right, m_Pos.left), SubtractSaturated(m_Pos.bottom, m_Pos.top)};
     }
-    rectangle<int> GetValidRect() const;     ///< The part whose picture still stands; own pixels.
+    rectangle<int> GetValidRect() const;  ///< The part whose picture still stands; own pixels.
     void SetValidRect(rectangle<int> const& rect) { m_ValidRect = rect; }  ///< Parent's pixels.
     Alignment GetAlignment() const { return m_Alignment; }
     void ElementToControl(point<int>* position) const;
@@ -221,7 +228,10 @@ public:
     bool IsTooltipMultiline() const { return m_TooltipMultiline; }
     void SetTooltipMultiline(bool multiline) { m_TooltipMultiline = multiline; }
     IContextMenu* GetContextMenu() const { return m_ContextMenu; }
-    void SetContextMenu(IContextMenu* menu) { m_ContextMenu = menu; }  ///< Not owned; must outlive the element's use of it.
+    void SetContextMenu(IContextMenu* menu)
+    {
+        m_ContextMenu = menu;
+    }  ///< Not owned; must outlive the element's use of it.
 
     // Look -------------------------------------------------------------------------------------------------------------------
     void SetFont(font const& value);  ///< Size 0, family 4, style 0 and an empty name leave the default's.
@@ -393,4 +403,4 @@ struct PositionComparer
     }
 };
 
-} // namespace vexel
+}  // namespace vexel

@@ -153,4 +153,4 @@ void CVisualElement::Scroll(int dx, int dy, bool repaint)
     }
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -234,7 +234,7 @@ CDelegations& Delegations()
     return *delegations;
 }
 
-} // namespace
+}  // namespace
 
 void CVisualElement::SetKeyDelegate(CVisualElement* element)
 {
@@ -273,4 +273,4 @@ void CVisualElement::ForgetKeyDelegates(IControl const* leaving)
         delegator->SetKeyDelegate(nullptr);
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -22,7 +22,7 @@ void ToParent(CVisualElement const& element, int& x, int& y)
     y = AddSaturated(y, element.GetPos().top);
 }
 
-} // namespace
+}  // namespace
 
 // Mouse -------------------------------------------------------------------------------------------------------------------
 
@@ -242,7 +242,7 @@ private:
     bool& m_Waits;
 };
 
-} // namespace
+}  // namespace
 
 // From this element to the root: the signal on every level, the handlers until one consumes.
 template <class Fire, class Handle, class Pass>
@@ -421,4 +421,4 @@ void CVisualElement::ProcessControlDestroy()
     }
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -65,7 +65,7 @@ struct
     point<int> origin;
 } s_LastOrigin;
 
-} // namespace
+}  // namespace
 
 // Sizes ---------------------------------------------------------------------------------------------------------------------
 
@@ -233,8 +233,8 @@ void CVisualElement::ElementToControl(point<int>* position) const
 void CVisualElement::ElementToControl(rectangle<int>* rect) const
 {
     point<int> const origin = GetOrigin();
-    *rect = {AddSaturated(rect->left, origin.x), AddSaturated(rect->top, origin.y),
-             AddSaturated(rect->right, origin.x), AddSaturated(rect->bottom, origin.y)};
+    *rect = {AddSaturated(rect->left, origin.x), AddSaturated(rect->top, origin.y), AddSaturated(rect->right, origin.x),
+             AddSaturated(rect->bottom, origin.y)};
 }
 
 void CVisualElement::ControlToElement(point<int>* position) const
@@ -320,4 +320,4 @@ bool CVisualElement::GetDisplayableRect(rectangle<int>* rect) const
     return displayable;
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -35,7 +35,7 @@ font Combine(font const& own, font const& base)
     return result;
 }
 
-} // namespace
+}  // namespace
 
 // Fonts -------------------------------------------------------------------------------------------------------------------
 
@@ -175,4 +175,4 @@ void CVisualElement::SetFgColor(ISysPalette::SysColor color)
     AttributeChanged();
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -57,7 +57,7 @@ bool IsInside(rectangle<int> const& inner, rectangle<int> const& outer)
            inner.bottom <= outer.bottom;
 }
 
-} // namespace
+}  // namespace
 
 // The element's pass ------------------------------------------------------------------------------------------------------
 
@@ -198,8 +198,8 @@ bool ScrollOnSetPos(CVisualElement* element, rectangle<int> const& newPos, recta
         else
             area.bottom = SubtractSaturated(area.bottom, dy);
         point<int> const corner = element->GetPos().LeftTop();
-        area = {AddSaturated(area.left, corner.x), AddSaturated(area.top, corner.y),
-                AddSaturated(area.right, corner.x), AddSaturated(area.bottom, corner.y)};
+        area = {AddSaturated(area.left, corner.x), AddSaturated(area.top, corner.y), AddSaturated(area.right, corner.x),
+                AddSaturated(area.bottom, corner.y)};
     }
     if (area.IsEmpty())
         return true;
@@ -344,4 +344,4 @@ void CVisualElement::DrawBlendBk(IPainter* painter, rectangle<int> const& rect, 
     painter->AlphaBlend(rect.left, rect.top, rect.right, rect.bottom, picture.get(), alpha);
 }
 
-} // namespace vexel
+}  // namespace vexel

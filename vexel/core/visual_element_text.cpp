@@ -69,4 +69,4 @@ bool CopyToClipboard(CVisualElement const* element)
     return true;
 }
 
-} // namespace vexel
+}  // namespace vexel

@@ -20,4 +20,4 @@ public:
     virtual void Draw(IPainter* painter, double x, double y) = 0;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -21,7 +21,10 @@ CBasePainter::SScratch& CBasePainter::Scratch()
     return *m_Scratch;
 }
 
-double CBasePainter::GetDPIScale() const { return GetSystemScale(); }
+double CBasePainter::GetDPIScale() const
+{
+    return GetSystemScale();
+}
 
 // Brackets ---------------------------------------------------------------------------------------------------------
 
@@ -118,8 +121,7 @@ void CBasePainter::UpdateMapping()
     m_AxisY = {};
     if (m_Mode == mmDevice)
         return;
-    auto const set = [](SAxis& axis, double logicalOrigin, double logicalExtent, int deviceOrigin, int deviceExtent)
-    {
+    auto const set = [](SAxis& axis, double logicalOrigin, double logicalExtent, int deviceOrigin, int deviceExtent) {
         axis.logicalOrigin = logicalOrigin;
         axis.deviceOrigin = deviceOrigin;
         axis.logicalExtent = logicalExtent;
@@ -206,7 +208,10 @@ void CBasePainter::SimpleSetClipRect(rectangle<double> const& rect, bool exclude
         m_Clip.Set(outward);
 }
 
-void CBasePainter::ResetClip() { m_Clip.Reset(); }
+void CBasePainter::ResetClip()
+{
+    m_Clip.Reset();
+}
 
 rectangle<int> CBasePainter::GetVisible() const
 {

@@ -85,11 +85,10 @@ public:
                              RasterOperation operation) override;
     void ExtractRasterPicture(IRasterPicture* picture, double left, double top, double right, double bottom) override;
     void ExtractRasterPictureEx(IRasterPicture* picture, double left, double top, double right, double bottom,
-                                double targetLeft, double targetTop, double targetRight,
-                                double targetBottom) override;
+                                double targetLeft, double targetTop, double targetRight, double targetBottom) override;
     void AlphaBlend(double left, double top, double right, double bottom, IRasterPicture* picture, int alpha) override;
-    void DrawXPM(XPMImage const& image, double x, double y, int sourceX, int sourceY, int sourceWidth,
-                 int sourceHeight, RasterOperation operation) override;
+    void DrawXPM(XPMImage const& image, double x, double y, int sourceX, int sourceY, int sourceWidth, int sourceHeight,
+                 RasterOperation operation) override;
     double GetDPIScale() const override;
 
     using IPainter::ConvertCoord2;
@@ -167,9 +166,9 @@ private:
     struct STextLayout
     {
         std::size_t first = 0;
-        int lineCount = 0;   // all lines
-        int keptCount = 0;   // those that are in m_TextLines
-        int width = 0;       // of the widest line, unshortened
+        int lineCount = 0;  // all lines
+        int keptCount = 0;  // those that are in m_TextLines
+        int width = 0;      // of the widest line, unshortened
         int lineHeight = 0;
     };
     struct STextPlace;
@@ -201,8 +200,8 @@ private:
     bool m_FullPaint = true;
     bool m_FullPaintAnew = false;  // asked for since the outermost ssPaint bracket began
     int m_Depth = 0;
-    int m_PaintDepth = 0;             // ssPaint brackets among them
-    std::vector<SSaved> m_Brackets;   // at least m_Depth; those above keep their memory
+    int m_PaintDepth = 0;            // ssPaint brackets among them
+    std::vector<SSaved> m_Brackets;  // at least m_Depth; those above keep their memory
 
     MapMode m_Mode = mmDevice;
     CoordInfo m_Info;
@@ -220,11 +219,11 @@ private:
     STextFrame m_Frame;
     std::unique_ptr<SScratch> m_Scratch;
     std::vector<STextLine> m_TextLines;
-    font m_MeasuredFont;                   // memory of GetTextSize
-    mutable font m_EffectiveFont;          // valid while m_EffectiveStamp is the present stamp
+    font m_MeasuredFont;           // memory of GetTextSize
+    mutable font m_EffectiveFont;  // valid while m_EffectiveStamp is the present stamp
     mutable fontmetrics m_EffectiveMetrics;
     mutable unsigned m_EffectiveStamp = 0;  // 0: to be found anew
     mutable unsigned m_MetricsStamp = 0;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

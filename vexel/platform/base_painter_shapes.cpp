@@ -18,8 +18,7 @@ namespace
 void FillRound(rectangle<int> const& area, detail::CRoundCorner const& corner, rectangle<int> const& visible,
                detail::IAreaSink& sink)
 {
-    auto const fill = [&](int left, int top, int right, int bottom)
-    {
+    auto const fill = [&](int left, int top, int right, int bottom) {
         rectangle<int> part{left, top, right, bottom};
         part.Intersect(visible);
         if (!part.IsEmpty())
@@ -124,9 +123,9 @@ private:
 
     void Join()
     {
-        std::sort(m_Spans.begin(), m_Spans.end(),
-                  [](SScratch::SSpan const& a, SScratch::SSpan const& b)
-                  { return a.y != b.y ? a.y < b.y : a.left < b.left; });
+        std::sort(m_Spans.begin(), m_Spans.end(), [](SScratch::SSpan const& a, SScratch::SSpan const& b) {
+            return a.y != b.y ? a.y < b.y : a.left < b.left;
+        });
         std::size_t count = 0;
         for (SScratch::SSpan const& span : m_Spans)
         {
@@ -163,7 +162,10 @@ template <class Draw> void CBasePainter::DrawOutline(bool overlaps, Draw draw)
     united.Flush();
 }
 
-void CBasePainter::MoveTo(double x, double y) { m_Position = {x, y}; }
+void CBasePainter::MoveTo(double x, double y)
+{
+    m_Position = {x, y};
+}
 
 void CBasePainter::LineTo(double x, double y)
 {
@@ -190,8 +192,7 @@ void CBasePainter::Rectangle(double left, double top, double right, double botto
 void CBasePainter::RoundRect(double left, double top, double right, double bottom, double radiusX, double radiusY)
 {
     rectangle<int> const area = ToDevice(left, top, right, bottom);
-    auto const radius = [](double extent, int start, int end)
-    {
+    auto const radius = [](double extent, int start, int end) {
         std::int64_t const half = (std::int64_t{end} - start) / 2;
         return static_cast<int>(std::min<std::int64_t>(FloorToInt(std::abs(extent)), half));
     };

@@ -27,8 +27,14 @@ constexpr std::size_t KeptLines = 0x1000;  // memory kept from one text to the n
 constexpr char const* Ellipsis = "...";
 
 // Of a rotated text, which the extents of its upright box take on the device.
-bool IsQuarterTurn(int rotation) { return rotation % 900 == 0; }
-bool IsUpDown(int rotation) { return rotation == 900 || rotation == 2700; }
+bool IsQuarterTurn(int rotation)
+{
+    return rotation % 900 == 0;
+}
+bool IsUpDown(int rotation)
+{
+    return rotation == 900 || rotation == 2700;
+}
 
 int NormalizeRotation(int rotation)
 {
@@ -36,7 +42,10 @@ int NormalizeRotation(int rotation)
     return rotation < 0 ? rotation + 3600 : rotation;
 }
 
-double ToRadians(int rotation) { return rotation * (3.14159265358979323846 / 1800); }
+double ToRadians(int rotation)
+{
+    return rotation * (3.14159265358979323846 / 1800);
+}
 
 // The share of the free room that stands before the text.
 double HorizontalShare(int flags)
@@ -217,12 +226,10 @@ void CBasePainter::DrawRun(int x, int y, char const* text, int length)
     run.x = origin.x;
     run.y = origin.y;
     run.pixel = CPixelBuffer::ToPixel(color);
-    m_Clip.ForEach(area,
-                   [&](rectangle<int> const& part)
-                   {
-                       run.clip = part;
-                       m_Device.DrawRun(run);
-                   });
+    m_Clip.ForEach(area, [&](rectangle<int> const& part) {
+        run.clip = part;
+        m_Device.DrawRun(run);
+    });
 }
 
 rectangle<int> CBasePainter::RunToDevice(rectangle<int> const& rect) const

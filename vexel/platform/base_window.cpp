@@ -22,11 +22,17 @@ void CBaseWindow::SetDevice(std::unique_ptr<CRasterDevice> device)
     m_Painter = CreatePainter(*m_Device);
 }
 
-void CBaseWindow::ReportException() { vexelbase::ReportException("an event handler"); }
+void CBaseWindow::ReportException()
+{
+    vexelbase::ReportException("an event handler");
+}
 
 // Area and frames --------------------------------------------------------------------------------------------------
 
-rectangle<int> CBaseWindow::GetRect() const { return m_Pixels.GetRect(); }
+rectangle<int> CBaseWindow::GetRect() const
+{
+    return m_Pixels.GetRect();
+}
 
 void CBaseWindow::SetEventTarget(CVexelControl* target)
 {

@@ -54,12 +54,13 @@ protected:
     }
 
     // For the backend ---------------------------------------------------------------------------------------------
-    virtual void RequestFrame() = 0;    ///< A frame is wanted: call PaintFrame later, once. Never called while locked.
-    virtual void PresentDamage() = 0;   ///< The surface changed where GetDevice().GetDamage() says; show it and clear that.
+    virtual void RequestFrame() = 0;  ///< A frame is wanted: call PaintFrame later, once. Never called while locked.
+    virtual void
+    PresentDamage() = 0;  ///< The surface changed where GetDevice().GetDamage() says; show it and clear that.
     /// From any thread: call RunQueue on the GUI thread after the present event. Called with the queue locked, so that
     /// it never comes after StartDestroying: it must only leave a note, and call neither Post nor RunQueue.
     virtual void WakeQueue() = 0;
-    virtual void AfterPaint() {}        ///< A paint of the control has ended: deferred native moves and shows are due.
+    virtual void AfterPaint() {}  ///< A paint of the control has ended: deferred native moves and shows are due.
 
     /// The surface takes a new size, keeping what fits; the next paint is a full one. Then OnResize is delivered.
     void ResizeSurface(size<int> const& extent);
@@ -125,4 +126,4 @@ private:
     std::shared_ptr<int> m_Life = std::make_shared<int>(0);
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -45,34 +45,34 @@ struct _color
 
 /// The constant colours, by number.
 inline constexpr _color color_table[28] = {
-    {0x00000000, true}, // 0 none
-    {0xFF000000},       // 1 black
-    {0xFFFF0080},       // 2
-    {0xFF00FFFF},       // 3 yellow
-    {0xFFFF0000},       // 4 blue
-    {0xFFFF00FF},       // 5 magenta
-    {0xFF0000FF},       // 6 red
-    {0xFF4F4F4F},       // 7 dark grey
-    {0xFF7F7F7F},       // 8 grey: text and pen of what is disabled
-    {0xFFFFFFFF},       // 9 white
-    {0xFF8000FF},       // 10
-    {0xFF0080FF},       // 11 orange
-    {0xFFFFFF00},       // 12 cyan
-    {0xFF00FF00},       // 13 green
-    {0xFF2A2AA5},       // 14 brown
-    {0xFF701919},       // 15 midnight blue
-    {0xFFFF901E},       // 16
-    {0xFFD0E040},       // 17 turquoise
-    {0xFF840084},       // 18
-    {0xFF32CD32},       // 19 lime green
-    {0xFF9020D0},       // 20
-    {0xFFCCFFFF},       // 21 pale yellow
-    {0xFFFFCC00},       // 22
-    {0xFFCCCCCC},       // 23 light grey
-    {0xFF33CCFF},       // 24
-    {0xFFFCB8FA},       // 25 pale pink
-    {0xFF92F1A7},       // 26 pale green
-    {0xFF90C1D8},       // 27 sand
+    {0x00000000, true},  // 0 none
+    {0xFF000000},        // 1 black
+    {0xFFFF0080},        // 2
+    {0xFF00FFFF},        // 3 yellow
+    {0xFFFF0000},        // 4 blue
+    {0xFFFF00FF},        // 5 magenta
+    {0xFF0000FF},        // 6 red
+    {0xFF4F4F4F},        // 7 dark grey
+    {0xFF7F7F7F},        // 8 grey: text and pen of what is disabled
+    {0xFFFFFFFF},        // 9 white
+    {0xFF8000FF},        // 10
+    {0xFF0080FF},        // 11 orange
+    {0xFFFFFF00},        // 12 cyan
+    {0xFF00FF00},        // 13 green
+    {0xFF2A2AA5},        // 14 brown
+    {0xFF701919},        // 15 midnight blue
+    {0xFFFF901E},        // 16
+    {0xFFD0E040},        // 17 turquoise
+    {0xFF840084},        // 18
+    {0xFF32CD32},        // 19 lime green
+    {0xFF9020D0},        // 20
+    {0xFFCCFFFF},        // 21 pale yellow
+    {0xFFFFCC00},        // 22
+    {0xFFCCCCCC},        // 23 light grey
+    {0xFF33CCFF},        // 24
+    {0xFFFCB8FA},        // 25 pale pink
+    {0xFF92F1A7},        // 26 pale green
+    {0xFF90C1D8},        // 27 sand
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -52,4 +52,4 @@ inline int SubtractSaturated(int a, int b)
     return SaturateToInt(std::int64_t{a} - b);
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -10,10 +10,24 @@
 namespace vexelbase
 {
 
-enum MouseButton : int { mbNone = 0, mbLeft = 1, mbMiddle = 2, mbRight = 3 };
+enum MouseButton : int
+{
+    mbNone = 0,
+    mbLeft = 1,
+    mbMiddle = 2,
+    mbRight = 3
+};
 
 /// The key state word of input events: the state after the event. No lock keys.
-enum KeyState : int { ksLeft = 0x1, ksRight = 0x2, ksMiddle = 0x4, ksShift = 0x100, ksControl = 0x200, ksAlt = 0x400 };
+enum KeyState : int
+{
+    ksLeft = 0x1,
+    ksRight = 0x2,
+    ksMiddle = 0x4,
+    ksShift = 0x100,
+    ksControl = 0x200,
+    ksAlt = 0x400
+};
 
 /// Virtual keys that the framework names; letters and digits are their upper-case ASCII codes.
 enum VirtualKey : int
@@ -55,8 +69,7 @@ public:
     CMouseWheelEvent() = default;
     CMouseWheelEvent(int x, int y, int keys, MouseButton button, int delta)
         : CMouseEvent(x, y, keys, button), m_Delta(delta)
-    {
-    }
+    {}
 
     int m_Delta = 0;  ///< Whole notches; above 0: away from the user.
 };
@@ -67,11 +80,13 @@ public:
     CKeyboardEvent() = default;
     CKeyboardEvent(int keys, int virtualKey, char character = 0)
         : m_Keys(keys), m_VirtualKey(virtualKey), m_Character(character)
-    {
-    }
+    {}
 
     int GetVirtualKey() const { return m_VirtualKey; }
-    char GetCharacterCode() const { return m_Character; }  ///< One UTF-8 byte; a longer character comes as several events.
+    char GetCharacterCode() const
+    {
+        return m_Character;
+    }  ///< One UTF-8 byte; a longer character comes as several events.
 
     int m_Keys = 0;
     bool m_PassOn = true;  ///< Cleared: the key moved the focus, nobody else may act on it.
@@ -87,7 +102,7 @@ class VEXEL_API CTooltipEvent : public CEvent
 public:
     int m_X = 0;
     int m_Y = 0;
-    rectangle<int> m_HotRect;     ///< While the pointer stays in it the tip stands; control coordinates, all zero: none.
+    rectangle<int> m_HotRect;  ///< While the pointer stays in it the tip stands; control coordinates, all zero: none.
     rectangle<int> m_BoundsRect;  ///< Where the tip should stand; control coordinates, all zero: at the pointer.
     std::string m_Text;           ///< Empty: no tip.
     bool m_Multiline = false;
@@ -108,7 +123,11 @@ public:
 class VEXEL_API CCustomEvent : public CEvent
 {
 public:
-    enum Identifier : int { ceFirstTabElement = 0, ceLastTabElement = 1 };
+    enum Identifier : int
+    {
+        ceFirstTabElement = 0,
+        ceLastTabElement = 1
+    };
 
     explicit CCustomEvent(int id) : m_Id(id) {}
 
@@ -141,23 +160,27 @@ public:
     CEditKeyDownEvent() = default;
     CEditKeyDownEvent(int keys, int virtualKey, char character = 0)
         : m_Keys(keys), m_VirtualKey(virtualKey), m_Character(character)
-    {
-    }
+    {}
 
     int m_Keys = 0;
     int m_VirtualKey = 0;
     char m_Character = 0;
 };
 
-class VEXEL_API CWindowEvent : public CEvent {};
-class VEXEL_API CFocusEvent : public CEvent {};
-class VEXEL_API CTimerEvent : public CEvent {};
-class VEXEL_API CChangeTextEvent : public CEvent {};
-class VEXEL_API CVisibleChangeEvent : public CEvent {};
+class VEXEL_API CWindowEvent : public CEvent
+{};
+class VEXEL_API CFocusEvent : public CEvent
+{};
+class VEXEL_API CTimerEvent : public CEvent
+{};
+class VEXEL_API CChangeTextEvent : public CEvent
+{};
+class VEXEL_API CVisibleChangeEvent : public CEvent
+{};
 class VEXEL_API CEditMouseWheelEvent : public CEvent
 {
 public:
     int m_Delta = 0;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

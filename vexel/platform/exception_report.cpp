@@ -13,7 +13,10 @@ namespace vexelbase
 namespace
 {
 
-void Print(char const* where, char const* what) { std::fprintf(stderr, "vexel: %s has thrown: %s\n", where, what); }
+void Print(char const* where, char const* what)
+{
+    std::fprintf(stderr, "vexel: %s has thrown: %s\n", where, what);
+}
 
 std::atomic<ExceptionReporter> g_Reporter{nullptr};
 
@@ -25,7 +28,10 @@ void Report(char const* where, char const* what)
 
 }  // namespace
 
-ExceptionReporter SetExceptionReporter(ExceptionReporter reporter) { return g_Reporter.exchange(reporter); }
+ExceptionReporter SetExceptionReporter(ExceptionReporter reporter)
+{
+    return g_Reporter.exchange(reporter);
+}
 
 void ReportException(char const* where)
 {

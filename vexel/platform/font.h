@@ -8,8 +8,22 @@ namespace vexelbase
 /// How a text looks. An element's own font says only what differs from the default (CVisualElement::GetFont).
 struct font
 {
-    enum Family : int { ffSerif = 0, ffSans = 1, ffMono = 2, ffDecorative = 3, ffDefault = 4 };
-    enum Style : int { fsPlain = 0, fsBold = 1, fsItalic = 2, fsUnderline = 4, fsStrikeOut = 8 };
+    enum Family : int
+    {
+        ffSerif = 0,
+        ffSans = 1,
+        ffMono = 2,
+        ffDecorative = 3,
+        ffDefault = 4
+    };
+    enum Style : int
+    {
+        fsPlain = 0,
+        fsBold = 1,
+        fsItalic = 2,
+        fsUnderline = 4,
+        fsStrikeOut = 8
+    };
 
     std::string name;        ///< Empty: the family decides.
     int family = ffDefault;  ///< 4: not set.
@@ -29,4 +43,4 @@ struct fontmetrics
     int leading = 0;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

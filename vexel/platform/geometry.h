@@ -101,4 +101,4 @@ template <class T> struct screen_rectangle
     friend bool operator==(screen_rectangle const&, screen_rectangle const&) = default;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

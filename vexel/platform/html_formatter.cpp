@@ -80,7 +80,10 @@ void CHTMLTextFormatter::AfterFormatting(IPainter* painter)
         std::string().swap(m_Target);
 }
 
-void CHTMLTextFormatter::Clear() { m_State = SState(); }
+void CHTMLTextFormatter::Clear()
+{
+    m_State = SState();
+}
 
 // Lines ---------------------------------------------------------------------------------------------------------------
 
@@ -446,7 +449,10 @@ int CHTMLTextFormatter::GetBaselineShift(IPainter* painter) const
 
 void CHTMLTextFormatter::OnDrawLink(char const*, int, rectangle<int> const&) {}
 
-bool CHTMLTextFormatter::OwnerDrawLink(IPainter*, int, int, char const*, int) { return false; }
+bool CHTMLTextFormatter::OwnerDrawLink(IPainter*, int, int, char const*, int)
+{
+    return false;
+}
 
 std::string RemoveLinks(std::string const& text)
 {

@@ -61,4 +61,4 @@ public:
                                     rectangle<int> const& clip, int state) = 0;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

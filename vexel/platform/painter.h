@@ -48,12 +48,18 @@ public:
     /// What a paint bracket is for.
     enum StdSettings : int
     {
-        ssPaint = 2,   ///< Painting: starts with the identity mapping and no clip; its end answers the full-paint question.
+        ssPaint =
+            2,  ///< Painting: starts with the identity mapping and no clip; its end answers the full-paint question.
         ssMeasure = 3  ///< Measuring only; leaves the surface and the full-paint question alone.
     };
 
     /// How drawn pixels meet those on the surface: on the 24 colour bits, exactly.
-    enum RasterOperation : int { roCopy = 0, roXor = 2, roAnd = 7 };
+    enum RasterOperation : int
+    {
+        roCopy = 0,
+        roXor = 2,
+        roAnd = 7
+    };
 
     /// Native-looking parts.
     enum ControlElement : int
@@ -69,7 +75,13 @@ public:
     };
 
     /// The state word of native-looking parts. Pressed excludes hot.
-    enum ElementState : int { esDisabled = 1, esFocused = 2, esHot = 4, esPressed = 8 };
+    enum ElementState : int
+    {
+        esDisabled = 1,
+        esFocused = 2,
+        esHot = 4,
+        esPressed = 8
+    };
 
     /// Where a text stands in its rectangle and how it is treated. Where two of an axis are set, centre wins over
     /// right or bottom, and these over left or top; with none the text stands left, top.
@@ -217,12 +229,13 @@ public:
     virtual double GetDPIScale() const = 0;  ///< Widgets multiply their pixel constants by it.
 
     // State that the framework reads and writes -------------------------------------------------------------------
-    bool m_Painting = false;       ///< A bracket is open.
-    bool m_DisabledMode = false;   ///< The element being drawn is disabled: pictures are grey, text keeps the one colour.
+    bool m_Painting = false;  ///< A bracket is open.
+    bool m_DisabledMode =
+        false;  ///< The element being drawn is disabled: pictures are grey, text keeps the one colour.
     _color m_DisabledBkColor{0, true};
     bool m_PenDirty = false;
     rectangle<double> m_ClipCache;
-    bool m_TextShortened = false;  ///< Whether the last text that was really drawn ended in "...".
+    bool m_TextShortened = false;           ///< Whether the last text that was really drawn ended in "...".
     vexel_ptr<ICustomPaletteEx> m_Palette;  ///< Installed for borders and buttons; put back by who installed it.
 
     // Control-wide background: on the window's painter -------------------------------------------------------------
@@ -259,4 +272,4 @@ public:
     virtual void SkipText(char const* text, int length);
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -109,6 +109,9 @@ ICustomPalette* GetDefaultPalette()
     return &palette;
 }
 
-vexel_ptr<ICustomPaletteEx> CreateCustomPalette() { return vexel_ptr<ICustomPaletteEx>(new CCustomPalette); }
+vexel_ptr<ICustomPaletteEx> CreateCustomPalette()
+{
+    return vexel_ptr<ICustomPaletteEx>(new CCustomPalette);
+}
 
 }  // namespace vexelbase

@@ -33,7 +33,11 @@ struct pen
 /// How areas are filled. A style without a name counts as solid; a brush without colour fills nothing.
 struct brush
 {
-    enum BrushStyle : int { bsNone = 0, bsSolid = 1 };
+    enum BrushStyle : int
+    {
+        bsNone = 0,
+        bsSolid = 1
+    };
 
     _color color = color_table[9];
     int style = bsSolid;
@@ -41,4 +45,4 @@ struct brush
     friend bool operator==(brush const&, brush const&) = default;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

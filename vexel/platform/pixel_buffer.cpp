@@ -8,7 +8,10 @@ namespace vexelbase
 namespace
 {
 
-size<int> WithoutNegative(size<int> const& extent) { return {std::max(extent.width, 0), std::max(extent.height, 0)}; }
+size<int> WithoutNegative(size<int> const& extent)
+{
+    return {std::max(extent.width, 0), std::max(extent.height, 0)};
+}
 
 std::size_t CountPixels(size<int> const& extent)
 {

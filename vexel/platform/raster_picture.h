@@ -25,4 +25,4 @@ public:
     virtual CPixelBuffer const& GetPixels() const = 0;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

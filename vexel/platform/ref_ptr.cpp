@@ -26,4 +26,4 @@ void DeleteBase(CBase* object)
         object->Release();
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

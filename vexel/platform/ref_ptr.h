@@ -50,9 +50,9 @@ public:
             m_Object->AddRef();
     }
     vexel_ptr(vexel_ptr&& other) noexcept
-        : m_Object(std::exchange(other.m_Object, nullptr)), m_HoldsReference(std::exchange(other.m_HoldsReference, false))
-    {
-    }
+        : m_Object(std::exchange(other.m_Object, nullptr)),
+          m_HoldsReference(std::exchange(other.m_HoldsReference, false))
+    {}
     template <class U>
     vexel_ptr(vexel_ptr<U> const& other) : m_Object(other.get()), m_HoldsReference(other.HoldsReference())
     {
@@ -103,4 +103,4 @@ template <class T, class... Args> vexel_ptr<T> MakeRef(Args&&... args)
     return vexel_ptr<T>(new T(std::forward<Args>(args)...));
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

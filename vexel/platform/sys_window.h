@@ -17,7 +17,11 @@ class IPainter;
 class VEXEL_API ISysWindow : public ISynchronizer
 {
 public:
-    enum ScrollType : int { stHorizontal = 1, stVertical = 2 };
+    enum ScrollType : int
+    {
+        stHorizontal = 1,
+        stVertical = 2
+    };
 
     // Area --------------------------------------------------------------------------------------------------------
     virtual rectangle<int> GetRect() const = 0;  ///< From (0, 0); right and bottom are the size.
@@ -39,7 +43,7 @@ public:
     virtual void SetCursor(int cursor) = 0;  ///< 1 arrow, 7 resize up-down, 9 resize left-right, 12 hand, 13 no drop.
     virtual void CaptureMouse() = 0;         ///< Not counted.
     virtual void ReleaseMouse() = 0;
-    virtual void TrackPointer() = 0;         ///< Asks that hovering and leaving be told.
+    virtual void TrackPointer() = 0;  ///< Asks that hovering and leaving be told.
     virtual void HideTooltip() = 0;
     virtual void ScreenToClient(point<int>* position) const = 0;
     virtual void ClientToScreen(point<int>* position) const = 0;
@@ -57,4 +61,4 @@ public:
     virtual vexel_ptr<IPopup> CreatePopup() = 0;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -43,9 +43,15 @@ IPointer::~IPointer() = default;
 IClipboard::~IClipboard() = default;
 ISystem::~ISystem() = default;
 
-rectangle<int> ISystem::GetWorkArea(point<int> const&) { return {}; }
+rectangle<int> ISystem::GetWorkArea(point<int> const&)
+{
+    return {};
+}
 
-ISystem* GetCurrentSystem() { return Current().system; }
+ISystem* GetCurrentSystem()
+{
+    return Current().system;
+}
 
 ISystem* SetCurrentSystem(ISystem* system)
 {
@@ -78,14 +84,23 @@ void RefreshDefaultGUIFont()
     ++s_FontStamp;
 }
 
-bool GetDPIAutoScale() { return Current().autoScale; }
+bool GetDPIAutoScale()
+{
+    return Current().autoScale;
+}
 
-void SetDPIAutoScale(bool on) { Current().autoScale = on; }
+void SetDPIAutoScale(bool on)
+{
+    Current().autoScale = on;
+}
 
 namespace detail
 {
 
-unsigned GetDefaultFontStamp() { return s_FontStamp; }
+unsigned GetDefaultFontStamp()
+{
+    return s_FontStamp;
+}
 
 }  // namespace detail
 

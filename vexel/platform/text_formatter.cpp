@@ -104,7 +104,10 @@ void IPainter::ITextFormatter::SkipText(char const*, int) {}
 
 // Plain text ----------------------------------------------------------------------------------------------------------
 
-void CDefTextFormatter::BeforeFormatting(IPainter*) { m_Pending = SWord(); }
+void CDefTextFormatter::BeforeFormatting(IPainter*)
+{
+    m_Pending = SWord();
+}
 
 bool CDefTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& length, int& width, int maxWidth,
                                     char const* delimiters)
@@ -238,6 +241,9 @@ void CDefTextFormatter::GetNextWord(IPainter* painter, char const* text, int& le
     width = painter->MeasureRun(text, end);
 }
 
-bool CDefTextFormatter::IsSpecial(char const*) const { return false; }
+bool CDefTextFormatter::IsSpecial(char const*) const
+{
+    return false;
+}
 
 }  // namespace vexelbase

@@ -23,7 +23,10 @@ constexpr int MaxColors = 65536;
 constexpr int MaxCharacters = 8;  // a pixel; packed into one word
 constexpr std::int64_t MaxPixels = std::int64_t{1} << 26;
 
-bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+bool IsSpace(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
 
 // Cuts the next word off the text; empty at its end.
 std::string_view NextWord(std::string_view& text)
@@ -151,7 +154,10 @@ XPMBuf::XPMBuf(char const** lines, bool shared)
     m_Lines = std::make_shared<std::vector<std::string> const>(lines, lines + count);
 }
 
-int XPMBuf::GetLineCount() const { return m_Lines ? static_cast<int>(m_Lines->size()) : m_SharedCount; }
+int XPMBuf::GetLineCount() const
+{
+    return m_Lines ? static_cast<int>(m_Lines->size()) : m_SharedCount;
+}
 
 char const* XPMBuf::GetLine(int index) const
 {

@@ -116,7 +116,10 @@ std::vector<std::string> CCensus::End()
     return lines;
 }
 
-CWarmUp::CWarmUp(void (*function)()) { WarmUps().push_back(function); }
+CWarmUp::CWarmUp(void (*function)())
+{
+    WarmUps().push_back(function);
+}
 
 void InstallKit()
 {

@@ -6,7 +6,10 @@
 namespace vexel::test
 {
 
-std::int64_t CTestClock::Now() const { return detail::KitSystem().GetTime(); }
+std::int64_t CTestClock::Now() const
+{
+    return detail::KitSystem().GetTime();
+}
 
 void CTestClock::Advance(int milliseconds)
 {
@@ -14,6 +17,9 @@ void CTestClock::Advance(int milliseconds)
     detail::KitSystem().Advance(milliseconds);
 }
 
-int CTestClock::GetRunningTimers() const { return static_cast<int>(detail::KitSystem().GetRunningPeriods().size()); }
+int CTestClock::GetRunningTimers() const
+{
+    return static_cast<int>(detail::KitSystem().GetRunningPeriods().size());
+}
 
 }  // namespace vexel::test

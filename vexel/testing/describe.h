@@ -93,11 +93,26 @@ template <class T> std::string DescribeValue(vexelbase::screen_rectangle<T> cons
 {
     return "(" + Describe(v.left) + ", " + Describe(v.top) + ", " + Describe(v.right) + ", " + Describe(v.bottom) + ")";
 }
-template <class T> std::string DescribeValue(vexelbase::vexel_ptr<T> const& v) { return DescribePointer(v.get()); }
-inline std::string DescribeValue(vexelbase::_color const& v) { return vexelbase::memory::DescribeColor(v); }
-inline std::string DescribeValue(vexelbase::font const& v) { return vexelbase::memory::DescribeFont(v); }
-inline std::string DescribeValue(vexelbase::pen const& v) { return vexelbase::memory::DescribePen(v); }
-inline std::string DescribeValue(vexelbase::brush const& v) { return vexelbase::memory::DescribeBrush(v); }
+template <class T> std::string DescribeValue(vexelbase::vexel_ptr<T> const& v)
+{
+    return DescribePointer(v.get());
+}
+inline std::string DescribeValue(vexelbase::_color const& v)
+{
+    return vexelbase::memory::DescribeColor(v);
+}
+inline std::string DescribeValue(vexelbase::font const& v)
+{
+    return vexelbase::memory::DescribeFont(v);
+}
+inline std::string DescribeValue(vexelbase::pen const& v)
+{
+    return vexelbase::memory::DescribePen(v);
+}
+inline std::string DescribeValue(vexelbase::brush const& v)
+{
+    return vexelbase::memory::DescribeBrush(v);
+}
 template <class T>
 concept HasValue = requires(T const& v)
 {

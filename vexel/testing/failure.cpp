@@ -25,6 +25,9 @@ FailureReporter SetFailureReporter(FailureReporter reporter)
     return std::exchange(g_Reporter, reporter ? reporter : &PrintAndEnd);
 }
 
-void ReportFailure(std::string const& message) { g_Reporter(message); }
+void ReportFailure(std::string const& message)
+{
+    g_Reporter(message);
+}
 
 }  // namespace vexel::test

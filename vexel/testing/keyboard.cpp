@@ -10,9 +10,15 @@ namespace vexel::test
 namespace
 {
 
-bool IsDigit(int key) { return key >= '0' && key <= '9'; }
+bool IsDigit(int key)
+{
+    return key >= '0' && key <= '9';
+}
 
-bool IsLetter(int key) { return key >= 'A' && key <= 'Z'; }
+bool IsLetter(int key)
+{
+    return key >= 'A' && key <= 'Z';
+}
 
 // The character of a key, 0 if it has none.
 char CharacterOf(int key, int keys)
@@ -90,7 +96,10 @@ void CKeyboard::Type(std::string const& text)
     }
 }
 
-void CKeyboard::Tab(bool forward) { Press(vkTab, forward ? 0 : ksShift); }
+void CKeyboard::Tab(bool forward)
+{
+    Press(vkTab, forward ? 0 : ksShift);
+}
 
 void CKeyboard::Hold(int keys)
 {
@@ -98,13 +107,19 @@ void CKeyboard::Hold(int keys)
     m_Host.System().SetHeldKeys(keys);
 }
 
-int CKeyboard::GetHeld() const { return m_Host.System().GetKeyState() & (ksShift | ksControl | ksAlt); }
+int CKeyboard::GetHeld() const
+{
+    return m_Host.System().GetKeyState() & (ksShift | ksControl | ksAlt);
+}
 
 CHoldKeys::CHoldKeys(CTestHost& host, int keys) : m_Host(host), m_Before(host.Keyboard().GetHeld())
 {
     m_Host.Keyboard().Hold(m_Before | keys);
 }
 
-CHoldKeys::~CHoldKeys() { m_Host.Keyboard().Hold(m_Before); }
+CHoldKeys::~CHoldKeys()
+{
+    m_Host.Keyboard().Hold(m_Before);
+}
 
 }  // namespace vexel::test

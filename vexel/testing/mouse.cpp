@@ -10,7 +10,10 @@ namespace vexel::test
 namespace
 {
 
-std::string Numbered(char const* verb, int number) { return std::string(verb) + " " + std::to_string(number); }
+std::string Numbered(char const* verb, int number)
+{
+    return std::string(verb) + " " + std::to_string(number);
+}
 
 }  // namespace
 
@@ -132,7 +135,10 @@ void CMouse::PressAgain(vexelbase::MouseButton button)
     m_Host.System().PressButton(button, true);
 }
 
-bool CMouse::IsHeld(vexelbase::MouseButton button) const { return m_Host.System().IsButtonHeld(button); }
+bool CMouse::IsHeld(vexelbase::MouseButton button) const
+{
+    return m_Host.System().IsButtonHeld(button);
+}
 
 void CMouse::LoseRelease(vexelbase::MouseButton button)
 {

@@ -76,7 +76,10 @@ std::string TypeName(std::type_info const& type)
     return StripNamespaces(name);
 }
 
-void NameElement(CVisualElement const& element, std::string const& name) { Names()[&element] = name; }
+void NameElement(CVisualElement const& element, std::string const& name)
+{
+    Names()[&element] = name;
+}
 
 std::string ElementName(CVisualElement const* element)
 {
@@ -95,7 +98,10 @@ void ForgetElementName(CVisualElement const* element)
         Names().erase(element);
 }
 
-void ForgetElementNames() { Names().clear(); }
+void ForgetElementNames()
+{
+    Names().clear();
+}
 
 }  // namespace detail
 

@@ -54,9 +54,15 @@ std::string PaintLog::ListElements(bool picture) const
     return text;
 }
 
-std::string PaintLog::Elements() const { return ListElements(false); }
+std::string PaintLog::Elements() const
+{
+    return ListElements(false);
+}
 
-std::string PaintLog::PictureElements() const { return ListElements(true); }
+std::string PaintLog::PictureElements() const
+{
+    return ListElements(true);
+}
 
 std::vector<std::string> PaintLog::Calls() const
 {

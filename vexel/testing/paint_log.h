@@ -99,6 +99,9 @@ private:
 ///
 ///     EXPECT_THAT(host.Paint(), Draws("SetBrush yellow").Then("RoundRect 0 9 20 29 20 20"));
 ///     EXPECT_THAT(host.Paint(), Not(Draws("DrawString*")));
-inline CDraws Draws(std::string const& pattern) { return CDraws(pattern); }
+inline CDraws Draws(std::string const& pattern)
+{
+    return CDraws(pattern);
+}
 
 }  // namespace vexel::test

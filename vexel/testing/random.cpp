@@ -61,7 +61,10 @@ std::uint64_t GetSeed()
     return seed;
 }
 
-void SetRunningTest(std::string const& name) { CurrentTest() = {name, 0}; }
+void SetRunningTest(std::string const& name)
+{
+    CurrentTest() = {name, 0};
+}
 
 CTestRandom::CTestRandom() : CTestRandom(SeedOfTest()) {}
 

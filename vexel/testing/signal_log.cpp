@@ -42,11 +42,9 @@ std::string CSignalLog::Take()
 
 int CSignalLog::Count(std::string const& name) const
 {
-    return static_cast<int>(std::count_if(m_Entries.begin(), m_Entries.end(),
-                                          [&](std::string const& entry) {
-                                              return entry.size() > name.size() && entry.starts_with(name) &&
-                                                     entry[name.size()] == '(';
-                                          }));
+    return static_cast<int>(std::count_if(m_Entries.begin(), m_Entries.end(), [&](std::string const& entry) {
+        return entry.size() > name.size() && entry.starts_with(name) && entry[name.size()] == '(';
+    }));
 }
 
 }  // namespace vexel::test

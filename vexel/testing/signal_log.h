@@ -77,8 +77,7 @@ private:
             std::vector<std::string> texts;
             [[maybe_unused]] bool first = true;
             (
-                [&](auto const& argument)
-                {
+                [&](auto const& argument) {
                     if (!first || !this->IsEmitter(argument))
                         texts.push_back(Describe(argument));
                     first = false;

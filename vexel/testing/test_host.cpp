@@ -68,9 +68,15 @@ void CTestHost::Start(int width, int height, double scale)
     m_Window = std::make_unique<CMemoryWindow>(system, FindPlace(system), size<int>{width, height});
 }
 
-CMemorySystem& CTestHost::System() { return detail::KitSystem(); }
+CMemorySystem& CTestHost::System()
+{
+    return detail::KitSystem();
+}
 
-CVisualElement* CTestHost::Root() const { return m_Control->GetContent(); }
+CVisualElement* CTestHost::Root() const
+{
+    return m_Control->GetContent();
+}
 
 vexelbase::memory::CMemoryPopup* CTestHost::Popup(int index) const
 {
@@ -134,7 +140,10 @@ std::string CTestHost::CompareWithFullPaint(CLegend const& legend)
     return ComparePixels(Pixels(), byParts, legend);
 }
 
-bool CTestHost::IsFramePending() const { return m_Window && m_Window->IsFramePending(); }
+bool CTestHost::IsFramePending() const
+{
+    return m_Window && m_Window->IsFramePending();
+}
 
 // Queue and background ---------------------------------------------------------------------------------------------
 
@@ -171,9 +180,15 @@ int CTestHost::StepBackground()
 
 // Pixels -----------------------------------------------------------------------------------------------------------
 
-CPixelBuffer const& CTestHost::Pixels() const { return m_Window->GetPixels(); }
+CPixelBuffer const& CTestHost::Pixels() const
+{
+    return m_Window->GetPixels();
+}
 
-std::string CTestHost::PixelText(CLegend const& legend) const { return PixelsToText(Pixels(), legend); }
+std::string CTestHost::PixelText(CLegend const& legend) const
+{
+    return PixelsToText(Pixels(), legend);
+}
 
 std::string CTestHost::PixelText(rectangle<int> const& area, CLegend const& legend) const
 {
@@ -200,7 +215,10 @@ void CTestHost::Resize(int width, int height)
         m_Window->Resize({width, height});
 }
 
-void CTestHost::SetScale(double scale) { System().SetScale(scale); }
+void CTestHost::SetScale(double scale)
+{
+    System().SetScale(scale);
+}
 
 void CTestHost::Focus()
 {
@@ -257,9 +275,15 @@ void CTestHost::SysColorChange()
         m_Window->TellSysColorChange();
 }
 
-void CTestHost::DestroyWindow() { m_Window.reset(); }
+void CTestHost::DestroyWindow()
+{
+    m_Window.reset();
+}
 
-void CTestHost::DestroyControl() { m_Control.reset(); }
+void CTestHost::DestroyControl()
+{
+    m_Control.reset();
+}
 
 std::string CTestHost::Pending() const
 {

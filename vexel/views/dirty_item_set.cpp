@@ -5,4 +5,4 @@ namespace vexel
 
 IDirtyItemSet::~IDirtyItemSet() = default;
 
-} // namespace vexel
+}  // namespace vexel

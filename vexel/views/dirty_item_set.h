@@ -24,4 +24,4 @@ public:
     virtual void OnEndDraw() = 0;  ///< All has been painted.
 };
 
-} // namespace vexel
+}  // namespace vexel

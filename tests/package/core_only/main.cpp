@@ -46,7 +46,7 @@ protected:
     }
 };
 
-} // namespace
+}  // namespace
 
 int main()
 {

@@ -31,4 +31,4 @@ private:
 
 [[maybe_unused]] testing::Environment* const s_Environment = testing::AddGlobalTestEnvironment(new CQtEnvironment);
 
-} // namespace
+}  // namespace

@@ -35,10 +35,11 @@ QKeyEvent Key(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers = Qt::
 
 QWheelEvent Wheel(QPoint const& angle, Qt::KeyboardModifiers modifiers = Qt::NoModifier, QPoint const& pixels = {})
 {
-    return QWheelEvent(QPointF(30, 40), QPointF(30, 40), pixels, angle, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    return QWheelEvent(QPointF(30, 40), QPointF(30, 40), pixels, angle, Qt::NoButton, modifiers, Qt::NoScrollPhase,
+                       false);
 }
 
-} // namespace
+}  // namespace
 
 TEST(QtMouse, APressCarriesItsButtonAndTheStateAfterIt)
 {
@@ -136,8 +137,8 @@ TEST(QtMouse, TheCursorFollowsTheNumber)
     {
         int number;
         Qt::CursorShape shape;
-    } const cases[] = {{7, Qt::SizeVerCursor},         {9, Qt::SizeHorCursor},   {12, Qt::PointingHandCursor},
-                       {13, Qt::ForbiddenCursor},      {1, Qt::ArrowCursor},     {99, Qt::ArrowCursor}};
+    } const cases[] = {{7, Qt::SizeVerCursor},    {9, Qt::SizeHorCursor}, {12, Qt::PointingHandCursor},
+                       {13, Qt::ForbiddenCursor}, {1, Qt::ArrowCursor},   {99, Qt::ArrowCursor}};
     for (auto const& one : cases)
     {
         hosted.Window().SetCursor(one.number);
@@ -200,11 +201,11 @@ TEST(QtKeys, KeysHaveTheFrameworksNumbers)
         int key;
         int number;
     } const cases[] = {
-        {Qt::Key_A, 65},       {Qt::Key_C, 67},      {Qt::Key_Z, 90},      {Qt::Key_0, 48},     {Qt::Key_9, 57},
-        {Qt::Key_Backspace, 8}, {Qt::Key_Return, 13}, {Qt::Key_Enter, 13},  {Qt::Key_Escape, 27}, {Qt::Key_Space, 32},
-        {Qt::Key_PageUp, 33},  {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},  {Qt::Key_Home, 36},  {Qt::Key_Left, 37},
-        {Qt::Key_Up, 38},      {Qt::Key_Right, 39},  {Qt::Key_Down, 40},   {Qt::Key_Insert, 45}, {Qt::Key_Delete, 46},
-        {Qt::Key_F1, 112},     {Qt::Key_F12, 123},   {Qt::Key_F24, 135},   {Qt::Key_Exclam, 0},
+        {Qt::Key_A, 65},        {Qt::Key_C, 67},        {Qt::Key_Z, 90},     {Qt::Key_0, 48},      {Qt::Key_9, 57},
+        {Qt::Key_Backspace, 8}, {Qt::Key_Return, 13},   {Qt::Key_Enter, 13}, {Qt::Key_Escape, 27}, {Qt::Key_Space, 32},
+        {Qt::Key_PageUp, 33},   {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},   {Qt::Key_Home, 36},   {Qt::Key_Left, 37},
+        {Qt::Key_Up, 38},       {Qt::Key_Right, 39},    {Qt::Key_Down, 40},  {Qt::Key_Insert, 45}, {Qt::Key_Delete, 46},
+        {Qt::Key_F1, 112},      {Qt::Key_F12, 123},     {Qt::Key_F24, 135},  {Qt::Key_Exclam, 0},
     };
     for (auto const& one : cases)
     {
@@ -399,8 +400,7 @@ TEST(QtMenu, MouseAndKeyboardAskForTheContextMenuInPixels)
 TEST(QtTooltip, ARestingPointerIsToldAndTheTextShows)
 {
     CHosted hosted;
-    hosted.Control().m_Tooltip = [](CTooltipEvent* event)
-    {
+    hosted.Control().m_Tooltip = [](CTooltipEvent* event) {
         event->m_Text = "A <b>tip</b>\nwith marks";
         event->m_HotRect = {5, 5, 40, 30};
     };
@@ -426,8 +426,7 @@ TEST(QtTooltip, PlainTextStaysPlainAndManyLinesStayLines)
     hosted.Send(QHelpEvent(QEvent::ToolTip, QPoint(10, 10), hosted.Widget()->mapToGlobal(QPoint(10, 10))));
     EXPECT_EQ(QToolTip::text(), "plain");
 
-    hosted.Control().m_Tooltip = [](CTooltipEvent* event)
-    {
+    hosted.Control().m_Tooltip = [](CTooltipEvent* event) {
         event->m_Text = "one\ntwo";
         event->m_Multiline = true;
     };
@@ -446,4 +445,4 @@ TEST(QtTooltip, NoTextShowsNoTip)
     EXPECT_TRUE(RunUntil([] { return !QToolTip::isVisible(); }));
 }
 
-} // namespace vexelbase::qt::test
+}  // namespace vexelbase::qt::test

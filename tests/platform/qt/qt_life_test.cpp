@@ -46,7 +46,7 @@ private:
     std::function<void()> m_Work;
 };
 
-} // namespace
+}  // namespace
 
 TEST(QtLife, TheHostGoesFirst)
 {
@@ -126,8 +126,7 @@ TEST(QtLife, AHandlerMayDeleteTheWindow)
     Settle();
     control.Take();
     QPointer<QWidget> const child = GetWidget(window.get());
-    control.m_Before = [&](std::string const& word)
-    {
+    control.m_Before = [&](std::string const& word) {
         if (word.starts_with("down"))
             window.reset();
     };
@@ -156,8 +155,8 @@ TEST(QtLife, AHandlerMayDeleteTheControl)
 TEST(QtLife, AHandlerMayDeleteTheHost)
 {
     // Each event as the last one of its host.
-    for (QEvent::Type const type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick, QEvent::KeyPress, QEvent::Wheel,
-                                    QEvent::Leave, QEvent::FocusIn, QEvent::PaletteChange})
+    for (QEvent::Type const type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick, QEvent::KeyPress,
+                                    QEvent::Wheel, QEvent::Leave, QEvent::FocusIn, QEvent::PaletteChange})
     {
         auto* host = new QWidget;
         std::unique_ptr<ISysWindow> window = HostWindow(host);
@@ -165,8 +164,7 @@ TEST(QtLife, AHandlerMayDeleteTheHost)
         host->show();
         Settle();
         control.Take();
-        control.m_Before = [&](std::string const&)
-        {
+        control.m_Before = [&](std::string const&) {
             QWidget* const gone = std::exchange(host, nullptr);
             delete gone;
         };
@@ -216,8 +214,7 @@ TEST(QtLife, AHandlerMayDeleteTheHost)
 TEST(QtLife, AHandlerThatThrowsHarmsNobody)
 {
     CHosted hosted;
-    hosted.Control().m_Before = [](std::string const& word)
-    {
+    hosted.Control().m_Before = [](std::string const& word) {
         if (word.starts_with("down"))
             throw std::runtime_error("a test's");
     };
@@ -289,12 +286,10 @@ TEST(QtPosts, RunInOrderAfterThePresentEventAndAreDeleted)
     CHosted hosted;
     std::string order;
     hosted.Window().Post(new CWork([&] { order += 'a'; }));
-    hosted.Window().Post(new CWork(
-        [&]
-        {
-            order += 'b';
-            hosted.Window().Post(new CWork([&] { order += 'd'; }));
-        }));
+    hosted.Window().Post(new CWork([&] {
+        order += 'b';
+        hosted.Window().Post(new CWork([&] { order += 'd'; }));
+    }));
     hosted.Window().Post(new CWork([&] { order += 'c'; }));
     hosted.Window().Post(nullptr);
     EXPECT_EQ(order, "");
@@ -314,19 +309,15 @@ TEST(QtPosts, OfManyThreadsAllArriveEachThreadsInOrder)
     {
         std::vector<std::jthread> workers;
         for (int t = 0; t < threads; ++t)
-            workers.emplace_back(
-                [&, t]
-                {
-                    for (int i = 0; i < posts; ++i)
-                        hosted.Window().Post(new CWork(
-                            [&, t, i]
-                            {
-                                auto const index = static_cast<std::size_t>(t);
-                                ordered = ordered && last[index] == i - 1;
-                                last[index] = i;
-                                ++count;
-                            }));
-                });
+            workers.emplace_back([&, t] {
+                for (int i = 0; i < posts; ++i)
+                    hosted.Window().Post(new CWork([&, t, i] {
+                        auto const index = static_cast<std::size_t>(t);
+                        ordered = ordered && last[index] == i - 1;
+                        last[index] = i;
+                        ++count;
+                    }));
+            });
     }
     EXPECT_TRUE(RunUntil([&] { return count == threads * posts; }));
     EXPECT_TRUE(ordered);
@@ -352,16 +343,14 @@ TEST(QtPosts, OfThreadsWhileTheNativeSideGoesAreDeletedUnrun)
     std::unique_ptr<ISysWindow> window = HostWindow(host.get());
     std::atomic<bool> stop{false};
     std::atomic<int> posted{0};
-    std::jthread worker(
-        [&]
+    std::jthread worker([&] {
+        while (!stop)
         {
-            while (!stop)
-            {
-                window->Post(new CWork([] {}));
-                ++posted;
-                std::this_thread::yield();
-            }
-        });
+            window->Post(new CWork([] {}));
+            ++posted;
+            std::this_thread::yield();
+        }
+    });
     EXPECT_TRUE(RunUntil([&] { return posted > 50; }));
     host.reset();
     int const before = posted;
@@ -384,4 +373,4 @@ TEST(QtPosts, ARunnableMayDeleteTheWindow)
     EXPECT_TRUE(host.findChildren<QWidget*>().isEmpty());
 }
 
-} // namespace vexelbase::qt::test
+}  // namespace vexelbase::qt::test

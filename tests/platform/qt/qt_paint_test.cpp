@@ -60,8 +60,7 @@ bool IsAtRatio(char const* ratio)
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start("/proc/self/exe",
-                  {QString("--gtest_filter=%1.%2").arg(info->test_suite_name(), info->name())});
+    process.start("/proc/self/exe", {QString("--gtest_filter=%1.%2").arg(info->test_suite_name(), info->name())});
     EXPECT_TRUE(process.waitForFinished(60000));
     QByteArray const output = process.readAll();
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
@@ -70,7 +69,7 @@ bool IsAtRatio(char const* ratio)
     return false;
 }
 
-} // namespace
+}  // namespace
 
 TEST(QtPaint, ManyRequestsBringOneDraw)
 {
@@ -87,8 +86,7 @@ TEST(QtPaint, OnlyWhatWasTouchedIsShownAnew)
 {
     CHosted hosted;
     CPaintWatch watch(hosted.Widget());
-    hosted.Control().m_Draw = [](IPainter* painter)
-    {
+    hosted.Control().m_Draw = [](IPainter* painter) {
         painter->SetBrush(Solid(color_table[6]));
         painter->FillRect(10, 20, 14, 22);  // 5 x 3 pixels
         painter->FillRect(70, 60, 70, 60);
@@ -207,8 +205,7 @@ TEST(QtPaint, ResizingKeepsPixelsAndAsksForAFullPaint)
 TEST(QtPaint, MovedPixelsReachTheScreen)
 {
     CHosted hosted;
-    hosted.Control().m_Draw = [&](IPainter* painter)
-    {
+    hosted.Control().m_Draw = [&](IPainter* painter) {
         FillAll(painter, hosted.Window(), color_table[9]);
         painter->SetBrush(Solid(color_table[6]));
         painter->FillRect(0, 0, 9, 9);
@@ -252,8 +249,7 @@ TEST(QtRatio, AtOneAndAQuarterTheSurfaceIsTheScreens)
     EXPECT_EQ(hosted.Window().GetRect(), (rectangle<int>{0, 0, 126, 104}));
 
     // A pattern that any stretching or shift would blur.
-    hosted.Control().m_Draw = [&](IPainter* painter)
-    {
+    hosted.Control().m_Draw = [&](IPainter* painter) {
         FillAll(painter, hosted.Window(), color_table[9]);
         painter->SetBrush(Solid(color_table[1]));
         for (int x = 0; x < 126; x += 2)
@@ -273,8 +269,7 @@ TEST(QtRatio, AtOneAndAQuarterTheSurfaceIsTheScreens)
         EXPECT_EQ(shot.pixel(x, 50), 0xFFFFFFFFu);  // the last column again, not a gap
 
     // Pixel (33, 41) lies in Qt's pixels 26.4 to 27.2 and 32.8 to 33.6.
-    hosted.Control().m_Draw = [](IPainter* painter)
-    {
+    hosted.Control().m_Draw = [](IPainter* painter) {
         painter->SetBrush(Solid(color_table[6]));
         painter->FillRect(33, 41, 33, 41);
     };
@@ -285,8 +280,8 @@ TEST(QtRatio, AtOneAndAQuarterTheSurfaceIsTheScreens)
     EXPECT_EQ(Shot(hosted.Widget()).pixel(33, 41), 0xFFFF0000u);
 
     // Positions come in the screen's pixels: 40.5 x 1.25 = 50.625.
-    QMouseEvent const press(QEvent::MouseButtonPress, QPointF(40.5, 8), QPointF(40.5, 8), Qt::LeftButton, Qt::LeftButton,
-                            Qt::NoModifier);
+    QMouseEvent const press(QEvent::MouseButtonPress, QPointF(40.5, 8), QPointF(40.5, 8), Qt::LeftButton,
+                            Qt::LeftButton, Qt::NoModifier);
     hosted.Control().Take();
     QCoreApplication::sendEvent(hosted.Widget(), const_cast<QMouseEvent*>(&press));
     EXPECT_EQ(hosted.Control().Take(), "down(50,10,0x1,1)");
@@ -310,8 +305,7 @@ TEST(QtRatio, AtTwoTheSurfaceHasTwicePixels)
     CHosted hosted(100, 80);
     EXPECT_EQ(hosted.Window().GetRect(), (rectangle<int>{0, 0, 200, 160}));
     EXPECT_EQ(hosted.Window().GetPainter()->GetDPIScale(), 2.0);
-    hosted.Control().m_Draw = [&](IPainter* painter)
-    {
+    hosted.Control().m_Draw = [&](IPainter* painter) {
         FillAll(painter, hosted.Window(), color_table[9]);
         painter->SetBrush(Solid(color_table[6]));
         painter->FillRect(51, 61, 51, 61);
@@ -325,4 +319,4 @@ TEST(QtRatio, AtTwoTheSurfaceHasTwicePixels)
     EXPECT_EQ(shot.pixel(52, 61), 0xFFFFFFFFu);
 }
 
-} // namespace vexelbase::qt::test
+}  // namespace vexelbase::qt::test

@@ -226,4 +226,4 @@ public:
     std::unique_ptr<CRecorder> m_Control;
 };
 
-} // namespace vexelbase::qt::test
+}  // namespace vexelbase::qt::test

@@ -105,8 +105,8 @@ int Difference(QImage const& a, QImage const& b)
         {
             QRgb const p = a.pixel(x, y);
             QRgb const q = b.pixel(x, y);
-            result = std::max({result, std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)),
-                               std::abs(qBlue(p) - qBlue(q))});
+            result = std::max(
+                {result, std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)), std::abs(qBlue(p) - qBlue(q))});
         }
     }
     return result;
@@ -121,7 +121,7 @@ double WidthOf(font const& textFont, std::string const& text)
 // Qt's rounding of a blend may differ from ours by one step, and its table of text gamma by some more.
 constexpr int BlendTolerance = 2;
 
-} // namespace
+}  // namespace
 
 TEST(QtText, PlainLettersLookAsQtDrawsThem)
 {
@@ -140,10 +140,12 @@ TEST(QtText, PlainLettersLookAsQtDrawsThem)
 
 TEST(QtText, LatinGreekAndCyrillicNeedNoShapingEither)
 {
-    char const* const text = "\xc3\x84\xc3\xb6\xc3\x9f \xce\xb1\xce\xb2\xce\xb3 \xd0\x96\xd1\x83\xd0\xba";  // Äöß αβγ Жук
+    char const* const text =
+        "\xc3\x84\xc3\xb6\xc3\x9f \xce\xb1\xce\xb2\xce\xb3 \xd0\x96\xd1\x83\xd0\xba";  // Äöß αβγ Жук
     CCanvas canvas(200, 30);
     canvas.Draw(Sans(11), text, 0, 0);
-    EXPECT_LE(Difference(canvas.Image(), DrawnByQt(200, 30, Native(11), QString::fromUtf8(text), 0, 0)), BlendTolerance);
+    EXPECT_LE(Difference(canvas.Image(), DrawnByQt(200, 30, Native(11), QString::fromUtf8(text), 0, 0)),
+              BlendTolerance);
 }
 
 TEST(QtText, ColorsBlendIntoWhatLiesBelow)
@@ -194,7 +196,8 @@ TEST(QtText, ShapedTextLooksAsQtDrawsIt)
         QImage const expected = DrawnByQt(200, 50, native, QString::fromUtf8(text), 10, 10);
         EXPECT_GT(canvas.CountInk(), 20) << text;
         EXPECT_LE(Difference(canvas.Image(), expected), BlendTolerance) << text;
-        EXPECT_NEAR(WidthOf(Sans(14), text), QFontMetricsF(native).horizontalAdvance(QString::fromUtf8(text)), 1.0) << text;
+        EXPECT_NEAR(WidthOf(Sans(14), text), QFontMetricsF(native).horizontalAdvance(QString::fromUtf8(text)), 1.0)
+            << text;
     }
 }
 
@@ -242,8 +245,8 @@ TEST(QtText, IllFormedBytesAreReplacementCharacters)
     EXPECT_GT(one, 0);
     EXPECT_EQ(WidthOf(Sans(11), "\xff"), one);
     EXPECT_EQ(WidthOf(Sans(11), "\x80"), one);
-    EXPECT_EQ(WidthOf(Sans(11), "\xc0\xaf"), 2 * one);          // overlong
-    EXPECT_EQ(WidthOf(Sans(11), "\xed\xa0\x80"), 3 * one);      // a surrogate
+    EXPECT_EQ(WidthOf(Sans(11), "\xc0\xaf"), 2 * one);      // overlong
+    EXPECT_EQ(WidthOf(Sans(11), "\xed\xa0\x80"), 3 * one);  // a surrogate
     EXPECT_EQ(WidthOf(Sans(11), "a\xe2\x82z"), one * 2 + WidthOf(Sans(11), "az"));
 }
 
@@ -286,11 +289,26 @@ TEST(QtText, QuarterTurnsAreTheUprightPictureTurned)
         int rotation;
         std::function<point<int>(int, int)> turned;  // where the upright pixel goes, from the pivot
     } const cases[] = {
-        {900, [](int u, int v) { return point<int>{v, -u - 1}; }},
-        {1800, [](int u, int v) { return point<int>{-u - 1, -v - 1}; }},
-        {2700, [](int u, int v) { return point<int>{-v - 1, u}; }},
-        {-900, [](int u, int v) { return point<int>{-v - 1, u}; }},
-        {3600, [](int u, int v) { return point<int>{u, v}; }},
+        {900,
+         [](int u, int v) {
+             return point<int>{v, -u - 1};
+         }},
+        {1800,
+         [](int u, int v) {
+             return point<int>{-u - 1, -v - 1};
+         }},
+        {2700,
+         [](int u, int v) {
+             return point<int>{-v - 1, u};
+         }},
+        {-900,
+         [](int u, int v) {
+             return point<int>{-v - 1, u};
+         }},
+        {3600,
+         [](int u, int v) {
+             return point<int>{u, v};
+         }},
     };
     for (int const style : {int{font::fsPlain}, font::fsUnderline | font::fsStrikeOut})
     {
@@ -401,8 +419,7 @@ TEST(QtText, DamageIsWhatWasInked)
     CHosted hosted(200, 60);
     CPaintWatch watch(hosted.Widget());
     QRect inked;
-    hosted.Control().m_Draw = [&](IPainter* painter)
-    {
+    hosted.Control().m_Draw = [&](IPainter* painter) {
         painter->SetFont(Sans(12));
         painter->SetTextColor(color_table[1]);
         painter->DrawString({20, 10, 150, 40}, "Ink", IPainter::AlignLeft | IPainter::AlignTop, -1);
@@ -418,4 +435,4 @@ TEST(QtText, DamageIsWhatWasInked)
     EXPECT_EQ(watch.m_Region.boundingRect(), inked);
 }
 
-} // namespace vexelbase::qt::test
+}  // namespace vexelbase::qt::test

@@ -10,7 +10,10 @@ namespace vexel
 /// A layout pass under way: the entries it goes through. What dies meanwhile is taken out of them.
 struct CBaseControlImp::SPass
 {
-    explicit SPass(CBaseControlImp* control) : m_Control(control), m_Outer(control->m_Passes) { control->m_Passes = this; }
+    explicit SPass(CBaseControlImp* control) : m_Control(control), m_Outer(control->m_Passes)
+    {
+        control->m_Passes = this;
+    }
     ~SPass()
     {
         if (m_Control)
@@ -72,6 +75,6 @@ private:
     bool m_Open = true;
 };
 
-} // namespace detail
+}  // namespace detail
 
-} // namespace vexel
+}  // namespace vexel

@@ -23,7 +23,7 @@ struct CVisualElement::SFont
 
     int m_References = 1;
     font const m_Own;
-    mutable font m_Default;    // the default GUI font that m_Effective was worked out from
+    mutable font m_Default;  // the default GUI font that m_Effective was worked out from
     mutable font m_Effective;
     mutable bool m_Known = false;
 };
@@ -82,6 +82,6 @@ private:
     IPainter* const m_Painter;
 };
 
-} // namespace detail
+}  // namespace detail
 
-} // namespace vexel
+}  // namespace vexel

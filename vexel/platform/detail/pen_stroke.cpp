@@ -17,7 +17,10 @@ constexpr double LineLimit = 536870912.0;
 // What a coordinate may be before a line is cut to the limit; beyond it slopes would lose all meaning.
 constexpr double CoordinateLimit = 1e15;
 
-double Tame(double value) { return value != value ? 0.0 : std::clamp(value, -CoordinateLimit, CoordinateLimit); }
+double Tame(double value)
+{
+    return value != value ? 0.0 : std::clamp(value, -CoordinateLimit, CoordinateLimit);
+}
 
 std::int64_t FloorDivide(std::int64_t a, std::int64_t b)
 {
@@ -46,7 +49,10 @@ void CutToLimits(double start, double distance, double& enter, double& leave)
     leave = std::min(leave, std::max(a, b));
 }
 
-bool IsNear(point<double> const& value) { return std::abs(value.x) <= LineLimit && std::abs(value.y) <= LineLimit; }
+bool IsNear(point<double> const& value)
+{
+    return std::abs(value.x) <= LineLimit && std::abs(value.y) <= LineLimit;
+}
 
 // The first k in [low, high) for which the test holds, or high; it must hold for all k behind one for which it does.
 template <class Test> std::int64_t FindFirst(std::int64_t low, std::int64_t high, Test test)
@@ -158,11 +164,9 @@ void CPenStroke::Outline(std::vector<point<double>> const& points)
 {
     if (points.empty())
         return;
-    bool const isPoint = std::all_of(points.begin(), points.end(),
-                                     [&](point<double> const& other) {
-                                         return FloorToInt(other.x) == FloorToInt(points[0].x) &&
-                                                FloorToInt(other.y) == FloorToInt(points[0].y);
-                                     });
+    bool const isPoint = std::all_of(points.begin(), points.end(), [&](point<double> const& other) {
+        return FloorToInt(other.x) == FloorToInt(points[0].x) && FloorToInt(other.y) == FloorToInt(points[0].y);
+    });
     if (points.size() <= 2 || isPoint)
     {
         Line(points.front(), points.back(), true);
@@ -248,8 +252,7 @@ void CPenStroke::WalkLine(point<int> const& from, point<int> const& to, bool wit
         std::int64_t rest = 2 * first * across + steps - position * whole;
         std::int64_t runStart = first;
         std::int64_t const stepRest = 2 * across;
-        auto const emit = [&](std::int64_t behind)
-        {
+        auto const emit = [&](std::int64_t behind) {
             std::int64_t const x = flat ? from.x + forward * runStart : from.x + position;
             std::int64_t const y = flat ? from.y + position : from.y + forward * runStart;
             Piece(x, y, flat ? forward : 0, flat ? 0 : forward, behind - runStart, m_Phase + runStart);

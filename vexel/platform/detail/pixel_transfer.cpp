@@ -10,7 +10,10 @@ namespace vexelbase::detail
 namespace
 {
 
-std::size_t ByteCount(int pixels) { return static_cast<std::size_t>(pixels) * sizeof(std::uint32_t); }
+std::size_t ByteCount(int pixels)
+{
+    return static_cast<std::size_t>(pixels) * sizeof(std::uint32_t);
+}
 
 // Walks along one axis of a stretched picture: the source pixel under the centre of each target pixel,
 // floor((2 i + 1) * source extent / (2 * target extent)), without a division per pixel.

@@ -24,10 +24,16 @@ constexpr std::uint32_t Combine(std::uint32_t below, std::uint32_t drawn, IPaint
 }
 
 /// Exact x / 255 for x up to 255 * 255, rounded down.
-constexpr std::uint32_t DivideBy255(std::uint32_t x) { return (x + 1u + (x >> 8)) >> 8; }
+constexpr std::uint32_t DivideBy255(std::uint32_t x)
+{
+    return (x + 1u + (x >> 8)) >> 8;
+}
 
 /// The same for a number in each half of a word. Each quotient is in the lower byte of its half; the upper bytes are waste.
-constexpr std::uint32_t DividePairBy255(std::uint32_t x) { return (x + 0x10001u + (x >> 8 & 0xFF00FFu)) >> 8; }
+constexpr std::uint32_t DividePairBy255(std::uint32_t x)
+{
+    return (x + 0x10001u + (x >> 8 & 0xFF00FFu)) >> 8;
+}
 
 // In all of these `area` lies within `target`. --------------------------------------------------------------------
 

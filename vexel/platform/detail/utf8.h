@@ -7,7 +7,10 @@ namespace vexelbase::detail
 {
 
 /// True for a byte that goes on with a character begun before it.
-constexpr bool IsUtf8Continuation(char c) { return (static_cast<unsigned char>(c) & 0xC0u) == 0x80u; }
+constexpr bool IsUtf8Continuation(char c)
+{
+    return (static_cast<unsigned char>(c) & 0xC0u) == 0x80u;
+}
 
 /// How many bytes a character has that begins with this one; 1 where none can begin.
 constexpr int Utf8Length(char first)

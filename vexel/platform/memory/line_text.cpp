@@ -50,9 +50,15 @@ bool CLineText::SetText(std::string const& text)
     return differs;
 }
 
-int CLineText::GetSelectionStart() const { return std::min(m_Anchor, m_Caret); }
+int CLineText::GetSelectionStart() const
+{
+    return std::min(m_Anchor, m_Caret);
+}
 
-int CLineText::GetSelectionLength() const { return std::abs(m_Caret - m_Anchor); }
+int CLineText::GetSelectionLength() const
+{
+    return std::abs(m_Caret - m_Anchor);
+}
 
 std::string CLineText::GetSelectedText() const
 {

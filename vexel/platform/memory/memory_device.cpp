@@ -67,8 +67,9 @@ std::vector<rectangle<int>> TurnFreely(std::vector<rectangle<int>> const& rects,
         {
             int const u = FloorToInt((x + 0.5) * cosine - (y + 0.5) * sine);
             int const v = FloorToInt((x + 0.5) * sine + (y + 0.5) * cosine);
-            auto const covers = [&](rectangle<int> const& rect)
-            { return rect.left <= u && u < rect.right && rect.top <= v && v < rect.bottom; };
+            auto const covers = [&](rectangle<int> const& rect) {
+                return rect.left <= u && u < rect.right && rect.top <= v && v < rect.bottom;
+            };
             if (std::any_of(rects.begin(), rects.end(), covers))
                 pixels.push_back({x, y, x + 1, y + 1});
         }
@@ -141,8 +142,7 @@ void CMemoryDevice::DrawRun(SRun const& run)
 void CMemoryDevice::DrawControlElement(IPainter::ControlElement element, rectangle<int> const& area,
                                        rectangle<int> const& clip, int state)
 {
-    auto const fill = [&](rectangle<int> rect, std::uint32_t pixel)
-    {
+    auto const fill = [&](rectangle<int> rect, std::uint32_t pixel) {
         rect.Intersect(clip);
         if (!rect.IsEmpty())
             Fill(rect, pixel, IPainter::roCopy);

@@ -12,7 +12,10 @@ CMemoryNode::CMemoryNode(CMemorySystem& system, CMemoryNode* parent) : m_System(
     (parent ? parent->m_Children : system.m_TopNodes).push_back(this);
 }
 
-CMemoryNode::~CMemoryNode() { LeaveScreen(); }
+CMemoryNode::~CMemoryNode()
+{
+    LeaveScreen();
+}
 
 void CMemoryNode::LeaveScreen()
 {
@@ -93,7 +96,10 @@ CMemoryNode* CMemoryNode::Find(point<int> const& screen)
     return this;
 }
 
-CMemoryWindow* CMemoryNode::GetWindowNode() { return m_Parent ? m_Parent->GetWindowNode() : nullptr; }
+CMemoryWindow* CMemoryNode::GetWindowNode()
+{
+    return m_Parent ? m_Parent->GetWindowNode() : nullptr;
+}
 
 void CMemoryNode::SetNodeEnabled(bool enabled)
 {

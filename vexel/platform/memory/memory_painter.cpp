@@ -38,7 +38,10 @@ std::string Numbers(std::initializer_list<double> values)
     return text;
 }
 
-std::string Numbers(rectangle<double> const& rect) { return Numbers({rect.left, rect.top, rect.right, rect.bottom}); }
+std::string Numbers(rectangle<double> const& rect)
+{
+    return Numbers({rect.left, rect.top, rect.right, rect.bottom});
+}
 
 std::string Flags(int flags)
 {
@@ -85,7 +88,10 @@ std::string Quoted(char const* text, int count)
 
 IPaintRecorder::~IPaintRecorder() = default;
 
-IPaintRecorder* SetPaintRecorder(IPaintRecorder* recorder) { return std::exchange(g_Recorder, recorder); }
+IPaintRecorder* SetPaintRecorder(IPaintRecorder* recorder)
+{
+    return std::exchange(g_Recorder, recorder);
+}
 
 /// One call from outside: tells the recorder, and keeps the calls that it makes itself from being told.
 class CMemoryPainter::CCall
@@ -121,27 +127,23 @@ void CMemoryPainter::EndPaint()
 
 void CMemoryPainter::SetCoordSystem(MapMode mode, CoordInfo const* info)
 {
-    CCall const call(*this,
-                     [&]
-                     {
-                         std::string text = "SetCoordSystem " + std::to_string(mode);
-                         if (info)
-                             text += " " +
-                                     Numbers({info->m_LogicalOrigin.x, info->m_LogicalOrigin.y,
-                                              info->m_LogicalExtent.width, info->m_LogicalExtent.height,
-                                              double(info->m_DeviceOrigin.x), double(info->m_DeviceOrigin.y),
-                                              double(info->m_DeviceExtent.width), double(info->m_DeviceExtent.height)});
-                         return text;
-                     });
+    CCall const call(*this, [&] {
+        std::string text = "SetCoordSystem " + std::to_string(mode);
+        if (info)
+            text += " " + Numbers({info->m_LogicalOrigin.x, info->m_LogicalOrigin.y, info->m_LogicalExtent.width,
+                                   info->m_LogicalExtent.height, double(info->m_DeviceOrigin.x),
+                                   double(info->m_DeviceOrigin.y), double(info->m_DeviceExtent.width),
+                                   double(info->m_DeviceExtent.height)});
+        return text;
+    });
     CBasePainter::SetCoordSystem(mode, info);
 }
 
 void CMemoryPainter::SetClipRect(double left, double top, double right, double bottom, bool exclude)
 {
-    CCall const call(*this,
-                     [&] {
-                         return Join({"SetClipRect", Numbers({left, top, right, bottom}), exclude ? "exclude" : ""});
-                     });
+    CCall const call(*this, [&] {
+        return Join({"SetClipRect", Numbers({left, top, right, bottom}), exclude ? "exclude" : ""});
+    });
     CBasePainter::SetClipRect(left, top, right, bottom, exclude);
 }
 
@@ -229,14 +231,12 @@ void CMemoryPainter::RoundRect(double left, double top, double right, double bot
 
 void CMemoryPainter::Polygon(point<double> const* points, int count)
 {
-    CCall const call(*this,
-                     [&]
-                     {
-                         std::string text = "Polygon";
-                         for (int i = 0; i < count; ++i)
-                             text += " " + Numbers({points[i].x, points[i].y});
-                         return text;
-                     });
+    CCall const call(*this, [&] {
+        std::string text = "Polygon";
+        for (int i = 0; i < count; ++i)
+            text += " " + Numbers({points[i].x, points[i].y});
+        return text;
+    });
     CBasePainter::Polygon(points, count);
 }
 
@@ -261,12 +261,10 @@ size<double> CMemoryPainter::DrawString(rectangle<double> const& rect, char cons
         CCall const call(*this);
         return CBasePainter::DrawString(rect, text, flags, count);
     }
-    CCall const call(*this,
-                     [&]
-                     {
-                         return Join({"DrawString", Quoted(text, count), Numbers(rect), Flags(flags),
-                                      count < 0 ? std::string() : std::to_string(count)});
-                     });
+    CCall const call(*this, [&] {
+        return Join({"DrawString", Quoted(text, count), Numbers(rect), Flags(flags),
+                     count < 0 ? std::string() : std::to_string(count)});
+    });
     return CBasePainter::DrawString(rect, text, flags, count);
 }
 
@@ -278,8 +276,7 @@ size<double> CMemoryPainter::DrawStringEx(rectangle<double> const& rect, char co
         CCall const call(*this);
         return CBasePainter::DrawStringEx(rect, text, flags, count, delimiters, formatter);
     }
-    auto const describe = [&]
-    {
+    auto const describe = [&] {
         return Join({"DrawStringEx", Quoted(text, count), Numbers(rect), Flags(flags),
                      count < 0 ? std::string() : std::to_string(count)});
     };
@@ -310,12 +307,10 @@ size<double> CMemoryPainter::GetTextSize(std::string const& text, font const* te
 
 void CMemoryPainter::DrawRun(int x, int y, char const* text, int length)
 {
-    CCall const call(*this,
-                     [&]
-                     {
-                         return Join({"DrawRun", std::to_string(x), std::to_string(y),
-                                      DescribeText(std::string(text, static_cast<std::size_t>(length)))});
-                     });
+    CCall const call(*this, [&] {
+        return Join({"DrawRun", std::to_string(x), std::to_string(y),
+                     DescribeText(std::string(text, static_cast<std::size_t>(length)))});
+    });
     CBasePainter::DrawRun(x, y, text, length);
 }
 
@@ -324,23 +319,19 @@ void CMemoryPainter::DrawRun(int x, int y, char const* text, int length)
 void CMemoryPainter::DrawControlElement(ControlElement element, double left, double top, double right, double bottom,
                                         int state)
 {
-    CCall const call(*this,
-                     [&] {
-                         return Join({"DrawControlElement", std::to_string(element),
-                                      Numbers({left, top, right, bottom}), Flags(state)});
-                     });
+    CCall const call(*this, [&] {
+        return Join({"DrawControlElement", std::to_string(element), Numbers({left, top, right, bottom}), Flags(state)});
+    });
     CBasePainter::DrawControlElement(element, left, top, right, bottom, state);
 }
 
 void CMemoryPainter::DrawRasterPicture(IRasterPicture* picture, double left, double top, double right, double bottom,
                                        RasterOperation operation)
 {
-    CCall const call(*this,
-                     [&]
-                     {
-                         return Join({"DrawRasterPicture", SizeOf(picture), Numbers({left, top, right, bottom}),
-                                      NamedUnlessCopy(operation)});
-                     });
+    CCall const call(*this, [&] {
+        return Join(
+            {"DrawRasterPicture", SizeOf(picture), Numbers({left, top, right, bottom}), NamedUnlessCopy(operation)});
+    });
     CBasePainter::DrawRasterPicture(picture, left, top, right, bottom, operation);
 }
 
@@ -348,23 +339,19 @@ void CMemoryPainter::DrawRasterPictureEx(IRasterPicture* picture, double left, d
                                          double sourceLeft, double sourceTop, double sourceRight, double sourceBottom,
                                          RasterOperation operation)
 {
-    CCall const call(*this,
-                     [&]
-                     {
-                         return Join({"DrawRasterPictureEx", SizeOf(picture), Numbers({left, top, right, bottom}),
-                                      "from", Numbers({sourceLeft, sourceTop, sourceRight, sourceBottom}),
-                                      NamedUnlessCopy(operation)});
-                     });
+    CCall const call(*this, [&] {
+        return Join({"DrawRasterPictureEx", SizeOf(picture), Numbers({left, top, right, bottom}), "from",
+                     Numbers({sourceLeft, sourceTop, sourceRight, sourceBottom}), NamedUnlessCopy(operation)});
+    });
     CBasePainter::DrawRasterPictureEx(picture, left, top, right, bottom, sourceLeft, sourceTop, sourceRight,
                                       sourceBottom, operation);
 }
 
 void CMemoryPainter::ExtractRasterPicture(IRasterPicture* picture, double left, double top, double right, double bottom)
 {
-    CCall const call(*this,
-                     [&] {
-                         return Join({"ExtractRasterPicture", SizeOf(picture), Numbers({left, top, right, bottom})});
-                     });
+    CCall const call(*this, [&] {
+        return Join({"ExtractRasterPicture", SizeOf(picture), Numbers({left, top, right, bottom})});
+    });
     CBasePainter::ExtractRasterPicture(picture, left, top, right, bottom);
 }
 
@@ -372,12 +359,10 @@ void CMemoryPainter::ExtractRasterPictureEx(IRasterPicture* picture, double left
                                             double bottom, double targetLeft, double targetTop, double targetRight,
                                             double targetBottom)
 {
-    CCall const call(*this,
-                     [&]
-                     {
-                         return Join({"ExtractRasterPictureEx", SizeOf(picture), Numbers({left, top, right, bottom}),
-                                      "to", Numbers({targetLeft, targetTop, targetRight, targetBottom})});
-                     });
+    CCall const call(*this, [&] {
+        return Join({"ExtractRasterPictureEx", SizeOf(picture), Numbers({left, top, right, bottom}), "to",
+                     Numbers({targetLeft, targetTop, targetRight, targetBottom})});
+    });
     CBasePainter::ExtractRasterPictureEx(picture, left, top, right, bottom, targetLeft, targetTop, targetRight,
                                          targetBottom);
 }
@@ -385,27 +370,22 @@ void CMemoryPainter::ExtractRasterPictureEx(IRasterPicture* picture, double left
 void CMemoryPainter::AlphaBlend(double left, double top, double right, double bottom, IRasterPicture* picture,
                                 int alpha)
 {
-    CCall const call(
-        *this,
-        [&] {
-            return Join({"AlphaBlend", SizeOf(picture), Numbers({left, top, right, bottom}), std::to_string(alpha)});
-        });
+    CCall const call(*this, [&] {
+        return Join({"AlphaBlend", SizeOf(picture), Numbers({left, top, right, bottom}), std::to_string(alpha)});
+    });
     CBasePainter::AlphaBlend(left, top, right, bottom, picture, alpha);
 }
 
 void CMemoryPainter::DrawXPM(XPMImage const& image, double x, double y, int sourceX, int sourceY, int sourceWidth,
                              int sourceHeight, RasterOperation operation)
 {
-    CCall const call(
-        *this,
-        [&]
-        {
-            std::string const extent = std::to_string(image.GetWidth()) + "x" + std::to_string(image.GetHeight());
-            std::string part;
-            if (sourceX != 0 || sourceY != 0 || sourceWidth != -1 || sourceHeight != -1)
-                part = "from " + Numbers({double(sourceX), double(sourceY), double(sourceWidth), double(sourceHeight)});
-            return Join({"DrawXPM", extent, Numbers({x, y}), part, NamedUnlessCopy(operation)});
-        });
+    CCall const call(*this, [&] {
+        std::string const extent = std::to_string(image.GetWidth()) + "x" + std::to_string(image.GetHeight());
+        std::string part;
+        if (sourceX != 0 || sourceY != 0 || sourceWidth != -1 || sourceHeight != -1)
+            part = "from " + Numbers({double(sourceX), double(sourceY), double(sourceWidth), double(sourceHeight)});
+        return Join({"DrawXPM", extent, Numbers({x, y}), part, NamedUnlessCopy(operation)});
+    });
     CBasePainter::DrawXPM(image, x, y, sourceX, sourceY, sourceWidth, sourceHeight, operation);
 }
 

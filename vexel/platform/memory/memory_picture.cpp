@@ -11,11 +11,20 @@ namespace
 int g_Count = 0;
 }
 
-CMemoryPicture::CMemoryPicture(size<int> const& extent) : CBasePicture(extent) { ++g_Count; }
+CMemoryPicture::CMemoryPicture(size<int> const& extent) : CBasePicture(extent)
+{
+    ++g_Count;
+}
 
-CMemoryPicture::~CMemoryPicture() { --g_Count; }
+CMemoryPicture::~CMemoryPicture()
+{
+    --g_Count;
+}
 
-int CMemoryPicture::GetCount() { return g_Count; }
+int CMemoryPicture::GetCount()
+{
+    return g_Count;
+}
 
 std::unique_ptr<IPaintDevice> CMemoryPicture::CreateDevice(CPixelBuffer& pixels) const
 {

@@ -50,7 +50,10 @@ CMemoryPopup::~CMemoryPopup()
     --g_Count;
 }
 
-int CMemoryPopup::GetCount() { return g_Count; }
+int CMemoryPopup::GetCount()
+{
+    return g_Count;
+}
 
 void CMemoryPopup::OwnerGone()
 {
@@ -58,7 +61,10 @@ void CMemoryPopup::OwnerGone()
     Close(m_Code);
 }
 
-void CMemoryPopup::SetSize(int width, int height) { m_Window->Resize({width, height}); }
+void CMemoryPopup::SetSize(int width, int height)
+{
+    m_Window->Resize({width, height});
+}
 
 void CMemoryPopup::Show(point<int> const& screen)
 {

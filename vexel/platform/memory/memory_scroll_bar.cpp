@@ -24,7 +24,10 @@ CMemoryScrollBar::CMemoryScrollBar(CMemorySystem& system, CMemoryNode& window, b
     Place(0, 0, vertical ? width : 3 * width, vertical ? 3 * height : height);
 }
 
-double CMemoryScrollBar::GetRoom() const { return std::max(m_Info.maximum - m_Info.page - m_Info.minimum, 0.0); }
+double CMemoryScrollBar::GetRoom() const
+{
+    return std::max(m_Info.maximum - m_Info.page - m_Info.minimum, 0.0);
+}
 
 double CMemoryScrollBar::GetThumbPos() const
 {
@@ -59,11 +62,20 @@ void CMemoryScrollBar::UserMoves(double fromEnd, CScrollEvent::ScrollAction acti
     Do([&] { Fire<&IScrollBarNotify::ScrollBarOnScroll>(*this, &event, true); });
 }
 
-void CMemoryScrollBar::DragThumb(double fromEnd) { UserMoves(fromEnd, CScrollEvent::saThumb); }
+void CMemoryScrollBar::DragThumb(double fromEnd)
+{
+    UserMoves(fromEnd, CScrollEvent::saThumb);
+}
 
-void CMemoryScrollBar::StepLine(int steps) { UserMoves(GetThumbPos() + steps * m_Info.lineStep, CScrollEvent::saLine); }
+void CMemoryScrollBar::StepLine(int steps)
+{
+    UserMoves(GetThumbPos() + steps * m_Info.lineStep, CScrollEvent::saLine);
+}
 
-void CMemoryScrollBar::StepPage(int pages) { UserMoves(GetThumbPos() + pages * m_Info.page, CScrollEvent::saPage); }
+void CMemoryScrollBar::StepPage(int pages)
+{
+    UserMoves(GetThumbPos() + pages * m_Info.page, CScrollEvent::saPage);
+}
 
 range<int> CMemoryScrollBar::GetTrack() const
 {
@@ -125,6 +137,9 @@ void CMemoryScrollBar::NodeButtonUp(CMouseEvent&)
         GetSystem().SetCaptureNode(nullptr);
 }
 
-void CMemoryScrollBar::NodeWheel(CMouseWheelEvent& event) { StepLine(-LinesPerNotch * event.m_Delta); }
+void CMemoryScrollBar::NodeWheel(CMouseWheelEvent& event)
+{
+    StepLine(-LinesPerNotch * event.m_Delta);
+}
 
 }  // namespace vexelbase::memory

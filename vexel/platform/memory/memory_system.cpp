@@ -87,15 +87,27 @@ void CMemorySystem::Reset()
 
 // Time -------------------------------------------------------------------------------------------------------------
 
-std::int64_t CMemorySystem::GetTime() const { return m_Timers->Now(); }
+std::int64_t CMemorySystem::GetTime() const
+{
+    return m_Timers->Now();
+}
 
-void CMemorySystem::Advance(int milliseconds) { m_Timers->Advance(milliseconds); }
+void CMemorySystem::Advance(int milliseconds)
+{
+    m_Timers->Advance(milliseconds);
+}
 
-std::vector<int> CMemorySystem::GetRunningPeriods() const { return m_Timers->GetRunningPeriods(); }
+std::vector<int> CMemorySystem::GetRunningPeriods() const
+{
+    return m_Timers->GetRunningPeriods();
+}
 
 // Background work --------------------------------------------------------------------------------------------------
 
-int CMemorySystem::StepBackground() { return m_Runners->Step(); }
+int CMemorySystem::StepBackground()
+{
+    return m_Runners->Step();
+}
 
 int CMemorySystem::RunBackground(int limit)
 {
@@ -110,7 +122,10 @@ int CMemorySystem::RunBackground(int limit)
     return rounds;
 }
 
-int CMemorySystem::GetRunningRunners() const { return m_Runners->GetRunning(); }
+int CMemorySystem::GetRunningRunners() const
+{
+    return m_Runners->GetRunning();
+}
 
 // Queues -----------------------------------------------------------------------------------------------------------
 
@@ -149,9 +164,15 @@ void CMemorySystem::SetMetric(int metric, int pixels)
         m_Metrics[metric] = pixels;
 }
 
-IPointer* CMemorySystem::GetPointer() { return &m_Pointer; }
+IPointer* CMemorySystem::GetPointer()
+{
+    return &m_Pointer;
+}
 
-IClipboard* CMemorySystem::GetClipboard() { return &m_Clipboard; }
+IClipboard* CMemorySystem::GetClipboard()
+{
+    return &m_Clipboard;
+}
 
 font CMemorySystem::GetDefaultFont()
 {
@@ -167,9 +188,15 @@ int CMemorySystem::GetSystemMetric(int metric)
     return metric == smScrollBarWidth || metric == smScrollBarHeight ? m_Metrics[metric] : 0;
 }
 
-rectangle<int> CMemorySystem::GetWorkArea(point<int> const&) { return {0, 0, ScreenSize.width, ScreenSize.height}; }
+rectangle<int> CMemorySystem::GetWorkArea(point<int> const&)
+{
+    return {0, 0, ScreenSize.width, ScreenSize.height};
+}
 
-vexel_ptr<ISysTimer> CMemorySystem::CreateTimer(int period, int) { return MakeRef<CMemoryTimer>(m_Timers, period); }
+vexel_ptr<ISysTimer> CMemorySystem::CreateTimer(int period, int)
+{
+    return MakeRef<CMemoryTimer>(m_Timers, period);
+}
 
 vexel_ptr<IRasterPicture> CMemorySystem::CreateRasterPicture(size<int> const& pictureSize)
 {
@@ -199,7 +226,10 @@ vexel_ptr<IRunner> CMemorySystem::GetRunner()
     return MakeRef<CScriptedRunner>(m_Runners);
 }
 
-vexel_ptr<ILock> CMemorySystem::CreateLock() { return MakeRef<CCountedLock>(); }
+vexel_ptr<ILock> CMemorySystem::CreateLock()
+{
+    return MakeRef<CCountedLock>();
+}
 
 // Mouse ------------------------------------------------------------------------------------------------------------
 
@@ -230,9 +260,15 @@ MouseButton CMemorySystem::GetHeldButton() const
     return m_Buttons & ksLeft ? mbLeft : m_Buttons & ksRight ? mbRight : m_Buttons & ksMiddle ? mbMiddle : mbNone;
 }
 
-int CMemorySystem::GetKeyState() const { return m_Buttons | m_Keys; }
+int CMemorySystem::GetKeyState() const
+{
+    return m_Buttons | m_Keys;
+}
 
-bool CMemorySystem::IsButtonHeld(MouseButton button) const { return (m_Buttons & StateBit(button)) != 0; }
+bool CMemorySystem::IsButtonHeld(MouseButton button) const
+{
+    return (m_Buttons & StateBit(button)) != 0;
+}
 
 // Tells a node that the pointer has left it, unless the capture keeps the pointer there.
 void CMemorySystem::SettlePointer()
@@ -285,7 +321,10 @@ void CMemorySystem::ReleaseButton(MouseButton button)
     SettlePointer();
 }
 
-void CMemorySystem::DropButton(MouseButton button) { m_Buttons &= ~StateBit(button); }
+void CMemorySystem::DropButton(MouseButton button)
+{
+    m_Buttons &= ~StateBit(button);
+}
 
 void CMemorySystem::TurnWheel(int notches)
 {
@@ -310,7 +349,10 @@ void CMemorySystem::RestPointer()
 
 // Keyboard ---------------------------------------------------------------------------------------------------------
 
-void CMemorySystem::SetHeldKeys(int keys) { m_Keys = keys & (ksShift | ksControl | ksAlt); }
+void CMemorySystem::SetHeldKeys(int keys)
+{
+    m_Keys = keys & (ksShift | ksControl | ksAlt);
+}
 
 bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise, bool* passOn)
 {
@@ -369,8 +411,7 @@ void CMemorySystem::SetFocusNode(CMemoryNode* node)
 void CMemorySystem::TabFrom(CMemoryNode* node, bool forward)
 {
     std::vector<CMemoryNode*> stops;
-    auto const collect = [&](auto const& self, CMemoryNode* candidate) -> void
-    {
+    auto const collect = [&](auto const& self, CMemoryNode* candidate) -> void {
         if (candidate == node || (candidate->TakesFocus() && candidate->IsNodeVisible() && candidate->IsNodeEnabled()))
             stops.push_back(candidate);
         for (CMemoryNode* child : candidate->GetChildNodes())

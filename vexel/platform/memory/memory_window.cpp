@@ -59,7 +59,10 @@ CMemoryWindow::~CMemoryWindow()
     --g_Count;
 }
 
-int CMemoryWindow::GetCount() { return g_Count; }
+int CMemoryWindow::GetCount()
+{
+    return g_Count;
+}
 
 std::unique_ptr<CBasePainter> CMemoryWindow::CreatePainter(CRasterDevice& device)
 {
@@ -146,7 +149,10 @@ int CMemoryWindow::RunPosted()
     return counts->ran - before;
 }
 
-int CMemoryWindow::GetPostedCount() const { return m_QueueCounts->waiting; }
+int CMemoryWindow::GetPostedCount() const
+{
+    return m_QueueCounts->waiting;
+}
 
 void CMemoryWindow::DropPosted()
 {
@@ -204,7 +210,10 @@ void CMemoryWindow::TellSysColorChange()
 
 // What it was asked to do ------------------------------------------------------------------------------------------
 
-bool CMemoryWindow::HasCapture() const { return GetSystem().GetCaptureNode() == this; }
+bool CMemoryWindow::HasCapture() const
+{
+    return GetSystem().GetCaptureNode() == this;
+}
 
 void CMemoryWindow::SetFocus()
 {
@@ -212,7 +221,10 @@ void CMemoryWindow::SetFocus()
         GetSystem().SetFocusNode(this);
 }
 
-bool CMemoryWindow::HasFocus() const { return GetSystem().GetFocusNode() == this; }
+bool CMemoryWindow::HasFocus() const
+{
+    return GetSystem().GetFocusNode() == this;
+}
 
 void CMemoryWindow::CaptureMouse()
 {
@@ -295,9 +307,15 @@ void CMemoryWindow::NodeButtonDown(CMouseEvent& event, bool doubled)
         Deliver(&CVexelControl::OnDoubleClick, &second);
 }
 
-void CMemoryWindow::NodeButtonUp(CMouseEvent& event) { Deliver(&CVexelControl::OnButtonUp, &event); }
+void CMemoryWindow::NodeButtonUp(CMouseEvent& event)
+{
+    Deliver(&CVexelControl::OnButtonUp, &event);
+}
 
-void CMemoryWindow::NodeWheel(CMouseWheelEvent& event) { Deliver(&CVexelControl::OnWheel, &event); }
+void CMemoryWindow::NodeWheel(CMouseWheelEvent& event)
+{
+    Deliver(&CVexelControl::OnWheel, &event);
+}
 
 void CMemoryWindow::NodeHover(CMouseEvent& event)
 {
@@ -319,9 +337,15 @@ bool CMemoryWindow::NodeKeyDown(CKeyboardEvent& event)
     return !event.IsContinue() || !event.m_PassOn;
 }
 
-void CMemoryWindow::NodeKeyUp(CKeyboardEvent& event) { Deliver(&CVexelControl::OnKeyUp, &event); }
+void CMemoryWindow::NodeKeyUp(CKeyboardEvent& event)
+{
+    Deliver(&CVexelControl::OnKeyUp, &event);
+}
 
-void CMemoryWindow::NodeChar(CKeyboardEvent& event) { Deliver(&CVexelControl::OnChar, &event); }
+void CMemoryWindow::NodeChar(CKeyboardEvent& event)
+{
+    Deliver(&CVexelControl::OnChar, &event);
+}
 
 void CMemoryWindow::NodeFocus(bool has)
 {
@@ -338,7 +362,10 @@ void CMemoryWindow::NodeTabbedInto(bool forward)
 
 // Frames -----------------------------------------------------------------------------------------------------------
 
-void CMemoryWindow::PresentDamage() { GetDevice().GetDamage().Clear(); }
+void CMemoryWindow::PresentDamage()
+{
+    GetDevice().GetDamage().Clear();
+}
 
 void CMemoryWindow::AfterPaint()
 {

@@ -19,9 +19,15 @@ CMemoryNativeNode::CMemoryNativeNode(CMemorySystem& system, CMemoryNode& parent)
     SetNodeVisible(false);
 }
 
-CMemoryNativeNode::~CMemoryNativeNode() { --g_Count; }
+CMemoryNativeNode::~CMemoryNativeNode()
+{
+    --g_Count;
+}
 
-int CMemoryNativeNode::GetCount() { return g_Count; }
+int CMemoryNativeNode::GetCount()
+{
+    return g_Count;
+}
 
 void CMemoryNativeNode::WantVisible(bool visible)
 {
@@ -49,7 +55,10 @@ void CMemoryNativeNode::WantFocus()
         GetSystem().FocusWhenShown(this);
 }
 
-void CMemoryNativeNode::WantEnabled(bool enabled) { SetNodeEnabled(enabled); }
+void CMemoryNativeNode::WantEnabled(bool enabled)
+{
+    SetNodeEnabled(enabled);
+}
 
 void CMemoryNativeNode::Place(int left, int top, int width, int height)
 {

@@ -42,7 +42,8 @@ std::unique_ptr<ISysWindow> CApplication::CreateMainWindow(std::string const& ti
     widget->setWindowTitle(ToQString(title));
     widget->resize(std::max(1, extent.width), std::max(1, extent.height));
     window->SyncSurface();
-    QMetaObject::invokeMethod(widget, [widget] { widget->show(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        widget, [widget] { widget->show(); }, Qt::QueuedConnection);
     return window;
 }
 
@@ -72,4 +73,4 @@ void CApplication::ProcessEvents()
     QCoreApplication::processEvents();
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

@@ -11,7 +11,8 @@ namespace vexelbase::qt
 {
 
 /// A program on the Qt 6 desktop: makes the application object, unless there is one already, and installs the backend as
-/// the current system. The only one of its kind while it lives; belongs to the thread that runs main.
+/// the current system. Belongs to the thread that runs main. Where there is one already, another stands on the same
+/// application object.
 ///
 /// Windows and controls should go before it. Windows that are left over lose their native side with it; pictures, timers
 /// and palettes may outlive it, but do nothing any more.
@@ -37,13 +38,13 @@ public:
     /// Shows for a moment, in colour over the windows, what each paint has changed. For finding needless repaints.
     void SetShowRepaints(bool show);
 
-    int Run();               ///< The event loop; returns what Quit was given, 0 after the last window was closed.
+    int Run();                ///< The event loop; returns what Quit was given, 0 after the last window was closed.
     void Quit(int code = 0);  ///< Ends the loop after the present event.
-    void ProcessEvents();    ///< What waits now, without waiting for more.
+    void ProcessEvents();     ///< What waits now, without waiting for more.
 
 private:
     struct SData;
     std::unique_ptr<SData> m_Data;
 };
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

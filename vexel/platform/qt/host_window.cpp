@@ -25,4 +25,4 @@ QWidget* GetWidget(ISysWindow* window)
     return own ? own->GetWidget() : nullptr;
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

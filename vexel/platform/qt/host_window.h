@@ -26,4 +26,4 @@ VEXEL_QT_API std::unique_ptr<ISysWindow> HostWindow(QWidget* host);
 /// to the window.
 VEXEL_QT_API QWidget* GetWidget(ISysWindow* window);
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

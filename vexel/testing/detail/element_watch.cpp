@@ -12,7 +12,10 @@ CElementWatch& CElementWatch::Get()
     return *watch;
 }
 
-void CElementWatch::Install() { SetElementObserver(this); }
+void CElementWatch::Install()
+{
+    SetElementObserver(this);
+}
 
 void CElementWatch::ElementPainted(CVisualElement* element, vexelbase::IPainter* painter)
 {

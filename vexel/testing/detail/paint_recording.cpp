@@ -23,7 +23,10 @@ CPaintRecording::~CPaintRecording()
     vexelbase::memory::SetPaintRecorder(m_OuterRecorder);
 }
 
-CPaintRecording* CPaintRecording::GetCurrent() { return g_Current; }
+CPaintRecording* CPaintRecording::GetCurrent()
+{
+    return g_Current;
+}
 
 void CPaintRecording::PainterCalled(vexelbase::memory::CMemoryPainter& painter, int depth, std::string const& call)
 {

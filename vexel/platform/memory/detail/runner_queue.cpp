@@ -13,7 +13,10 @@ namespace
 std::atomic<int> g_Count{0};
 }
 
-int GetScriptedRunnerCount() { return g_Count; }
+int GetScriptedRunnerCount()
+{
+    return g_Count;
+}
 
 // CRunnerQueue -----------------------------------------------------------------------------------------------------
 
@@ -44,7 +47,10 @@ void CRunnerQueue::Reset()
 
 // CScriptedRunner --------------------------------------------------------------------------------------------------
 
-CScriptedRunner::CScriptedRunner(std::shared_ptr<CRunnerQueue> queue) : m_Queue(std::move(queue)) { ++g_Count; }
+CScriptedRunner::CScriptedRunner(std::shared_ptr<CRunnerQueue> queue) : m_Queue(std::move(queue))
+{
+    ++g_Count;
+}
 
 CScriptedRunner::~CScriptedRunner()
 {
@@ -70,7 +76,10 @@ void CScriptedRunner::Stop()
     m_Queue->Remove(*this);
 }
 
-void CScriptedRunner::SetWait(int milliseconds) { m_Wait = std::max(milliseconds, 0); }
+void CScriptedRunner::SetWait(int milliseconds)
+{
+    m_Wait = std::max(milliseconds, 0);
+}
 
 void CScriptedRunner::Round()
 {

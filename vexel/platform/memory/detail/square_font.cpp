@@ -12,7 +12,10 @@ namespace
 
 constexpr std::uint32_t Replacement = 0xFFFD;
 
-bool IsBlank(std::uint32_t character) { return character <= 0x20 || character == 0x7F || character == 0xA0; }
+bool IsBlank(std::uint32_t character)
+{
+    return character <= 0x20 || character == 0x7F || character == 0xA0;
+}
 
 // Nine bits, different for all characters below 512.
 unsigned PatternOf(std::uint32_t character)

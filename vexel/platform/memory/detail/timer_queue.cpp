@@ -24,9 +24,9 @@ std::vector<CMemoryTimer*>& AllTimers()
 
 std::vector<CTimerQueue::SEntry>::iterator CTimerQueue::FindNext()
 {
-    return std::min_element(m_Entries.begin(), m_Entries.end(),
-                            [](SEntry const& a, SEntry const& b)
-                            { return a.due != b.due ? a.due < b.due : a.number < b.number; });
+    return std::min_element(m_Entries.begin(), m_Entries.end(), [](SEntry const& a, SEntry const& b) {
+        return a.due != b.due ? a.due < b.due : a.number < b.number;
+    });
 }
 
 void CTimerQueue::Advance(int milliseconds)
@@ -122,7 +122,10 @@ void CMemoryTimer::Tick()
     }
 }
 
-int CMemoryTimer::GetCount() { return static_cast<int>(AllTimers().size()); }
+int CMemoryTimer::GetCount()
+{
+    return static_cast<int>(AllTimers().size());
+}
 
 int CMemoryTimer::GetRunningCount()
 {

@@ -17,7 +17,7 @@ namespace qt
 /// How much of each pixel a glyph covers, 0 to 255. `bits`: `height` rows of `stride` bytes, 0 behind `width`.
 struct SCoverage
 {
-    static constexpr int StrideStep = 4;  ///< Strides are multiples of it.
+    static constexpr int StrideStep = 8;  ///< Strides are multiples of it, so that groups of pixels can be read whole.
 
     int left = 0;  ///< From the pen position at the run's left-top, in device pixels.
     int top = 0;
@@ -31,7 +31,13 @@ struct SCoverage
 };
 
 /// Quarter turns counter-clockwise.
-enum class ETurn : int { None = 0, Quarter = 1, Half = 2, ThreeQuarters = 3 };
+enum class ETurn : int
+{
+    None = 0,
+    Quarter = 1,
+    Half = 2,
+    ThreeQuarters = 3
+};
 
 /// Turns a coverage about the pen position: the pixel (u, v) of the upright frame goes to (v, -u-1) by a quarter turn.
 /// `bits` gets the turned pixels and must live as long as the result is used.
@@ -49,5 +55,5 @@ void BlendCoverage(CPixelBuffer& pixels, rectangle<int> const& clip, int x, int 
 void BlendPremultiplied(CPixelBuffer& pixels, rectangle<int> const& clip, rectangle<int> const& place,
                         std::uint32_t const* source);
 
-} // namespace qt
-} // namespace vexelbase
+}  // namespace qt
+}  // namespace vexelbase

@@ -67,7 +67,12 @@ private:
     static constexpr std::size_t PageSize = 128;
     static constexpr std::size_t PageCount = 0x10000 / PageSize;
 
-    enum class EState : std::uint8_t { Unknown, Plain, Complex };
+    enum class EState : std::uint8_t
+    {
+        Unknown,
+        Plain,
+        Complex
+    };
     struct SSlot
     {
         SGlyph glyph;
@@ -112,4 +117,4 @@ char32_t DecodeUtf8(char const* text, char const* end, int& length);
 /// The text as Qt wants it, ill-formed bytes as above.
 QString ToQString(std::string_view text);
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

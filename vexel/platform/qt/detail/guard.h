@@ -27,4 +27,4 @@ template <class Work> void Guarded(Work&& work)
     }
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

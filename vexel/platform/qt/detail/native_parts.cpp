@@ -55,7 +55,8 @@ void DrawArrowButton(QStyle* style, QPainter& painter, QRect const& rect, int st
     style->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter);
 }
 
-void DrawMark(QStyle* style, QStyle::PrimitiveElement part, bool checked, QPainter& painter, QRect const& rect, int state)
+void DrawMark(QStyle* style, QStyle::PrimitiveElement part, bool checked, QPainter& painter, QRect const& rect,
+              int state)
 {
     QStyleOptionButton option;
     Prepare(option, rect, state);
@@ -100,7 +101,7 @@ void DrawPart(QStyle* style, IPainter::ControlElement element, QPainter& painter
     }
 }
 
-} // namespace
+}  // namespace
 
 void CNativeParts::Draw(QImage& image, rectangle<int> const& area, IPainter::ControlElement element, int state,
                         double ratio)
@@ -146,8 +147,9 @@ CPixelBuffer const& CNativeParts::GetPicture(IPainter::ControlElement element, s
         return found->second.pixels;
     }
 
-    auto const bytesOf = [](size<int> const& area)
-    { return static_cast<std::size_t>(area.width) * static_cast<std::size_t>(area.height) * sizeof(std::uint32_t); };
+    auto const bytesOf = [](size<int> const& area) {
+        return static_cast<std::size_t>(area.width) * static_cast<std::size_t>(area.height) * sizeof(std::uint32_t);
+    };
     while (!m_Order.empty() && (m_Order.size() >= MaxPictures || m_Bytes > MaxBytes))
     {
         auto const oldest = m_Pictures.find(m_Order.back());
@@ -165,4 +167,4 @@ CPixelBuffer const& CNativeParts::GetPicture(IPainter::ControlElement element, s
     return picture.pixels;
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

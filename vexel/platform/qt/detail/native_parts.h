@@ -44,4 +44,4 @@ private:
     std::size_t m_Bytes = 0;
 };
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

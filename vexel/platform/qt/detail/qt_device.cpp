@@ -4,6 +4,7 @@
 #include "vexel/platform/qt/detail/native_parts.h"
 #include "vexel/platform/qt/detail/text_engine.h"
 
+#include <QCoreApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -16,6 +17,12 @@ namespace
 {
 
 constexpr std::int64_t MaxKeptPart = 1 << 20;  // pixels
+
+// Qt has no fonts without an application object.
+bool HasFonts()
+{
+    return QCoreApplication::instance() != nullptr;
+}
 
 std::string_view TextOf(IPaintDevice::SRun const& run)
 {
@@ -61,7 +68,7 @@ SReach ReachOf(IPaintDevice::SRun const& run, ETurn turn, rectangle<int> const& 
     return {result.first - 4 * std::int64_t{overhang}, result.last + overhang};
 }
 
-} // namespace
+}  // namespace
 
 QImage ViewPixels(CPixelBuffer& pixels)
 {
@@ -94,7 +101,7 @@ bool CQtDevice::Collect(CFontFace& face, std::string_view text, int& width)
 
 int CQtDevice::MeasureRun(font const& textFont, char const* text, int length)
 {
-    if (length <= 0)
+    if (length <= 0 || !HasFonts())
         return 0;
     CTextEngine& engine = CTextEngine::Get();
     CFontFace& face = engine.GetFace(textFont, m_Ratio);
@@ -118,12 +125,14 @@ int CQtDevice::MeasureRun(font const& textFont, char const* text, int length)
 
 void CQtDevice::GetMetrics(font const& textFont, fontmetrics& metrics)
 {
-    metrics = CTextEngine::Get().GetFace(textFont, m_Ratio).GetMetrics();
+    metrics = fontmetrics();
+    if (HasFonts())
+        metrics = CTextEngine::Get().GetFace(textFont, m_Ratio).GetMetrics();
 }
 
 void CQtDevice::DrawRun(SRun const& run)
 {
-    if (run.length <= 0)
+    if (run.length <= 0 || !HasFonts())
         return;
     rectangle<int> clip = run.clip;
     clip.Intersect({0, 0, GetPixels().GetWidth(), GetPixels().GetHeight()});
@@ -148,9 +157,8 @@ void CQtDevice::DrawPlain(SRun const& run, CFontFace const& face, int width, rec
     int const overhang = face.GetOverhang();
 
     // What the run may touch at most; a run beside the clip ends here.
-    rectangle<int> box = TurnRectangle({-overhang, -overhang, AddSaturated(width, overhang),
-                                        metrics.ascent + metrics.descent + overhang},
-                                       turn);
+    rectangle<int> box = TurnRectangle(
+        {-overhang, -overhang, AddSaturated(width, overhang), metrics.ascent + metrics.descent + overhang}, turn);
     box = {AddSaturated(box.left, run.x), AddSaturated(box.top, run.y), AddSaturated(box.right, run.x),
            AddSaturated(box.bottom, run.y)};
     box.Intersect(clip);
@@ -290,4 +298,4 @@ void CQtDevice::DrawControlElement(IPainter::ControlElement element, rectangle<i
     }
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

@@ -47,4 +47,4 @@ private:
 /// A Qt image on the buffer's pixels; it must not outlive them.
 QImage ViewPixels(CPixelBuffer& pixels);
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

@@ -63,7 +63,7 @@ QString ToTipText(CTooltipEvent const& event)
     return QStringLiteral("<p style=\"%1\">%2</p>").arg(style.toHtmlEscaped(), text.toHtmlEscaped());
 }
 
-} // namespace
+}  // namespace
 
 point<int> CQtInput::ToPixels(QPointF const& position) const
 {
@@ -247,7 +247,8 @@ bool CQtInput::KeyUp(QKeyEvent const& event)
 
 bool CQtInput::InputMethod(QInputMethodEvent const& event)
 {
-    SendCharacters(event.commitString(), ToKeyState(QGuiApplication::keyboardModifiers(), QGuiApplication::mouseButtons()));
+    SendCharacters(event.commitString(),
+                   ToKeyState(QGuiApplication::keyboardModifiers(), QGuiApplication::mouseButtons()));
     return true;
 }
 
@@ -320,4 +321,4 @@ void CQtInput::HideTooltip()
     m_TooltipShown = false;
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

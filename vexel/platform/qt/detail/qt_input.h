@@ -71,4 +71,4 @@ private:
     SMove m_LastMove;
 };
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

@@ -55,15 +55,14 @@ int DigitOfUpperRow(quint32 scanCode)
     constexpr quint32 count = 10;
     if (scanCode < first || scanCode >= first + count)
         return 0;
-    static bool const known = []
-    {
+    static bool const known = [] {
         QString const platform = QGuiApplication::platformName();
         return platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
     }();
     return known ? '0' + static_cast<int>((scanCode - first + 1) % count) : 0;
 }
 
-} // namespace
+}  // namespace
 
 int ToKeyState(Qt::KeyboardModifiers modifiers, Qt::MouseButtons buttons)
 {
@@ -124,4 +123,4 @@ int ToVirtualKey(QKeyEvent const& event)
     return DigitOfUpperRow(event.nativeScanCode());
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

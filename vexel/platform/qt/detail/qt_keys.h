@@ -18,4 +18,4 @@ MouseButton ToHeldButton(Qt::MouseButtons buttons);  ///< The left one before th
 /// The virtual key, 0 for keys without one. A digit of the upper row keeps its number while shift is held.
 int ToVirtualKey(QKeyEvent const& event);
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

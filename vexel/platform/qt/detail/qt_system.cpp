@@ -6,6 +6,7 @@
 #include "vexel/platform/qt/detail/qt_device.h"
 #include "vexel/platform/qt/detail/qt_timer.h"
 #include "vexel/platform/qt/detail/qt_window.h"
+#include "vexel/platform/qt/detail/text_engine.h"
 #include "vexel/platform/runner.h"
 #include "vexel/platform/xpm.h"
 
@@ -39,7 +40,7 @@ int Contrast(QColor const& a, QColor const& b)
     return std::abs(qGray(a.rgb()) - qGray(b.rgb()));
 }
 
-} // namespace
+}  // namespace
 
 // CQtPicture -------------------------------------------------------------------------------------------------------
 
@@ -72,8 +73,9 @@ void CQtPalette::Refresh() const
         return;
     m_Key = palette.cacheKey();
 
-    auto const set = [&](SysColor number, QPalette::ColorRole role)
-    { m_Colors[static_cast<std::size_t>(number)] = ToColor(palette.color(QPalette::Active, role)); };
+    auto const set = [&](SysColor number, QPalette::ColorRole role) {
+        m_Colors[static_cast<std::size_t>(number)] = ToColor(palette.color(QPalette::Active, role));
+    };
     set(scWindow, QPalette::Base);
     set(scWindowText, QPalette::Text);
     set(scFace, QPalette::Window);
@@ -90,7 +92,8 @@ void CQtPalette::Refresh() const
 
     // The shadow is also the text colour of what is disabled. Dark themes have shadows that no text can be read in.
     constexpr int readable = 40;
-    if (Contrast(palette.color(QPalette::Active, QPalette::Dark), palette.color(QPalette::Active, QPalette::Window)) < readable)
+    if (Contrast(palette.color(QPalette::Active, QPalette::Dark), palette.color(QPalette::Active, QPalette::Window)) <
+        readable)
         m_Colors[scShadow] = ToColor(palette.color(QPalette::Disabled, QPalette::WindowText));
 }
 
@@ -104,18 +107,16 @@ CQtSystem& CQtSystem::Get()
 
 void CQtSystem::Install()
 {
+    if (m_Installed++ > 0)
+        return;
     qAddPostRoutine(&CQtSystem::ApplicationGoes);
-    ISystem* const before = SetCurrentSystem(this);
-    if (before != this)
-        m_Before = before;
-    m_Installed = true;
+    m_Before = SetCurrentSystem(this);
 }
 
 void CQtSystem::Uninstall()
 {
-    if (!m_Installed)
+    if (m_Installed == 0 || --m_Installed > 0)
         return;
-    m_Installed = false;
     if (GetCurrentSystem() == this)
         SetCurrentSystem(m_Before);
     m_Before = nullptr;
@@ -127,7 +128,10 @@ void CQtSystem::ApplicationGoes()
     CQtWindow::DestroyAll();
     CQtTimer::StopAll();
     CNativeParts::Get().Clear();
-    Get().Uninstall();
+    CTextEngine::Get().Clear();
+    CQtSystem& system = Get();
+    system.m_Installed = std::min(system.m_Installed, 1);
+    system.Uninstall();
 }
 
 font CQtSystem::GetDefaultFont()
@@ -211,7 +215,8 @@ rectangle<int> CQtSystem::GetWorkArea(point<int> const& screen)
     if (!qApp)
         return {};
     double const scale = GetScale();
-    QScreen const* found = QGuiApplication::screenAt(QPoint(FloorToInt(screen.x / scale), FloorToInt(screen.y / scale)));
+    QScreen const* found =
+        QGuiApplication::screenAt(QPoint(FloorToInt(screen.x / scale), FloorToInt(screen.y / scale)));
     if (!found)
         found = QGuiApplication::primaryScreen();
     if (!found)
@@ -253,4 +258,4 @@ std::string CQtSystem::CClipboard::GetText() const
     return qApp ? QGuiApplication::clipboard()->text().toStdString() : std::string();
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

@@ -39,9 +39,10 @@ class CQtSystem final : public ISystem
 {
 public:
     static CQtSystem& Get();
-    /// Makes it the current system. The application object must exist.
+    /// Makes it the current system, counted. The application object must exist.
     void Install();
-    /// Gives the place back to the system that stood there before, if it is still the current one.
+    /// The last one gives the place back to the system that stood there before, if this is still the current one. The
+    /// end of the application object does the same.
     void Uninstall();
 
     IPointer* GetPointer() override { return &m_Pointer; }
@@ -83,7 +84,7 @@ private:
     CQtPalette m_Palette;
     double m_Zoom = 1.0;
     ISystem* m_Before = nullptr;
-    bool m_Installed = false;
+    int m_Installed = 0;
 };
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

@@ -22,7 +22,7 @@ std::vector<CQtTimer*>& AllTimers()
     return *timers;
 }
 
-} // namespace
+}  // namespace
 
 CQtTimer::CQtTimer(int period) : m_Period(std::max(1, period))
 {
@@ -67,12 +67,10 @@ void CQtTimer::SetRunning(bool running)
 void CQtTimer::Fire()
 {
     vexel_ptr<CQtTimer> const self(this);  // a subscriber may drop the last reference
-    Guarded(
-        [this]
-        {
-            CTimerEvent event;
-            vexelbase::Fire<&ITimerNotify::OnTimer>(*this, &event, true);
-        });
+    Guarded([this] {
+        CTimerEvent event;
+        vexelbase::Fire<&ITimerNotify::OnTimer>(*this, &event, true);
+    });
 }
 
 void CQtTimer::StopAll()
@@ -84,4 +82,4 @@ void CQtTimer::StopAll()
     }
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

@@ -31,4 +31,4 @@ private:
     bool m_Running = false;
 };
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

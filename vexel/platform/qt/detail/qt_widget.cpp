@@ -111,4 +111,4 @@ QVariant CQtWidget::inputMethodQuery(Qt::InputMethodQuery query) const
     return QWidget::inputMethodQuery(query);
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

@@ -41,4 +41,4 @@ private:
     int m_Depth = 0;
 };
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

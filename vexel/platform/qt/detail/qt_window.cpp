@@ -52,7 +52,7 @@ Qt::CursorShape ToShape(int cursor)
     }
 }
 
-} // namespace
+}  // namespace
 
 bool CQtWindow::s_ShowRepaints = false;
 
@@ -97,7 +97,8 @@ void CQtWindow::DestroyAll()
     std::vector<CQtWindow*> const& all = AllWindows();
     for (;;)
     {
-        auto const found = std::find_if(all.begin(), all.end(), [](CQtWindow const* window) { return window->m_Widget; });
+        auto const found =
+            std::find_if(all.begin(), all.end(), [](CQtWindow const* window) { return window->m_Widget; });
         if (found == all.end())
             return;
         delete (*found)->m_Widget;
@@ -194,14 +195,12 @@ void CQtWindow::PresentDamage()
 void CQtWindow::FlashRepaint(QRegion const& region)
 {
     m_Flash += region;
-    QTimer::singleShot(250, m_Widget,
-                       [this, life = GetLifeToken()]
-                       {
-                           if (life.expired() || !m_Widget)
-                               return;
-                           m_Widget->update(m_Flash);
-                           m_Flash = QRegion();
-                       });
+    QTimer::singleShot(250, m_Widget, [this, life = GetLifeToken()] {
+        if (life.expired() || !m_Widget)
+            return;
+        m_Widget->update(m_Flash);
+        m_Flash = QRegion();
+    });
 }
 
 void CQtWindow::SetShowRepaints(bool show)
@@ -399,8 +398,7 @@ bool CQtWindow::IsForWindow(QEvent const& event) const
 bool CQtWindow::HandleEvent(QEvent& event)
 {
     // For events that go on to the parent widget when nobody deals with them.
-    auto const accept = [&event](bool dealtWith)
-    {
+    auto const accept = [&event](bool dealtWith) {
         event.setAccepted(dealtWith);
         return dealtWith;
     };
@@ -508,4 +506,4 @@ bool CQtWindow::FocusEntered(int reason)
                                                               : CCustomEvent::ceLastTabElement));
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

@@ -86,11 +86,11 @@ private:
     static bool s_ShowRepaints;
 
     CQtWidget* m_Widget = nullptr;
-    QRegion m_Flash;  // what is shown as just repainted
+    QRegion m_Flash;           // what is shown as just repainted
     std::mutex m_WidgetMutex;  // between posting threads and the end of the widget
     double m_Ratio = 1.0;
     int m_Cursor = 0;
     CQtInput m_Input{*this};
 };
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

@@ -2,7 +2,6 @@
 
 #include "vexel/platform/convert.h"
 
-#include <QCoreApplication>
 #include <QImage>
 #include <QPainter>
 #include <QTextLayout>
@@ -52,7 +51,8 @@ private:
         QString result = ToQString(text);
         for (QChar& character : result)
         {
-            if (character == QChar::LineSeparator || character == QChar::ParagraphSeparator || character.unicode() < 0x20)
+            if (character == QChar::LineSeparator || character == QChar::ParagraphSeparator ||
+                character.unicode() < 0x20)
                 character = u' ';
         }
         return result;
@@ -96,17 +96,13 @@ rectangle<int> FindInk(QImage const& image, bool& colored)
     return ink;
 }
 
-} // namespace
+}  // namespace
 
 CTextEngine& CTextEngine::Get()
 {
     // Never destroyed, so that static objects may still paint and measure when the program ends; emptied when the
     // application object goes.
-    static CTextEngine* const engine = []
-    {
-        qAddPostRoutine([] { Get().Clear(); });
-        return new CTextEngine;
-    }();
+    static CTextEngine* const engine = new CTextEngine;
     return *engine;
 }
 
@@ -237,7 +233,8 @@ void CTextEngine::Shape(CFontFace const& face, std::string_view text, std::uint3
     coverage.width = upright.Width();
     coverage.height = upright.Height();
     coverage.stride = SCoverage::StrideOf(coverage.width);
-    std::vector<std::uint8_t> bits(static_cast<std::size_t>(coverage.stride) * static_cast<std::size_t>(coverage.height));
+    std::vector<std::uint8_t> bits(static_cast<std::size_t>(coverage.stride) *
+                                   static_cast<std::size_t>(coverage.height));
     for (int y = 0; y < coverage.height; ++y)
     {
         auto const* const row = reinterpret_cast<QRgb const*>(image.constScanLine(found.top + y)) + found.left;
@@ -249,4 +246,4 @@ void CTextEngine::Shape(CFontFace const& face, std::string_view text, std::uint3
     run.coverage = TurnCoverage(coverage, face.GetTurn(), run.bits);
 }
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt

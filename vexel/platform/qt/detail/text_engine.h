@@ -45,7 +45,7 @@ public:
     /// Draws the upright run with its left-top at (0, 0) of the painter, in the painter's pen.
     static void DrawShaped(QPainter& painter, CFontFace const& face, std::string_view text);
 
-    void Clear();
+    void Clear();  ///< Before the application object goes.
     std::size_t GetRunCount() const { return m_Runs.size(); }
 
     static constexpr std::size_t MaxFaces = 48;
@@ -104,4 +104,4 @@ private:
     std::size_t m_RunBytes = 0;
 };
 
-} // namespace vexelbase::qt
+}  // namespace vexelbase::qt
