@@ -139,9 +139,9 @@ void MarkupLabel(benchmark::State& state)
     SBench bench;
     CHTMLTextFormatter formatter;
     for (auto _ : state)
-        benchmark::DoNotOptimize(bench.painter.DrawStringEx({0, 0, 200, 20}, "A <b>label</b> with <a href=\"x\">link</a>",
-                                                            0x21, -1, MarkupDelimiters, &formatter));
+        benchmark::DoNotOptimize(bench.painter.DrawStringEx(
+            {0, 0, 200, 20}, "A <b>label</b> with <a href=\"x\">link</a>", 0x21, -1, MarkupDelimiters, &formatter));
 }
 BENCHMARK(MarkupLabel);
 
-} // namespace
+}  // namespace

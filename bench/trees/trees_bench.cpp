@@ -36,6 +36,12 @@ void StartApplication()
     benchmark::DoNotOptimize(application);
 }
 
+/// Comes before the first widget of what derives from it.
+struct SApplication
+{
+    SApplication() { StartApplication(); }
+};
+
 double Seconds(std::chrono::steady_clock::time_point from)
 {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
@@ -56,11 +62,10 @@ void Flush(QWidget& top)
 }
 
 /// A vexel control that fills a shown widget.
-struct SVexelWindow
+struct SVexelWindow : SApplication
 {
     explicit SVexelWindow(int width, int height)
     {
-        StartApplication();
         top.resize(width, height);
         window = vexelbase::qt::HostWindow(&top);
         control = std::make_unique<CBaseControl>(window.get());
@@ -281,11 +286,10 @@ protected:
     }
 };
 
-struct SWidgetLeaves
+struct SWidgetLeaves : SApplication
 {
     SWidgetLeaves()
     {
-        StartApplication();
         top.resize(1280, 800);
         for (int i = 0; i < g_Leaves; ++i)
         {

@@ -13,12 +13,11 @@ namespace
 {
 
 class IncrementalPaint : public testing::TestWithParam<double>
-{
-};
+{};
 
 constexpr int g_Steps = 26000;
 
-} // namespace
+}  // namespace
 
 TEST_P(IncrementalPaint, GivesTheSamePixelsAsPaintingEverything)
 {

@@ -3,6 +3,7 @@
 #include "tests/support/host_bench.h"
 #include "tests/support/slot.h"
 #include "vexel/signals/cancel_processing.h"
+#include "vexel/testing/test_kit.h"
 
 #include <gtest/gtest.h>
 
@@ -193,6 +194,8 @@ TEST_F(LifetimeInSlots, AMoveToAnotherParentMayDeleteTheNewParent)
     Run([&] { m_Inner->ReParent(m_Third, true); });
 
     EXPECT_EQ(m_Third, nullptr);
+    EXPECT_EQ(m_Inner->GetParent(), nullptr);  // it left the old parent and never reached the new one
+    delete m_Inner;
     CheckTree(2);
 }
 
@@ -408,7 +411,20 @@ TEST_F(LifetimeInSlots, AnElementsPaintMayDeleteTheControl)
     Run([&] { control->OnDraw(&m_Window.m_Painter); });
 
     EXPECT_EQ(m_Control, nullptr);
-    EXPECT_FALSE(m_Window.m_Painter.m_Painting);
+}
+
+TEST(LifetimeInPaint, TheWindowClosesTheBracketOfAControlThatDiedInItsPaint)
+{
+    test::CTestHost host(40, 20);
+    auto* const element = new CVisualElement(host.Root(), {10, 10}, alLeft);
+    host.Paint();
+    auto const slot = Listen(element->m_SigDraw, [&](CVisualElement*, IPainter*) { host.DestroyControl(); });
+    element->Update(utElement);
+
+    host.Paint();
+
+    EXPECT_FALSE(host.HasControl());
+    EXPECT_FALSE(host.Window().GetPainter()->m_Painting);
 }
 
 TEST_F(LifetimeInSlots, TheEndOfTheWindowMayDeleteTheControl)

@@ -52,7 +52,7 @@ protected:
     }
 };
 
-} // namespace
+}  // namespace
 
 // Alignment -----------------------------------------------------------------------------------------------------------
 
@@ -88,9 +88,9 @@ TEST_F(DrawString, CentreWinsOverRightAndBottomAndTheseOverLeftAndTop)
 
 TEST_F(DrawString, ALineBeginsAtAWholePixelRoundedDownAlsoLeftOfZero)
 {
-    EXPECT_EQ(Drawn({-11, 0, 0, 8}, "A", HCenter), "A@-10,0");    // -11 + 1.5
+    EXPECT_EQ(Drawn({-11, 0, 0, 8}, "A", HCenter), "A@-10,0");  // -11 + 1.5
     EXPECT_EQ(Drawn({-0.25, 0, 20, 8}, "A", Left), "A@-1,0");
-    EXPECT_EQ(Drawn({0, -9, 20, 0}, "A", VCenter), "A@0,-9");      // -9 + 0.5
+    EXPECT_EQ(Drawn({0, -9, 20, 0}, "A", VCenter), "A@0,-9");  // -9 + 0.5
     EXPECT_EQ(Drawn({3.75, 2.5, 20, 20}, "A", Left), "A@3,2");
 }
 
@@ -448,7 +448,7 @@ IPainter::CoordInfo Mapping(size<double> const& logical, size<int> const& device
     return info;
 }
 
-} // namespace
+}  // namespace
 
 TEST_F(DrawString, RectanglesAndSizesAreLogicalButTheTextIsNotStretched)
 {
@@ -662,7 +662,7 @@ private:
     ISystem* m_Former = nullptr;
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(DefaultFont, WhatAFontLeavesOpenIsTakenFromTheDefault)
 {
@@ -714,4 +714,4 @@ TEST_F(DefaultFont, ADefaultThatSaysNothingStillHasASizeAndAFamily)
     EXPECT_EQ(GetDefaultGUIFont().family, font::ffSans);
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

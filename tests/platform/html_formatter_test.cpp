@@ -28,8 +28,8 @@ public:
         if (!m_Links.empty())
             m_Links += ' ';
         m_Links += target ? std::string(target, static_cast<std::size_t>(length)) : std::string("-");
-        m_Links += "(" + std::to_string(rect.left) + "," + std::to_string(rect.top) + "," +
-                   std::to_string(rect.right) + "," + std::to_string(rect.bottom) + ")";
+        m_Links += "(" + std::to_string(rect.left) + "," + std::to_string(rect.top) + "," + std::to_string(rect.right) +
+                   "," + std::to_string(rect.bottom) + ")";
     }
     bool OwnerDrawLink(IPainter*, int x, int y, char const* text, int length) override
     {
@@ -67,7 +67,7 @@ protected:
     CLinkLog formatter;
 };
 
-} // namespace
+}  // namespace
 
 // Tags ----------------------------------------------------------------------------------------------------------------
 
@@ -164,7 +164,8 @@ TEST_F(HtmlText, StylesAreCarriedFromLineToLine)
 TEST_F(HtmlText, EntitiesAreResolved)
 {
     EXPECT_EQ(Drawn("&lt;b&gt; &amp; &quot;x&quot; &apos;"), "<b> & \"x\" '@0,0");
-    EXPECT_EQ(Drawn("a&nbsp;b"), "a\xC2\xA0" "b@0,0");
+    EXPECT_EQ(Drawn("a&nbsp;b"), "a\xC2\xA0"
+                                 "b@0,0");
     EXPECT_EQ(Drawn("&LT;&Amp;"), "<&@0,0");
     EXPECT_EQ(Drawn("&#65;&#x42;&#X6a;"), "ABj@0,0");
     EXPECT_EQ(Drawn("&#228;&#x20AC;&#x1F600;&#x10FFFF;"), "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80\xF4\x8F\xBF\xBF@0,0");
@@ -173,22 +174,38 @@ TEST_F(HtmlText, EntitiesAreResolved)
 
 TEST_F(HtmlText, WhatIsNoEntityStandsForItself)
 {
-    for (char const* text : {"&", "&&", "a & b", "&amp", "&lt", "&foo;", "&;", "&#;", "&#x;", "&#0;", "&#1;", "&#127;",
-                             "&#150;", "&#xD800;", "&#xDFFF;", "&#x110000;", "&#99999999999999999999;", "&#12a;",
-                             "&# 65;", "&ampere;", "&#-5;"})
+    for (char const* text : {"&",
+                             "&&",
+                             "a & b",
+                             "&amp",
+                             "&lt",
+                             "&foo;",
+                             "&;",
+                             "&#;",
+                             "&#x;",
+                             "&#0;",
+                             "&#1;",
+                             "&#127;",
+                             "&#150;",
+                             "&#xD800;",
+                             "&#xDFFF;",
+                             "&#x110000;",
+                             "&#99999999999999999999;",
+                             "&#12a;",
+                             "&# 65;",
+                             "&ampere;",
+                             "&#-5;"})
         EXPECT_EQ(Drawn(text), std::string(text) + "@0,0") << text;
     EXPECT_EQ(Drawn("&#000000000065;"), "A@0,0");
     EXPECT_EQ(Drawn("&&amp;"), "&&@0,0");
 }
 
-TEST_F(HtmlText, AnEntityIsOneCharacterWide)
-{
-    EXPECT_EQ(Draw({0, 0, 1000, 90}, "&lt;&#x1F600;x"), (Size{24, 8}));
-}
+TEST_F(HtmlText, AnEntityIsOneCharacterWide) { EXPECT_EQ(Draw({0, 0, 1000, 90}, "&lt;&#x1F600;x"), (Size{24, 8})); }
 
 TEST_F(HtmlText, AHardBlankIsNoPlaceToWrap)
 {
-    EXPECT_EQ(Wrapped(32, "a b&nbsp;c d"), "a@0,0 b\xC2\xA0" "c@0,8 d@0,16");
+    EXPECT_EQ(Wrapped(32, "a b&nbsp;c d"), "a@0,0 b\xC2\xA0"
+                                           "c@0,8 d@0,16");
 }
 
 // Wrapping ------------------------------------------------------------------------------------------------------------
@@ -266,8 +283,7 @@ TEST_F(HtmlText, ALinkIsUnderlinedInTheLinkColourAndTold)
     EXPECT_EQ(Draw({10, 20, 1000, 90}, "see <a href=\"page one\">here</a>."), (Size{72, 8}));
     ASSERT_EQ(device.m_Runs.size(), 3u);
     EXPECT_EQ(device.m_Runs[0].pixel, 0xFFFF0000u);
-    EXPECT_EQ(device.m_Runs[1].pixel,
-              CPixelBuffer::ToPixel(GetDefaultPalette()->GetColor(ISysPalette::scLink)));
+    EXPECT_EQ(device.m_Runs[1].pixel, CPixelBuffer::ToPixel(GetDefaultPalette()->GetColor(ISysPalette::scLink)));
     EXPECT_EQ(device.m_Runs[2].pixel, 0xFFFF0000u);
     EXPECT_EQ(Runs(), "see @10,20 here@42,20[u] .@74,20");
     EXPECT_EQ(formatter.m_Links, "page one(42,20,73,27)");
@@ -383,10 +399,9 @@ std::string Repeat(std::string const& part, std::size_t length = Long)
 }
 
 class HostileText : public testing::TestWithParam<std::string>, public STextBench
-{
-};
+{};
 
-} // namespace
+}  // namespace
 
 TEST_P(HostileText, IsLaidOutWithWorkInProportionToItsLength)
 {
@@ -400,8 +415,8 @@ TEST_P(HostileText, IsLaidOutWithWorkInProportionToItsLength)
             {
                 device.m_MeasuredBytes = 0;
                 device.m_Measured = 0;
-                Size const measured = painter.DrawStringEx({0, 0, width, 1000}, text.c_str(), flags, -1,
-                                                           MarkupDelimiters, each);
+                Size const measured =
+                    painter.DrawStringEx({0, 0, width, 1000}, text.c_str(), flags, -1, MarkupDelimiters, each);
                 EXPECT_GE(measured.width, 0);
                 EXPECT_LE(device.m_MeasuredBytes, 12 * static_cast<long>(text.size())) << width << " " << flags;
                 EXPECT_LE(device.m_Measured, 6 * static_cast<long>(text.size())) << width << " " << flags;
@@ -410,15 +425,15 @@ TEST_P(HostileText, IsLaidOutWithWorkInProportionToItsLength)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, HostileText,
-                         testing::Values(Repeat("<b"), Repeat("<b>"), Repeat("<b>") + "x" + Repeat("</b>"),
-                                         Repeat("<"), Repeat("&"), Repeat("<a href=\""), Repeat("<a href='x' y=\""),
+                         testing::Values(Repeat("<b"), Repeat("<b>"), Repeat("<b>") + "x" + Repeat("</b>"), Repeat("<"),
+                                         Repeat("&"), Repeat("<a href=\""), Repeat("<a href='x' y=\""),
                                          "<a href=\"" + Repeat("x") + "\">y</a>", "<a href=\"" + Repeat("x"),
-                                         "<a " + Repeat("x=y ") + ">z", "<a " + Repeat("x=\"<\" ") + "z",
-                                         Repeat("x"), Repeat(" "), Repeat("\n"), Repeat("x "), Repeat("."),
-                                         Repeat("<b>x</b>"), Repeat("<a href=x>y z</a>"), Repeat("&#x1F600;"),
-                                         Repeat("&#"), Repeat("&amp"), Repeat("\x80\xC3"), Repeat("\xF0\x9F\x98\x80"),
-                                         Repeat("a b <i>"), "x " + Repeat("y<b>"), Repeat("<!"), Repeat("<br>"),
-                                         Repeat("one two\r\n"), Repeat("<a x='<a x=\"")));
+                                         "<a " + Repeat("x=y ") + ">z", "<a " + Repeat("x=\"<\" ") + "z", Repeat("x"),
+                                         Repeat(" "), Repeat("\n"), Repeat("x "), Repeat("."), Repeat("<b>x</b>"),
+                                         Repeat("<a href=x>y z</a>"), Repeat("&#x1F600;"), Repeat("&#"), Repeat("&amp"),
+                                         Repeat("\x80\xC3"), Repeat("\xF0\x9F\x98\x80"), Repeat("a b <i>"),
+                                         "x " + Repeat("y<b>"), Repeat("<!"), Repeat("<br>"), Repeat("one two\r\n"),
+                                         Repeat("<a x='<a x=\"")));
 
 // RemoveLinks ---------------------------------------------------------------------------------------------------------
 
@@ -434,4 +449,4 @@ TEST(RemoveLinks, TakesAwayTheMarkUpOfLinksAlone)
     EXPECT_EQ(RemoveLinks(std::string("a\0<a>b", 6)), std::string("a\0b", 3));
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -45,12 +45,9 @@ private:
     ISystem* m_Former;
 };
 
-_color Rgb(int red, int green, int blue)
-{
-    return _color::FromRgb(red, green, blue);
-}
+_color Rgb(int red, int green, int blue) { return _color::FromRgb(red, green, blue); }
 
-} // namespace
+}  // namespace
 
 // System --------------------------------------------------------------------------------------------------------------
 
@@ -187,7 +184,7 @@ protected:
     }
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(Border, ABoxHasAnEdgeOfTwoLines)
 {
@@ -224,8 +221,10 @@ TEST_F(Border, OpenShapesAreSingleSidesAndNeverFilled)
 TEST_F(Border, AFrameIsNeverFilled)
 {
     EXPECT_EQ(Drawn(bsFrame, bsRaised, true), "......../.444447./.4....7./.4....7./.777777./........");
-    EXPECT_EQ(Drawn(static_cast<BorderShape>(8), bsRaised, true), "......../......../......../......../......../........");
-    EXPECT_EQ(Drawn(bsFrame, static_cast<BorderStyle>(9), true), "......../.666666./.6....6./.6....6./.666666./........");
+    EXPECT_EQ(Drawn(static_cast<BorderShape>(8), bsRaised, true),
+              "......../......../......../......../......../........");
+    EXPECT_EQ(Drawn(bsFrame, static_cast<BorderStyle>(9), true),
+              "......../.666666./.6....6./.6....6./.666666./........");
 }
 
 TEST_F(Border, SmallRectanglesAndExchangedCornersDoNoHarm)
@@ -275,4 +274,4 @@ TEST_F(Border, WithoutAPaletteInThePainterTheDefaultOneServes)
     EXPECT_EQ(pixels.Row(2)[2], CPixelBuffer::ToPixel(GetDefaultPalette()->GetColor(ISysPalette::scFace)));
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -145,21 +145,45 @@ TEST(Damage, GathersScatteredDotsOfALine)
     EXPECT_EQ(damage[0], (rectangle<int>{0, 3, 199, 4}));
 }
 
+// Squares of 10 that lie apart, in an order that jumps about.
+rectangle<int> Scattered(int i)
+{
+    int const x = i * 37 % 400 * 100;
+    int const y = i * 61 % 400 * 100;
+    return {x, y, x + 10, y + 10};
+}
+
 TEST(Damage, NeverHasMoreThanItsCapacityNorLosesAPixel)
 {
     CDamage damage;
-    for (int i = 0; i < 40; ++i)
+    for (int i = 0; i < 400; ++i)
     {
-        int const x = i * 37 % 40 * 100;
-        int const y = i * 61 % 40 * 100;
-        damage.Add({x, y, x + 10, y + 10});
+        damage.Add(Scattered(i));
         ASSERT_LE(damage.GetCount(), CDamage::Capacity);
         for (int j = 0; j <= i; ++j)
         {
-            ASSERT_TRUE(IsCovered(damage, j * 37 % 40 * 100, j * 61 % 40 * 100));
-            ASSERT_TRUE(IsCovered(damage, j * 37 % 40 * 100 + 9, j * 61 % 40 * 100 + 9));
+            ASSERT_TRUE(IsCovered(damage, Scattered(j).left, Scattered(j).top));
+            ASSERT_TRUE(IsCovered(damage, Scattered(j).right - 1, Scattered(j).bottom - 1));
         }
     }
+}
+
+TEST(Damage, KeepsAsManyRectanglesAsItHasRoomForAndThenMakesOneOfThem)
+{
+    CDamage damage;
+    for (int i = 0; i < CDamage::Capacity; ++i)
+        damage.Add(Scattered(i));
+    EXPECT_EQ(damage.GetCount(), CDamage::Capacity);
+    EXPECT_EQ(damage[5], Scattered(5));
+
+    damage.Add(Scattered(CDamage::Capacity));
+    EXPECT_EQ(damage.GetCount(), 1);
+
+    // After a Clear there is room again.
+    damage.Clear();
+    for (int i = 0; i < CDamage::Capacity; ++i)
+        damage.Add(Scattered(i));
+    EXPECT_EQ(damage.GetCount(), CDamage::Capacity);
 }
 
 TEST(Damage, IsNotedByAllThatWritesAndCutToTheSurface)

@@ -32,6 +32,10 @@ class CTextDevice : public CRasterDevice
 public:
     explicit CTextDevice(CPixelBuffer& pixels) : CRasterDevice(pixels) {}
 
+    size<int> GetSize() const override
+    {
+        return m_PretendedSize.width > 0 ? m_PretendedSize : CRasterDevice::GetSize();
+    }
     int MeasureRun(font const& textFont, char const* text, int length) override
     {
         ++m_Measured;
@@ -59,6 +63,7 @@ public:
     }
     void DrawControlElement(IPainter::ControlElement, rectangle<int> const&, rectangle<int> const&, int) override {}
 
+    size<int> m_PretendedSize;  ///< Of the surface, for texts alone.
     std::vector<SDrawnRun> m_Runs;
     bool m_Keeps = true;
     int m_Drawn = 0;
@@ -110,4 +115,4 @@ struct STextBench
     IPainter& painter = basePainter;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -196,7 +196,7 @@ private:
     int* m_Count;
 };
 
-} // namespace
+}  // namespace
 
 // Events --------------------------------------------------------------------------------------------------------------
 
@@ -395,19 +395,6 @@ TEST(VexelControl, AnOwnedWindowThatIsBeingDestroyedWaitsForTheControlsEnd)
     EXPECT_TRUE(deleted);
 }
 
-TEST(VexelControl, AForgottenWindowIsNoLongerAskedButStillDeletedIfOwned)
-{
-    bool deleted = false;
-    {
-        CVexelControl control(new CPlainWindow(&deleted), true);
-        control.ForgetWindow();
-        EXPECT_EQ(control.GetWindow(), nullptr);
-        control.Refresh();
-        EXPECT_FALSE(deleted);
-    }
-    EXPECT_TRUE(deleted);
-}
-
 TEST(VexelControl, RefreshingAndLockingGoToTheWindow)
 {
     CPlainWindow window;
@@ -505,7 +492,7 @@ protected:
 
 using Place = point<int>;
 
-} // namespace
+}  // namespace
 
 TEST_F(Popup, IsShownBelowItsOwnersRectangle)
 {
@@ -538,4 +525,4 @@ TEST_F(Popup, WithoutAnOwnerItIsNotShown)
     PositionPopup(vexel_ptr<IPopup>(), {0, 0, 10, 10});
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

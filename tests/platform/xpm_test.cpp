@@ -60,7 +60,7 @@ _color const None(0, true);
 _color const Red = color_table[6];
 _color const White = color_table[9];
 
-} // namespace
+}  // namespace
 
 // Reading -------------------------------------------------------------------------------------------------------------
 
@@ -132,9 +132,9 @@ TEST(Xpm, TheColourKeyWinsOverGreyAndMono)
 
 TEST(Xpm, WhatIsNoColourMakesNoImage)
 {
-    for (char const* text : {"", "c", "red", "c #", "c #F", "c #FF", "c #FFFF", "c #FFFFF", "c #GGGGGG", "c #FFFFFFFFFFFFFFF",
-                             "c fuzzy", "c gray101", "c gray1000", "c gray-1", "c grayx", "s red", "x red", "c red m",
-                             "c # F00"})
+    for (char const* text :
+         {"", "c", "red", "c #", "c #F", "c #FF", "c #FFFF", "c #FFFFF", "c #GGGGGG", "c #FFFFFFFFFFFFFFF", "c fuzzy",
+          "c gray101", "c gray1000", "c gray-1", "c grayx", "s red", "x red", "c red m", "c # F00"})
         EXPECT_EQ(Color(text), std::nullopt) << text;
 }
 
@@ -308,7 +308,7 @@ protected:
     XPMImage image = Image({"3 2 4 1", ". c None", "r c red", "w c white", "b c black", ".rw", "wb."});
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(DrawXpm, TransparentPixelsLeaveTheSurface)
 {
@@ -426,73 +426,77 @@ rc::Gen<std::string> AnyText(int maxLength)
     return rc::gen::resize(maxLength, rc::gen::container<std::string>(rc::gen::nonZero<char>()));
 }
 
-rc::Gen<std::string> AnyOf(std::vector<std::string> const& values)
-{
-    return rc::gen::elementOf(values);
-}
+rc::Gen<std::string> AnyOf(std::vector<std::string> const& values) { return rc::gen::elementOf(values); }
 
-} // namespace
+}  // namespace
 
 TEST(XpmProperty, AnyLinesDoNoHarm)
 {
-    EXPECT_TRUE(rc::check([] { CheckImage(*rc::gen::container<std::vector<std::string>>(AnyText(20)), *rc::gen::arbitrary<bool>()); }));
+    EXPECT_TRUE(rc::check(
+        [] { CheckImage(*rc::gen::container<std::vector<std::string>>(AnyText(20)), *rc::gen::arbitrary<bool>()); }));
 }
 
 TEST(XpmProperty, LinesThatAreNearlyRightDoNoHarm)
 {
-    EXPECT_TRUE(rc::check([] {
-        auto const number = AnyOf({"0", "1", "2", "3", "4", "8", "9", "-1", "255", "32767", "32768", "65536", "65537",
-                                   "2147483647", "2147483648", "4294967296", "18446744073709551616", "x", ""});
-        auto const small = AnyOf({"1", "2", "3", "4"});
-        bool const sane = *rc::gen::weightedElement<bool>({{4, true}, {1, false}});
-        std::vector<std::string> lines;
-        std::string header;
-        for (int i = 0; i < 4; ++i)
-            header += (sane ? *small : *number) + " ";
-        lines.push_back(header);
-        int const count = *rc::gen::inRange(0, 12);
-        for (int i = 0; i < count; ++i)
-            lines.push_back(*rc::gen::oneOf(
-                rc::gen::map(rc::gen::pair(AnyOf({"a", "b", " ", "ab", "  ", "aba", "abab", ""}),
-                                           AnyOf({" c red", " c #F00", " c None", " m x c blue", "", " c", " s", " g4 gray1"})),
-                             [](std::pair<std::string, std::string> const& parts) { return parts.first + parts.second; }),
-                AnyOf({"aaaa", "abab", "a", "", "abababababababab", "bbbbbbbb"}), AnyText(12)));
-        CheckImage(lines, *rc::gen::arbitrary<bool>());
-    }));
+    EXPECT_TRUE(rc::check(
+        []
+        {
+            auto const number =
+                AnyOf({"0", "1", "2", "3", "4", "8", "9", "-1", "255", "32767", "32768", "65536", "65537", "2147483647",
+                       "2147483648", "4294967296", "18446744073709551616", "x", ""});
+            auto const small = AnyOf({"1", "2", "3", "4"});
+            bool const sane = *rc::gen::weightedElement<bool>({{4, true}, {1, false}});
+            std::vector<std::string> lines;
+            std::string header;
+            for (int i = 0; i < 4; ++i)
+                header += (sane ? *small : *number) + " ";
+            lines.push_back(header);
+            int const count = *rc::gen::inRange(0, 12);
+            for (int i = 0; i < count; ++i)
+                lines.push_back(
+                    *rc::gen::oneOf(rc::gen::map(rc::gen::pair(AnyOf({"a", "b", " ", "ab", "  ", "aba", "abab", ""}),
+                                                               AnyOf({" c red", " c #F00", " c None", " m x c blue", "",
+                                                                      " c", " s", " g4 gray1"})),
+                                                 [](std::pair<std::string, std::string> const& parts)
+                                                 { return parts.first + parts.second; }),
+                                    AnyOf({"aaaa", "abab", "a", "", "abababababababab", "bbbbbbbb"}), AnyText(12)));
+            CheckImage(lines, *rc::gen::arbitrary<bool>());
+        }));
 }
 
 TEST(XpmProperty, ARightTextIsReadAsItWasWritten)
 {
-    EXPECT_TRUE(rc::check([] {
-        int const width = *rc::gen::inRange(1, 8);
-        int const height = *rc::gen::inRange(1, 8);
-        int const characters = *rc::gen::inRange(1, 9);
-        int const colors = *rc::gen::inRange(1, 10);
-        auto const symbol = [&](int index) {
-            return std::string(static_cast<std::size_t>(characters - 1), ' ') + static_cast<char>('a' + index);
-        };
-        std::vector<std::string> lines = {std::to_string(width) + " " + std::to_string(height) + " " +
-                                          std::to_string(colors) + " " + std::to_string(characters)};
-        for (int i = 0; i < colors; ++i)
-            lines.push_back(symbol(i) + "\tc #0" + std::to_string(i) + "0000");
-        std::vector<int> written;
-        for (int y = 0; y < height; ++y)
+    EXPECT_TRUE(rc::check(
+        []
         {
-            std::string row;
-            for (int x = 0; x < width; ++x)
+            int const width = *rc::gen::inRange(1, 8);
+            int const height = *rc::gen::inRange(1, 8);
+            int const characters = *rc::gen::inRange(1, 9);
+            int const colors = *rc::gen::inRange(1, 10);
+            auto const symbol = [&](int index)
+            { return std::string(static_cast<std::size_t>(characters - 1), ' ') + static_cast<char>('a' + index); };
+            std::vector<std::string> lines = {std::to_string(width) + " " + std::to_string(height) + " " +
+                                              std::to_string(colors) + " " + std::to_string(characters)};
+            for (int i = 0; i < colors; ++i)
+                lines.push_back(symbol(i) + "\tc #0" + std::to_string(i) + "0000");
+            std::vector<int> written;
+            for (int y = 0; y < height; ++y)
             {
-                written.push_back(*rc::gen::inRange(0, colors));
-                row += symbol(written.back());
+                std::string row;
+                for (int x = 0; x < width; ++x)
+                {
+                    written.push_back(*rc::gen::inRange(0, colors));
+                    row += symbol(written.back());
+                }
+                lines.push_back(row);
             }
-            lines.push_back(row);
-        }
-        XPMImage const image = Image(lines);
-        RC_ASSERT(image.GetWidth() == width);
-        RC_ASSERT(image.GetHeight() == height);
-        for (int y = 0; y < height; ++y)
-            for (int x = 0; x < width; ++x)
-                RC_ASSERT(image.GetPixel(x, y).Red() == written[static_cast<std::size_t>(y * width + x)]);
-    }));
+            XPMImage const image = Image(lines);
+            RC_ASSERT(image.GetWidth() == width);
+            RC_ASSERT(image.GetHeight() == height);
+            for (int y = 0; y < height; ++y)
+                for (int x = 0; x < width; ++x)
+                    RC_ASSERT(image.GetPixel(x, y).Red() == written[static_cast<std::size_t>(y * width + x)]);
+        }));
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

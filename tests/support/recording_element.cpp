@@ -68,10 +68,11 @@ void CRecordingElement::UpdateElement()
 
 bool CRecordingElement::ScrollContent(int dx, int dy)
 {
+    bool const answer = m_ScrollAnswer;  // the element may be gone afterwards
     Note("ScrollContent", Mouse(dx, dy));
     if (m_OnScrollContent)
         m_OnScrollContent();
-    return m_ScrollAnswer;
+    return answer;
 }
 
 void CRecordingElement::ProcessSetControl(IControl* control)

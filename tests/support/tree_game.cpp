@@ -43,7 +43,7 @@ protected:
         ElementToControl(&rect);
         info.m_Rect = rect;
         info.m_GlobalUpdate = GetId() % 2 == 0;
-        return false;
+        return GetId() % 4 == 1;
     }
     bool HandleDragOver(CVisualElement*, int, int, DragInfo&) override { return GetId() % 2 == 0; }
     void HandleDrawDragItem(IPainter* painter, DragInfo& info, bool accepted, CVisualElement*) override
@@ -276,10 +276,7 @@ void CTreeGame::Collect(CVisualElement* element)
     }
 }
 
-CTreeGame::CNode* CTreeGame::Pick()
-{
-    return m_All.empty() ? nullptr : m_Random.Pick(m_All);
-}
+CTreeGame::CNode* CTreeGame::Pick() { return m_All.empty() ? nullptr : m_Random.Pick(m_All); }
 
 // For all but strips, which have no children either.
 CVisualElement* CTreeGame::PickParent()
@@ -293,15 +290,9 @@ CVisualElement* CTreeGame::PickParent()
     return m_Base;
 }
 
-bool CTreeGame::IsStrips(CNode const* node)
-{
-    return dynamic_cast<CStrips const*>(node) != nullptr;
-}
+bool CTreeGame::IsStrips(CNode const* node) { return dynamic_cast<CStrips const*>(node) != nullptr; }
 
-bool CTreeGame::IsFree(CNode const* node)
-{
-    return node->GetAlignment() == alNone;
-}
+bool CTreeGame::IsFree(CNode const* node) { return node->GetAlignment() == alNone; }
 
 // Docks what is not on a board, and gives a place to what is. After a change of parent, or to move on a board.
 void CTreeGame::PlaceByParent(CNode* node)
@@ -612,13 +603,14 @@ std::string CTreeGame::CompareWithFullPaint()
             if (++differing > 1)
                 continue;
             CVisualElement* const element = m_Control.GetContent()->FindVisualElement(x, y);
-            text << "first at (" << x << ", " << y << "), on " << NameOf(element) << ": " << std::hex << before.Row(y)[x]
-                 << " instead of " << after.Row(y)[x] << std::dec;
+            text << "first at (" << x << ", " << y << "), on " << NameOf(element) << ": " << std::hex
+                 << before.Row(y)[x] << " instead of " << after.Row(y)[x] << std::dec;
         }
     }
     if (differing == 0)
         return {};
     text << ", " << differing << " pixels in all, after step " << m_Steps << "\n"
+         << "dragged " << NameOf(m_Control.GetControl()->GetDraggedElement()) << "\n"
          << DescribeTree(m_Control.GetContent(), 0) << "last steps:\n";
     for (std::string const& note : m_Notes)
         text << "  " << note << "\n";
@@ -655,4 +647,4 @@ std::string CTreeGame::DescribeTree(CVisualElement* element, int depth) const
     return text.str();
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -38,7 +38,7 @@ private:
     class CStrips;
     class CBare;
 
-    CNode* Pick();             // any element but the root, null if there is none
+    CNode* Pick();  // any element but the root, null if there is none
     CVisualElement* PickParent();
     void Add();
     void Remove();
@@ -68,4 +68,4 @@ private:
     unsigned long m_NextId = 1;
 };
 
-} // namespace vexel::test
+}  // namespace vexel::test

@@ -16,7 +16,8 @@ CBaseControlImp::CBaseControlImp(CBaseControl* host) : m_Host(host), m_DragInfo(
 
 CBaseControlImp::~CBaseControlImp()
 {
-    CAliveLink::Forget(this);
+    CAliveLink::Forget(static_cast<IControl*>(this), sizeof *this);
+    CVisualElement::ControlGone(this);
     ReleaseRoot();
 }
 
@@ -95,6 +96,8 @@ void CBaseControlImp::SetContent(CVisualElement* root)
     ReleaseRoot();
     if (!alive || !fresh)
         return;
+    if (auto* const other = dynamic_cast<CBaseControlImp*>(root->GetControl()); other && other->m_Root == root)
+        other->GiveUpRoot();
     m_Root = root;
     root->m_SigDestroy.connect(this, &CBaseControlImp::HandleRootDestroy);
     root->SetControl(this);
@@ -103,14 +106,21 @@ void CBaseControlImp::SetContent(CVisualElement* root)
 // Deletes the root if it is dynamic; another one goes its own way.
 void CBaseControlImp::ReleaseRoot()
 {
-    CVisualElement* const root = std::exchange(m_Root, nullptr);
+    CVisualElement* const root = GiveUpRoot();
     if (!root)
         return;
-    root->m_SigDestroy.disconnect(this, &CBaseControlImp::HandleRootDestroy);
     if (root->IsDynamic())
         delete root;
     else if (root->GetControl() == this)
-        root->SetControl(nullptr);
+        root->LeaveControl();
+}
+
+CVisualElement* CBaseControlImp::GiveUpRoot()
+{
+    CVisualElement* const root = std::exchange(m_Root, nullptr);
+    if (root)
+        root->m_SigDestroy.disconnect(this, &CBaseControlImp::HandleRootDestroy);
+    return root;
 }
 
 // The application has deleted the root.
@@ -179,6 +189,7 @@ void CBaseControlImp::Forget(CVisualElement* element)
     {
         m_DraggedElement = nullptr;
         m_MouseFlags = (m_MouseFlags & ~unsigned{mfAccepted}) | mfPutBackground;
+        m_FullUpdate = true;  // so that the next paint wipes the item
     }
     if (captured)
         m_Capture = nullptr;
@@ -187,6 +198,8 @@ void CBaseControlImp::Forget(CVisualElement* element)
             window->ReleaseMouse();
     if (element->m_IsKeyDelegate)
         element->ForgetKeyDelegates(this);
+    if (m_Root == element && element->GetParent())
+        GiveUpRoot();  // it has moved into another tree
 }
 
 } // namespace vexel

@@ -119,6 +119,7 @@ private:
     void Forget(CVisualElement* element);
     void HandleRootDestroy(CVisualElement* root);
     void ReleaseRoot();
+    CVisualElement* GiveUpRoot();
 
     void LayOutForPaint();
     void PaintTree(IPainter* painter);

@@ -15,6 +15,7 @@ namespace vexel
 
 unsigned long CVisualElement::s_TreeVersion = 1;
 unsigned long CVisualElement::s_DestroyCount = 0;
+CVisualElement::CTransit* CVisualElement::s_Transit = nullptr;
 
 CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, Alignment alignment)
     : m_Alignment(alignment), m_Size(extent), m_Children(this)
@@ -28,6 +29,7 @@ CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, 
     }
     catch (...)
     {
+        CTransit const transit(this, nullptr);
         CAliveLink::Forget(this, sizeof *this);
         Withdraw();  // a slot threw, and the destructor won't run
         throw;
@@ -39,6 +41,7 @@ CVisualElement::~CVisualElement()
     m_Destroying = true;
     m_DestroyTop = m_Parent && m_Parent->m_Destroying ? m_Parent->m_DestroyTop : this;
     CAliveLink::Forget(this, sizeof *this);  // no chain on the stack comes back to what is left
+    CTransit const transit(this, nullptr);
     m_SigDestroy(this);
     OnChange(this, utRemoved);
     m_Children.Clear();
@@ -79,6 +82,7 @@ void CVisualElement::ReParent(CVisualElement* parent, bool rearrange)
     }
 
     CAliveGuard const alive(this);
+    CTransit const transit(this, &alive);
     CAlivePtr<CVisualElement> const target(parent);
     CAlivePtr<CVisualElement> const oldParent(m_Parent);
     if (m_Parent)
@@ -134,6 +138,7 @@ void CVisualElement::ReParent(CVisualElement* parent, bool rearrange)
 void CVisualElement::LeaveParent()
 {
     CAliveGuard const alive(this);
+    CTransit const transit(this, &alive);
     CAlivePtr<CVisualElement> const oldParent(m_Parent);
     if (m_Parent && m_Parent->m_KeyDelegate == this)
         m_Parent->SetKeyDelegate(nullptr);
@@ -149,23 +154,24 @@ void CVisualElement::SetControl(IControl* control)
     if (control == m_Control)
         return;
     CAliveGuard const alive(this);
+    CAlivePtr<IControl> const fresh(control);
+    IControl* const old = m_Control;
     ProcessSetControl(control);
-    if (!alive)
+    if (!alive || m_Control != old)
         return;
-    if (m_Control)
+    if (old)
     {
         // Told also if an ancestor swallows the change, or if the element goes straight to another control.
-        IControl* const old = m_Control;
         bool const told = !control && RunChangeChain(this, utRemoved) == this;
-        if (!alive)
+        if (!alive || m_Control != old)
             return;
-        if (!told && m_Control == old)
+        if (!told)
             old->UpdateElement(this, utRemoved);
+        if (!alive || m_Control != old)
+            return;
     }
-    else if (!control)
-    {
+    if (control && !fresh)
         return;
-    }
     m_Control = control;
     for (int i = 0; i < m_Children.GetCount(); ++i)
     {
@@ -179,6 +185,30 @@ void CVisualElement::SetControl(IControl* control)
         if (alive && m_Control == control)
             AfterSetControl();
     }
+}
+
+// The control lets go of this root.
+void CVisualElement::LeaveControl()
+{
+    CAliveGuard const alive(this);
+    CTransit const transit(this, &alive);
+    SetControl(nullptr);
+}
+
+// The control has died while slots ran: nothing below this element may point to it.
+void CVisualElement::DropControl(IControl const* gone)
+{
+    if (m_Control == gone)
+        m_Control = nullptr;
+    for (CVisualElement* const child : m_Children)
+        child->DropControl(gone);
+}
+
+void CVisualElement::ControlGone(IControl const* gone)
+{
+    for (CTransit const* transit = s_Transit; transit; transit = transit->m_Outer)
+        if (!transit->m_Alive || transit->m_Alive->IsAlive())
+            transit->m_Top->DropControl(gone);
 }
 
 bool CVisualElement::IsChildrenAvailable(int count) const

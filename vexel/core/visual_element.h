@@ -302,8 +302,9 @@ private:
     friend class CChildren;
     friend class CElementList;
 
-    struct SFont;   // a font with what it comes to on the present default font; shared by equal elements
-    struct STexts;  // what few elements have
+    struct SFont;    // a font with what it comes to on the present default font; shared by equal elements
+    struct STexts;   // what few elements have
+    class CTransit;  // on the stack: a tree outside of its control's, which would not hear of the control's end
 
     SFont const& GetFontRecord() const;
     font const& GetEffectiveFont() const;
@@ -319,6 +320,9 @@ private:
     void SetUpPainter(IPainter* painter) const;
     CVisualElement* RunChangeChain(CVisualElement* element, UpdateType type);
     void LeaveParent();
+    void LeaveControl();
+    void DropControl(IControl const* gone);
+    static void ControlGone(IControl const* gone);
     void Withdraw() noexcept;
     template <class Fire, class Handle, class Pass>
     bool RunKeyChain(bool handled, Fire const& fire, Handle const& handle, Pass const& pass);
@@ -327,6 +331,7 @@ private:
 
     static unsigned long s_TreeVersion;   // changes with every rectangle and parent
     static unsigned long s_DestroyCount;  // of elements
+    static CTransit* s_Transit;           // innermost first
 
     // What layout, hit tests and painting touch stands close together.
     rectangle<int> m_Pos;

@@ -27,14 +27,8 @@ constexpr std::size_t KeptLines = 0x1000;  // memory kept from one text to the n
 constexpr char const* Ellipsis = "...";
 
 // Of a rotated text, which the extents of its upright box take on the device.
-bool IsQuarterTurn(int rotation)
-{
-    return rotation % 900 == 0;
-}
-bool IsUpDown(int rotation)
-{
-    return rotation == 900 || rotation == 2700;
-}
+bool IsQuarterTurn(int rotation) { return rotation % 900 == 0; }
+bool IsUpDown(int rotation) { return rotation == 900 || rotation == 2700; }
 
 int NormalizeRotation(int rotation)
 {
@@ -42,10 +36,7 @@ int NormalizeRotation(int rotation)
     return rotation < 0 ? rotation + 3600 : rotation;
 }
 
-double ToRadians(int rotation)
-{
-    return rotation * (3.14159265358979323846 / 1800);
-}
+double ToRadians(int rotation) { return rotation * (3.14159265358979323846 / 1800); }
 
 // The share of the free room that stands before the text.
 double HorizontalShare(int flags)
@@ -77,12 +68,12 @@ CDefTextFormatter& PlainFormatter()
     return formatter;
 }
 
-} // namespace
+}  // namespace
 
 // Where a text stands.
 struct CBasePainter::STextPlace
 {
-    rectangle<double> box;   // device, ordered
+    rectangle<double> box;  // device, ordered
     int rotation = 0;
     int maxWidth = -1;       // in the reading direction, below 0: no limit
     int maxLines = INT_MAX;  // that need to be drawn
@@ -94,8 +85,7 @@ class CBasePainter::CTextScope
 public:
     explicit CTextScope(CBasePainter& painter)
         : m_Painter(painter), m_Frame(painter.m_Frame), m_Lines(painter.m_TextLines.size())
-    {
-    }
+    {}
     ~CTextScope()
     {
         m_Painter.m_Frame = m_Frame;
@@ -227,10 +217,12 @@ void CBasePainter::DrawRun(int x, int y, char const* text, int length)
     run.x = origin.x;
     run.y = origin.y;
     run.pixel = CPixelBuffer::ToPixel(color);
-    m_Clip.ForEach(area, [&](rectangle<int> const& part) {
-        run.clip = part;
-        m_Device.DrawRun(run);
-    });
+    m_Clip.ForEach(area,
+                   [&](rectangle<int> const& part)
+                   {
+                       run.clip = part;
+                       m_Device.DrawRun(run);
+                   });
 }
 
 rectangle<int> CBasePainter::RunToDevice(rectangle<int> const& rect) const
@@ -293,7 +285,8 @@ size<double> CBasePainter::GetTextSize(std::string const& text, font const* text
         m_EffectiveStamp = 0;
     }
     STextLayout const layout = LayOut(text.data(), length, -1, nullptr, PlainFormatter(), 0);
-    size<double> extent = DeviceTextSize(layout.width, static_cast<double>(layout.lineCount) * layout.lineHeight, rotated);
+    size<double> extent =
+        DeviceTextSize(layout.width, static_cast<double>(layout.lineCount) * layout.lineHeight, rotated);
     if (other)
     {
         std::swap(m_MeasuredFont, m_Font);
@@ -392,8 +385,7 @@ size<double> CBasePainter::LayOutAndDraw(rectangle<double> const& rect, char con
                                       formatter, draws ? place.maxLines : 0);
     if (draws)
         DrawLines(layout, place, text, flags, formatter);
-    return ToLogicalSize(
-        DeviceTextSize(layout.width, static_cast<double>(layout.lineCount) * layout.lineHeight, true));
+    return ToLogicalSize(DeviceTextSize(layout.width, static_cast<double>(layout.lineCount) * layout.lineHeight, true));
 }
 
 void CBasePainter::DrawLines(STextLayout const& layout, STextPlace const& place, char const* text, int flags,
@@ -575,4 +567,4 @@ void CBasePainter::DrawXPM(XPMImage const& image, double x, double y, int source
     }
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -127,4 +127,4 @@ private:
 /// The text without link mark-up; all other mark-up stays.
 VEXEL_API std::string RemoveLinks(std::string const& text);
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -39,14 +39,14 @@ public:
     CVexelControl& operator=(CVexelControl const&) = delete;
 
     ISysWindow* GetWindow() const { return m_Window; }  ///< Null once the window is destroyed.
-    virtual void SetSysWindow(ISysWindow* window);      ///< Leaves the present window and takes this one's events.
-    /// The window is gone natively. Called by it once OnDestroy has returned; an owned one is deleted later all the same.
-    void ForgetWindow() { m_Window = nullptr; }
-    virtual void* GetHandle() const;                    ///< The window, as an opaque value.
+    /// Leaves the present window and takes this one's events. With null it is also how a window that is being destroyed
+    /// natively takes leave, after OnDestroy.
+    virtual void SetSysWindow(ISysWindow* window);
+    virtual void* GetHandle() const;  ///< The window, as an opaque value.
     virtual bool CanBeFocused() const { return true; }
-    virtual void Refresh();                             ///< Paints the whole window now.
-    virtual void Invalidate();                          ///< Asks for a paint of the whole window.
-    virtual void InternalBeginUpdate();                 ///< Locks drawing, counted.
+    virtual void Refresh();              ///< Paints the whole window now.
+    virtual void Invalidate();           ///< Asks for a paint of the whole window.
+    virtual void InternalBeginUpdate();  ///< Locks drawing, counted.
     virtual void InternalEndUpdate();
 
     IImageList* GetImageList() const { return m_ImageList; }
@@ -90,4 +90,4 @@ private:
     IImageList* m_ImageList = nullptr;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -1,7 +1,9 @@
 #include "vexel/testing/test_host.h"
 
 #include "vexel/core/base_control.h"
+#include "vexel/core/control.h"
 #include "vexel/core/visual_element.h"
+#include "vexel/platform/memory/memory_popup.h"
 #include "vexel/platform/memory/memory_system.h"
 #include "vexel/platform/memory/png.h"
 #include "vexel/testing/census.h"
@@ -76,38 +78,56 @@ CVisualElement* CTestHost::Root() const
     return m_Control->GetContent();
 }
 
+vexelbase::memory::CMemoryPopup* CTestHost::Popup(int index) const
+{
+    for (CMemoryWindow* window : System().GetWindows())
+    {
+        vexelbase::memory::CMemoryPopup* const popup = window->GetPopup();
+        if (popup && popup->GetOwner() == m_Window.get() && index-- == 0)
+            return popup;
+    }
+    return nullptr;
+}
+
 point<int> CTestHost::ToControl(CVisualElement const& element, int x, int y) const
 {
     point<int> position{x, y};
     element.ElementToControl(&position);
+    // The element may stand in another window, such as a popup.
+    ISysWindow* const window = element.GetControl() ? element.GetControl()->GetWindow() : nullptr;
+    if (window && m_Window && window != m_Window.get())
+    {
+        window->ClientToScreen(&position);
+        m_Window->ScreenToClient(&position);
+    }
     return position;
 }
 
 // Frames -----------------------------------------------------------------------------------------------------------
 
+PaintLog CTestHost::Paint(CMemoryWindow& window)
+{
+    PaintLog log;
+    CPaintRecording recording(log, window.GetPainter());
+    std::weak_ptr<int> const life = window.GetNodeLife();
+    for (int i = 0; i < MostFrames && !life.expired() && window.RunFrame(); ++i)
+        recording.AddFrame();
+    return log;
+}
+
 PaintLog CTestHost::Paint()
 {
     m_Script.Add("paint");
-    PaintLog log;
-    if (!m_Window)
-        return log;
-    CPaintRecording recording(log, m_Window->GetPainter());
-    for (int i = 0; i < MostFrames && m_Window && m_Window->RunFrame(); ++i)
-        recording.AddFrame();
-    return log;
+    return m_Window ? Paint(*m_Window) : PaintLog();
 }
 
 PaintLog CTestHost::FullPaint()
 {
     m_Script.Add("fullpaint");
-    PaintLog log;
     if (!m_Window)
-        return log;
+        return {};
     m_Window->LoseSurface();
-    CPaintRecording recording(log, m_Window->GetPainter());
-    for (int i = 0; i < MostFrames && m_Window && m_Window->RunFrame(); ++i)
-        recording.AddFrame();
-    return log;
+    return Paint(*m_Window);
 }
 
 std::string CTestHost::CompareWithFullPaint(CLegend const& legend)

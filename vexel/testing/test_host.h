@@ -19,6 +19,7 @@
 
 namespace vexelbase::memory
 {
+class CMemoryPopup;
 class CMemorySystem;
 }
 
@@ -64,9 +65,26 @@ public:
     /// A name for an element in all logs; see NameElement.
     void Name(CVisualElement const& element, std::string const& name) { NameElement(element, name); }
 
+    /// The native control of this class that stands in the window and was made `index`-th, or null:
+    /// host.Native<CMemoryEdit>().
+    template <class Control> Control* Native(int index = 0) const
+    {
+        for (vexelbase::memory::CMemoryNode* node : m_Window->GetChildNodes())
+        {
+            auto* const control = dynamic_cast<Control*>(node);
+            if (control && index-- == 0)
+                return control;
+        }
+        return nullptr;
+    }
+    /// The popup of the window that was made `index`-th, or null.
+    vexelbase::memory::CMemoryPopup* Popup(int index = 0) const;
+
     // Frames -------------------------------------------------------------------------------------------------------
     /// Runs the frames that are pending, until none is, at most eight. Empty if none was.
     PaintLog Paint();
+    /// The same for another window, such as a popup's.
+    PaintLog Paint(vexelbase::memory::CMemoryWindow& window);
     /// Paints everything, as after the surface was lost.
     PaintLog FullPaint();
     bool IsFramePending() const;

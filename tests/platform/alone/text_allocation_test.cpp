@@ -14,7 +14,7 @@ namespace
 
 long g_Allocations = 0;
 
-} // namespace
+}  // namespace
 
 void* operator new(std::size_t size)
 {
@@ -23,14 +23,8 @@ void* operator new(std::size_t size)
         return memory;
     throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace vexel::test
 {
@@ -55,7 +49,7 @@ protected:
     rectangle<double> rect{0, 0, 150, 20};
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(TextAllocation, TheCounterCounts)
 {
@@ -99,15 +93,20 @@ TEST_F(TextAllocation, MeasuringAllocatesNothing)
 TEST_F(TextAllocation, LongAndShortenedAndMarkedUpTextsAllocateNothingOnceTheyWereDrawn)
 {
     CHTMLTextFormatter formatter;
-    EXPECT_EQ(AllocationsOf([&] {
-                  painter.DrawStringEx(rect, "a text that takes more than the one line there is", 0x101, -1,
-                                       TextDelimiters, nullptr);
-              }),
+    EXPECT_EQ(AllocationsOf(
+                  [&]
+                  {
+                      painter.DrawStringEx(rect, "a text that takes more than the one line there is", 0x101, -1,
+                                           TextDelimiters, nullptr);
+                  }),
               0);
-    EXPECT_EQ(AllocationsOf([&] {
-                  painter.DrawStringEx(rect, "a <b>text</b> of <a href=\"a target that is long\">several</a> lines &amp; styles",
-                                       0x101, -1, MarkupDelimiters, &formatter);
-              }),
+    EXPECT_EQ(AllocationsOf(
+                  [&]
+                  {
+                      painter.DrawStringEx(
+                          rect, "a <b>text</b> of <a href=\"a target that is long\">several</a> lines &amp; styles",
+                          0x101, -1, MarkupDelimiters, &formatter);
+                  }),
               0);
 }
 
@@ -117,13 +116,15 @@ TEST_F(TextAllocation, FontsThatAlternateAllocateNothing)
     one.name = "A name that is longer than sixteen characters";
     font two = one;
     two.size = 12;
-    EXPECT_EQ(AllocationsOf([&] {
-                  painter.SetFont(one);
-                  painter.DrawString(rect, "one", 0, -1);
-                  painter.SetFont(two);
-                  painter.DrawString(rect, "two", 0, -1);
-              }),
+    EXPECT_EQ(AllocationsOf(
+                  [&]
+                  {
+                      painter.SetFont(one);
+                      painter.DrawString(rect, "one", 0, -1);
+                      painter.SetFont(two);
+                      painter.DrawString(rect, "two", 0, -1);
+                  }),
               0);
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

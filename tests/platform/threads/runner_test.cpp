@@ -51,7 +51,7 @@ private:
     std::function<bool()> m_Work;
 };
 
-} // namespace
+}  // namespace
 
 TEST(Runner, RunsOnAThreadOfItsOwnUntilTheWorkSaysNo)
 {
@@ -59,13 +59,15 @@ TEST(Runner, RunsOnAThreadOfItsOwnUntilTheWorkSaysNo)
     CGate done;
     int rounds = 0;
     std::thread::id thread;
-    CWork work([&] {
-        thread = std::this_thread::get_id();
-        if (++rounds < 3)
-            return true;
-        done.Open();
-        return false;
-    });
+    CWork work(
+        [&]
+        {
+            thread = std::this_thread::get_id();
+            if (++rounds < 3)
+                return true;
+            done.Open();
+            return false;
+        });
     EXPECT_FALSE(runner.IsRunning());
     runner.Run(&work);
     done.Wait();
@@ -81,14 +83,16 @@ TEST(Runner, StopReturnsWhenTheWorkIsNoLongerInUse)
     CGate started;
     std::atomic<bool> inside = false;
     int plain = 0;  // written by the thread, read after Stop without a lock
-    CWork work([&] {
-        inside = true;
-        started.Open();
-        ++plain;
-        std::this_thread::yield();
-        inside = false;
-        return true;
-    });
+    CWork work(
+        [&]
+        {
+            inside = true;
+            started.Open();
+            ++plain;
+            std::this_thread::yield();
+            inside = false;
+            return true;
+        });
     runner.Run(&work);
     started.Wait();
     EXPECT_TRUE(runner.IsRunning());
@@ -115,12 +119,14 @@ TEST(Runner, TheWorkMaySetTheNextWait)
     CThreadRunner runner;
     CGate first;
     std::atomic<int> rounds = 0;
-    CWork work([&] {
-        ++rounds;
-        runner.SetWait(1000 * 60 * 60);
-        first.Open();
-        return true;
-    });
+    CWork work(
+        [&]
+        {
+            ++rounds;
+            runner.SetWait(1000 * 60 * 60);
+            first.Open();
+            return true;
+        });
     runner.SetWait(-5);
     runner.Run(&work);
     first.Wait();
@@ -133,16 +139,20 @@ TEST(Runner, RunDoesNothingWhileWorkRuns)
     CThreadRunner runner;
     CGate go;
     CGate done;
-    CWork first([&] {
-        go.Wait();
-        done.Open();
-        return false;
-    });
+    CWork first(
+        [&]
+        {
+            go.Wait();
+            done.Open();
+            return false;
+        });
     bool secondRan = false;
-    CWork second([&] {
-        secondRan = true;
-        return false;
-    });
+    CWork second(
+        [&]
+        {
+            secondRan = true;
+            return false;
+        });
     runner.Run(&first);
     runner.Run(&second);
     go.Open();
@@ -160,11 +170,13 @@ TEST(Runner, CanBeStartedAgain)
     for (int i = 0; i < 50; ++i)
     {
         CGate done;
-        CWork work([&] {
-            ++rounds;
-            done.Open();
-            return i % 2 == 0;
-        });
+        CWork work(
+            [&]
+            {
+                ++rounds;
+                done.Open();
+                return i % 2 == 0;
+            });
         int const before = rounds;
         runner.Run(&work);
         done.Wait();
@@ -179,10 +191,12 @@ TEST(Runner, StartsAgainAfterWorkThatEndedByItselfWithoutAStop)
     for (int i = 0; i < 20; ++i)
     {
         CGate done;
-        CWork work([&] {
-            done.Open();
-            return false;
-        });
+        CWork work(
+            [&]
+            {
+                done.Open();
+                return false;
+            });
         while (runner.IsRunning())
             std::this_thread::yield();
         runner.Run(&work);
@@ -197,23 +211,27 @@ TEST(Runner, TheWorkMayStopItself)
     CThreadRunner runner;
     CGate stopped;
     std::atomic<int> rounds = 0;
-    CWork work([&] {
-        ++rounds;
-        runner.Stop();
-        EXPECT_FALSE(runner.IsRunning());
-        stopped.Open();
-        return true;
-    });
+    CWork work(
+        [&]
+        {
+            ++rounds;
+            runner.Stop();
+            EXPECT_FALSE(runner.IsRunning());
+            stopped.Open();
+            return true;
+        });
     runner.Run(&work);
     stopped.Wait();
     EXPECT_FALSE(runner.IsRunning());
 
     // A new start waits for the end of that round.
     CGate second;
-    CWork other([&] {
-        second.Open();
-        return false;
-    });
+    CWork other(
+        [&]
+        {
+            second.Open();
+            return false;
+        });
     runner.Run(&other);
     second.Wait();
     runner.Stop();
@@ -232,11 +250,13 @@ TEST(Runner, ItsDestructionStopsTheWork)
 {
     CGate started;
     std::atomic<int> rounds = 0;
-    CWork work([&] {
-        ++rounds;
-        started.Open();
-        return true;
-    });
+    CWork work(
+        [&]
+        {
+            ++rounds;
+            started.Open();
+            return true;
+        });
     {
         CThreadRunner runner;
         runner.Run(&work);
@@ -262,7 +282,7 @@ struct SAtThreadEnd
 };
 thread_local SAtThreadEnd t_AtThreadEnd;
 
-} // namespace
+}  // namespace
 
 TEST(Runner, TheWorkMayDropTheLastReferenceToItsRunner)
 {
@@ -270,13 +290,15 @@ TEST(Runner, TheWorkMayDropTheLastReferenceToItsRunner)
     CGate threadEnded;
     vexel_ptr<IRunner> runner(new CThreadRunner);
     int rounds = 0;
-    CWork work([&] {
-        t_AtThreadEnd.m_Gate = &threadEnded;
-        go.Wait();
-        ++rounds;
-        runner.reset();
-        return true;
-    });
+    CWork work(
+        [&]
+        {
+            t_AtThreadEnd.m_Gate = &threadEnded;
+            go.Wait();
+            ++rounds;
+            runner.reset();
+            return true;
+        });
     runner->Run(&work);
     go.Open();
     threadEnded.Wait();
@@ -306,10 +328,12 @@ TEST(Runner, AnExceptionEndsTheWorkAndIsReported)
 TEST(Runner, ManyRunnersRunSideBySide)
 {
     std::atomic<int> sum = 0;
-    CWork work([&] {
-        ++sum;
-        return true;
-    });
+    CWork work(
+        [&]
+        {
+            ++sum;
+            return true;
+        });
     std::vector<vexel_ptr<IRunner>> runners;
     for (int i = 0; i < 8; ++i)
     {
@@ -328,7 +352,8 @@ TEST(Lock, LetsOneThreadInAtATime)
 {
     vexel_ptr<ILock> const lock(new CLock);
     int count = 0;
-    auto const add = [&] {
+    auto const add = [&]
+    {
         for (int i = 0; i < 1000; ++i)
         {
             lock->Acquire();
@@ -343,4 +368,4 @@ TEST(Lock, LetsOneThreadInAtATime)
     EXPECT_EQ(count, 2000);
 }
 
-} // namespace vexel::test
+}  // namespace vexel::test

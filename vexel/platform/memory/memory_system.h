@@ -84,6 +84,7 @@ public:
     // Focus and capture -------------------------------------------------------------------------------------------
     CMemoryNode* GetFocusNode() const { return m_Focus; }
     void SetFocusNode(CMemoryNode* node);        ///< The old one is told first. Null: nobody has it.
+    void FocusWhenShown(CMemoryNode* node) { m_FocusWhenShown = node; }  ///< Unless the focus is moved before.
     void TabFrom(CMemoryNode* node, bool forward);  ///< To the next node that takes the focus, in a ring.
     void TabInto(CMemoryNode& node, bool forward);
     CMemoryNode* GetCaptureNode() const { return m_Capture; }
@@ -132,10 +133,10 @@ private:
 
     void NodeGone(CMemoryNode* node);
     void NodeHidden(CMemoryNode* node);
+    void NodeShown(CMemoryNode* node);
     CMemoryNode* PointerTarget();
     void SettlePointer();
     void CloseOtherPopups(CMemoryNode* pressed);
-    bool IsPopup(CMemoryNode* node) const;
     CMouseEvent MakeMouseEvent(CMemoryNode& node, MouseButton button) const;
     MouseButton GetHeldButton() const;
 
@@ -157,6 +158,7 @@ private:
     CMemoryNode* m_Under = nullptr;    // the node that was told of the pointer last
     CMemoryNode* m_Focus = nullptr;
     CMemoryNode* m_ToldOfFocus = nullptr;
+    CMemoryNode* m_FocusWhenShown = nullptr;
     CMemoryNode* m_Capture = nullptr;
 };
 
