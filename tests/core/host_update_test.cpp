@@ -244,6 +244,16 @@ TEST_F(HostUpdate, AGlobalRemovalTellsEveryElementFirst)
     EXPECT_EQ(Paint(), "");
 }
 
+TEST_F(HostUpdate, ARemovedElementThatAsksDuringItsGlobalUpdateIsForgottenAllTheSame)
+{
+    m_Left.m_OnUpdateElement = [&] { m_Left.Update(utElement); };
+
+    m_Left.Update(Type(17));
+
+    EXPECT_EQ(Host().GetUpdatesLastPos(), 0);
+    EXPECT_EQ(Paint(), "");
+}
+
 TEST_F(HostUpdate, NothingIsAskedForANullElement)
 {
     Host().UpdateElement(nullptr, utElement);

@@ -49,6 +49,18 @@ void OnOwnStack(std::function<void()> work)
     pthread_attr_destroy(&attributes);
 }
 
+// Takes the tree apart from the inside, where no level has any below it.
+void TakeApart(CVisualElement* innermost)
+{
+    while (innermost)
+    {
+        CVisualElement* const around = innermost->GetParent();
+        innermost->ReParent(nullptr, false);
+        delete innermost;
+        innermost = around;
+    }
+}
+
 // Stops changes, which would otherwise walk over all levels above.
 class CWall : public CVisualElement
 {
@@ -112,7 +124,7 @@ TEST(DeepTree, IsShownHiddenUpdatedSearchedAndReadAloud)
     CScriptedSystem system;
     OnOwnStack([&] {
         CVisualElement* innermost = nullptr;
-        std::unique_ptr<CVisualElement> const root(Nest(innermost));
+        CVisualElement* const root = Nest(innermost);
         innermost->SetId(5);
 
         EXPECT_EQ(root->FindVisualElement(5ul, false), innermost);
@@ -128,6 +140,7 @@ TEST(DeepTree, IsShownHiddenUpdatedSearchedAndReadAloud)
         root->ProcessControlDestroy();
         EXPECT_EQ(root->GetFirstTabElement(), nullptr);
         EXPECT_EQ(root->GetLastTabElement(), nullptr);
+        TakeApart(innermost);
     });
 }
 
