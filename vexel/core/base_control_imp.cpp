@@ -148,8 +148,10 @@ void CBaseControlImp::UpdateElement(CVisualElement* element, UpdateType type)
             m_Root->OnGlobalUpdate();
         if (!alive || (!target && (type & utElement)))
             return;
+        if (target && (type & utRemoved))
+            Forget(element);  // it may have asked again meanwhile
     }
-    if (!m_FullUpdate && (type & utElement))
+    if (!m_FullUpdate && (type & utElement) && !(type & utRemoved))
     {
         int const count = m_Updates.GetCount();
         if (element->m_Control == this)

@@ -5,6 +5,8 @@
 #include "vexel/platform/xpm.h"
 #include "vexel/signals/notify.h"
 
+#include "vexel/testing/expect_report.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -131,10 +133,9 @@ TEST(QtTimer, AThrowingTickIsReportedAndTheNextOneComes)
         if (ticks.m_Count == 1)
             throw std::runtime_error("in a tick");
     };
-    testing::internal::CaptureStderr();
+    vexel::test::CExpectException const report("in a tick");
     timer->SetRunning(true);
     EXPECT_TRUE(RunUntil([&] { return ticks.m_Count >= 2; }));
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("in a tick"), std::string::npos);
 }
 
 TEST(QtSystem, TheClipboardTakesAndGivesText)
