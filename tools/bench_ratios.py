@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """bench_ratios.py [--goals FILE] RESULT.json...: vexel beside its peers, from results of Google Benchmark.
 
-A benchmark is named item/case/peer, as in signals/emit_to_1/vexel and signals/emit_to_1/qt_direct; what follows a third
-slash (ranges, repeats) belongs to the case. All of one run are compared: the ratio is vexel's time to the peer's, so
-below 1 vexel is the faster. Repeats count by their median. A counter named "bytes" is compared like the time, as a case
-of its own.
+A benchmark is named item/case/peer, as in signals/emit_to_1/vexel and signals/emit_to_1/qt_direct; what follows a
+third slash belongs to the case. All of one run are compared: the ratio is vexel's time to the peer's, so below 1 vexel
+is the faster. An item without any vexel in it is no comparison: all its figures are vexel's own. Repeats count by their
+median. A counter named "bytes" is compared like the time, as a case of its own.
 
 FILE has lines "item TAB case TAB peer TAB goal": the ratio that vexel aims at. Goals are told, not enforced.
 """
@@ -16,6 +16,8 @@ import sys
 
 UNITS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 
+SETTINGS = ("repeats:", "min_time:", "real_time", "manual_time", "iterations:")
+
 
 def read(paths):
     """{(item, case, unit): {peer: [values]}}, in the order of the files."""
@@ -25,13 +27,12 @@ def read(paths):
             if entry.get("run_type") == "aggregate":
                 continue
             words = entry["name"].split("/")
-            if len(words) < 3:
-                sys.exit(f"{path}: the name {entry['name']} is not of the form item/case/peer")
+            words += ["vexel"] * (3 - len(words)) if len(words) > 1 else ["-", "vexel"]
             if entry.get("error_occurred"):
                 print(f"{entry['name']}: {entry['error_message']}", file=sys.stderr)
                 continue
             item, case, peer = words[:3]
-            more = [w for w in words[3:] if not w.startswith(("repeats:", "min_time:", "real_time", "iterations:"))]
+            more = [w for w in words[3:] if not w.startswith(SETTINGS)]
             case = "/".join([case, *more])
             time = entry["real_time"] * UNITS[entry["time_unit"]]
             table.setdefault((item, case, "ns"), {}).setdefault(peer, []).append(time)
@@ -65,17 +66,21 @@ def main():
     table, goals = read(arguments.results), read_goals(arguments.goals)
     head = ("item", "case", "unit", "vexel", "peer", "its value", "ratio", "goal")
     rows = []
+    compared = {item for (item, _, _), peers in table.items() if "vexel" in peers}
     for (item, case, unit), peers in table.items():
         medians = {peer: statistics.median(values) for peer, values in peers.items()}
         own = medians.pop("vexel", None)
         if not medians:
             rows.append((item, case, unit, show(own), "", "", "", ""))
+        if item not in compared:
+            rows += [(item, f"{case}/{word}", unit, show(value), "", "", "", "") for word, value in medians.items()]
+            continue
         for peer, value in sorted(medians.items(), key=lambda pair: pair[1]):
             ratio = own / value if own is not None and value else None
-            goal = goals.pop((item, case, peer), None) if unit == "ns" else goals.pop((item, case + " bytes", peer), None)
+            goal = goals.pop((item, case if unit == "ns" else case + " bytes", peer), None)
+            verdict = "?" if ratio is None or goal is None else "met" if ratio <= goal else "MISSED"
             rows.append((item, case, unit, "-" if own is None else show(own), peer, show(value),
-                         "-" if ratio is None else f"{ratio:.2f}",
-                         "" if goal is None else f"{goal:.2f} " + ("?" if ratio is None else "met" if ratio <= goal else "MISSED")))
+                         "-" if ratio is None else f"{ratio:.2f}", "" if goal is None else f"{goal:.2f} {verdict}"))
     widths = [max(len(row[i]) for row in [head, *rows]) for i in range(len(head))]
     for row in [head, *rows]:
         print("  ".join(cell.rjust(w) if i in (3, 5, 6) else cell.ljust(w)

@@ -25,8 +25,8 @@ initializer_list iomanip ios iosfwd iostream istream iterator latch limits list 
 numbers numeric optional ostream queue random ranges ratio regex scoped_allocator semaphore set shared_mutex
 source_location span sstream stack stdexcept stop_token streambuf string string_view strstream syncstream system_error
 thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility valarray variant vector version
-emmintrin.h
-""".split())  # the last: vector instructions that the compiler brings along, for the painting of pixels
+cxxabi.h emmintrin.h
+""".split())  # the last two come with the compilers: names of types, and vector instructions for the painting of pixels
 
 errors = []
 

@@ -15,8 +15,10 @@ public:
 protected:
     void DrawContent(vexel::IPainter* painter) override
     {
+        auto const rect = GetDrawRect(painter);
         int const centered = vexel::IPainter::AlignHCenter | vexel::IPainter::AlignVCenter;
-        painter->DrawString(GetDrawRect(painter), m_Clicked ? "Thank you" : "Press me", centered, -1);
+        painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
+        painter->DrawString(rect, m_Clicked ? "Thank you" : "Press me", centered, -1);
     }
 
 private:

@@ -86,6 +86,7 @@ void CDragDropPage::Build(CVisualElement* parent)
     {
         auto* const tile = new CTile(row, colors[i], std::string("tile ") + names[i]);
         tile->SetId(static_cast<unsigned long>(i + 1));
+        ReportMouse(tile, names[i]);
         Report(tile->m_SigStartDragging, std::string(names[i]) + ".start");
         Report(tile->m_SigDragFinished, std::string(names[i]) + ".finished");
     }

@@ -38,8 +38,8 @@ protected:
             ++fromEnd;
             row.top = foot - fromEnd * height;
             row.bottom = row.top + height - 1;
-            if (row.bottom < 0)
-                break;
+            if (row.top < 0)
+                break;  // a line that is cut would lie over what is above
             painter->DrawString(row, *line, IPainter::AlignLeft | IPainter::AlignVCenter | IPainter::AlignFitText, -1);
         }
     }

@@ -75,6 +75,7 @@ void CTooltipPage::Build(CVisualElement* parent)
     for (CPanel* const element : {plain, lines, static_cast<CPanel*>(squares)})
     {
         static char const* const names[] = {"plain", "lines", "squares"};
+        ReportMouse(element, names[id]);
         Report(element->m_SigTooltip, std::string(names[id]) + ".tooltip");
         Report(element->m_SigContextMenu, std::string(names[id]) + ".menu");
         element->SetId(static_cast<unsigned long>(++id));

@@ -8,9 +8,9 @@
 #include <rapidcheck.h>
 
 #include <algorithm>
-#include <array>
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <ostream>
 #include <set>
@@ -256,9 +256,9 @@ private:
             std::erase_if(signal.entries, [](SEntry const& entry) { return !entry.live; });
     }
 
-    std::array<std::shared_ptr<SSignal>, signal_count> m_Signals;
+    std::map<int, std::shared_ptr<SSignal>> m_Signals;
     std::set<int> m_Alive;
-    std::array<std::vector<int>, 200> m_Known;
+    std::map<int, std::vector<int>> m_Known;
     std::string m_Reports;
 };
 
@@ -339,8 +339,8 @@ private:
 
     signals_test::CReports m_Reports;
     std::size_t m_Taken = 0;
-    std::array<std::unique_ptr<CTarget>, receiver_count> m_Receivers;
-    std::array<std::unique_ptr<signal_t<>>, signal_count> m_Signals;
+    std::map<int, std::unique_ptr<CTarget>> m_Receivers;
+    std::map<int, std::unique_ptr<signal_t<>>> m_Signals;
 };
 
 // The script ------------------------------------------------------------------------------------------------------------

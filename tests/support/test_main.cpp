@@ -3,6 +3,8 @@
 // Random tests start from a fixed seed, so that a run tells of the change under test and not of luck. VEXEL_SEED=<number>
 // takes another one, VEXEL_SEED=random a new one each time. The seed is printed: the same seed gives the same run.
 
+#include "vexel/testing/google_test.h"  // the census at the end of each test
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -144,11 +144,15 @@ class Ratios(unittest.TestCase):
     def test_vexel_stands_beside_its_peers_with_the_goal(self):
         result = {"benchmarks": [{"name": "s/emit/vexel", "real_time": 8, "time_unit": "ns"},
                                  {"name": "s/emit/other", "real_time": 0.02, "time_unit": "us"},
+                                 {"name": "t/long/100", "real_time": 7, "time_unit": "ns"},
+                                 {"name": "u", "real_time": 6, "time_unit": "ns"},
                                  {"name": "s/emit/other", "run_type": "aggregate", "real_time": 9, "time_unit": "us"}]}
         tree = Tree({"r.json": json.dumps(result), "g.tsv": "s\temit\tother\t0.3\ns\temit\tthird\t0.3\n"})
         code, text = tree.run("bench_ratios.py", "--goals", "g.tsv", "r.json")
         self.assertEqual(code, 0)
         self.assertRegex(text, r"s\s+emit\s+ns\s+8\.0\s+other\s+20\.0\s+0\.40\s+0\.30 MISSED")
+        self.assertRegex(text, r"(?m)^t\s+long/100\s+ns\s+7\.0$")
+        self.assertRegex(text, r"(?m)^u\s+-\s+ns\s+6\.0$")
         self.assertIn("against third has no benchmark", text)
 
 

@@ -1,6 +1,6 @@
 """A display of the test's own: Xvfb on a free number, and on it a program that is watched, pointed at and read.
 
-    with Display() as display, Program(display, [gallery, "--page", "slider"]) as program:
+    with Display() as display, Program(display, [programs / "vexel-gallery", "--page", "slider"]) as program:
         window = display.wait_for_window("slider")
         display.click(window, 40, 30)
         program.wait_for_line("value(3)")
@@ -49,7 +49,8 @@ class Display:
             self.log.seek(0)
             raise AssertionError("Xvfb did not start: " + self.log.read().decode())
         self.environment = {k: v for k, v in os.environ.items() if k != "WAYLAND_DISPLAY"}
-        self.environment.update(DISPLAY=f":{number}", QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8")
+        self.runtime = tempfile.TemporaryDirectory()
+        self.environment.update(XDG_RUNTIME_DIR=self.runtime.name, DISPLAY=f":{number}", QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8")
         return self
 
     def __exit__(self, *_):
@@ -60,6 +61,7 @@ class Display:
             self.server.kill()
             self.server.wait()
         self.log.close()
+        self.runtime.cleanup()
 
     def tool(self, *command, check=True):
         done = subprocess.run([str(c) for c in command], env=self.environment, capture_output=True, text=True, timeout=60)

@@ -3,22 +3,25 @@
 #include "vexel/core/fwd.h"
 #include "vexel/export.h"
 
+#include <cstddef>
+
 namespace vexel
 {
 
 /// The chain of all guards on the stack, innermost first. An object that can be guarded calls Forget in its destructor.
-/// Guarding costs the guarded object nothing. Guards are automatic variables only; all belongs to the GUI thread.
+/// Being guarded costs an object nothing. Guards are automatic variables only; all belongs to the GUI thread.
 class VEXEL_API CAliveLink
 {
 public:
     CAliveLink(CAliveLink const&) = delete;
     CAliveLink& operator=(CAliveLink const&) = delete;
 
-    /// The object is dying: no guard points to it any more. The address must be the one that guards were given.
-    static void Forget(void const* object)
+    /// The object is dying: no guard points to it any more, nor into its first `bytes`. To be called first thing in its
+    /// destructor; the address must be the one that guards were given.
+    static void Forget(void const* object, std::size_t bytes = 1)
     {
         if (s_Innermost)
-            ForgetInChain(object);
+            ForgetInChain(object, bytes);
     }
 
 protected:
@@ -30,7 +33,7 @@ protected:
     void const* m_Object;
 
 private:
-    static void ForgetInChain(void const* object);
+    static void ForgetInChain(void const* object, std::size_t bytes);
 
     CAliveLink* const m_Outer;
 

@@ -41,7 +41,16 @@ CBaseControl::CBaseControl(ISysWindow* window) : CVexelControl(window, false)
 CBaseControl::~CBaseControl()
 {
     CAliveLink::Forget(this);
+    ForgetPainter();
     delete std::exchange(m_Imp, nullptr);
+}
+
+// A paint under way ends without touching the painter again; the window closes its brackets.
+void CBaseControl::ForgetPainter()
+{
+    ISysWindow* const window = GetWindow();
+    if (IPainter* const painter = window ? window->GetPainter() : nullptr)
+        CAliveLink::Forget(painter);
 }
 
 // Tree -----------------------------------------------------------------------------------------------------------------------
@@ -141,9 +150,7 @@ void CBaseControl::OnResize(CWindowEvent* event)
 void CBaseControl::OnDestroy(CWindowEvent* event)
 {
     CAlivePtr<CBaseControl> const alive(this);
-    if (ISysWindow* const window = CVexelControl::GetWindow())
-        if (IPainter* const painter = window->GetPainter())
-            CAliveLink::Forget(painter);  // a paint under way ends here
+    ForgetPainter();
     CVexelControl::OnDestroy(event);
     if (!alive)
         return;

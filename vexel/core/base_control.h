@@ -71,6 +71,7 @@ public:
     void OnCustomEvent(CCustomEvent* event) override;
 
 private:
+    void ForgetPainter();
     template <class Process, class Base> void Pass(Process const& process, Base const& base);
 
     CBaseControlImp* m_Imp = nullptr;  // null while it is being deleted

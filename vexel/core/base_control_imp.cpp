@@ -16,7 +16,8 @@ CBaseControlImp::CBaseControlImp(CBaseControl* host) : m_Host(host), m_DragInfo(
 
 CBaseControlImp::~CBaseControlImp()
 {
-    CAliveLink::Forget(this);
+    CAliveLink::Forget(static_cast<IControl*>(this), sizeof *this);
+    CVisualElement::ControlGone(this);
     ReleaseRoot();
 }
 
@@ -95,6 +96,8 @@ void CBaseControlImp::SetContent(CVisualElement* root)
     ReleaseRoot();
     if (!alive || !fresh)
         return;
+    if (auto* const other = dynamic_cast<CBaseControlImp*>(root->GetControl()); other && other->m_Root == root)
+        other->GiveUpRoot();
     m_Root = root;
     root->m_SigDestroy.connect(this, &CBaseControlImp::HandleRootDestroy);
     root->SetControl(this);
@@ -103,14 +106,21 @@ void CBaseControlImp::SetContent(CVisualElement* root)
 // Deletes the root if it is dynamic; another one goes its own way.
 void CBaseControlImp::ReleaseRoot()
 {
-    CVisualElement* const root = std::exchange(m_Root, nullptr);
+    CVisualElement* const root = GiveUpRoot();
     if (!root)
         return;
-    root->m_SigDestroy.disconnect(this, &CBaseControlImp::HandleRootDestroy);
     if (root->IsDynamic())
         delete root;
     else if (root->GetControl() == this)
-        root->SetControl(nullptr);
+        root->LeaveControl();
+}
+
+CVisualElement* CBaseControlImp::GiveUpRoot()
+{
+    CVisualElement* const root = std::exchange(m_Root, nullptr);
+    if (root)
+        root->m_SigDestroy.disconnect(this, &CBaseControlImp::HandleRootDestroy);
+    return root;
 }
 
 // The application has deleted the root.
@@ -142,7 +152,8 @@ void CBaseControlImp::UpdateElement(CVisualElement* element, UpdateType type)
     if (!m_FullUpdate && (type & utElement))
     {
         int const count = m_Updates.GetCount();
-        m_Updates.AddElement(element);
+        if (element->m_Control == this)
+            m_Updates.AddElement(element);
         if (m_Updates.GetCount() == count)
             return;  // asked for already, or not displayable
     }
@@ -162,16 +173,23 @@ void CBaseControlImp::Forget(CVisualElement* element)
     for (SPass* pass = m_Passes; pass; pass = pass->m_Outer)
         pass->m_Entries.RemoveElement(element);
 
-    for (CVisualElement** const pointer :
-         {&m_FocusedElement, &m_FocussingElement, &m_MouseElement, &m_PressedElement, &m_DragTarget, &m_TabHandler})
-        if (*pointer == element)
-            *pointer = nullptr;
+    auto const clear = [element](CVisualElement*& pointer) {
+        if (pointer == element)
+            pointer = nullptr;
+    };
+    clear(m_FocusedElement);
+    clear(m_FocussingElement);
+    clear(m_MouseElement);
+    clear(m_PressedElement);
+    clear(m_DragTarget);
+    clear(m_TabHandler);
     bool const dragged = m_DraggedElement == element;
     bool const captured = m_Capture == element;
     if (dragged)
     {
         m_DraggedElement = nullptr;
         m_MouseFlags = (m_MouseFlags & ~unsigned{mfAccepted}) | mfPutBackground;
+        m_FullUpdate = true;  // so that the next paint wipes the item
     }
     if (captured)
         m_Capture = nullptr;
@@ -180,6 +198,8 @@ void CBaseControlImp::Forget(CVisualElement* element)
             window->ReleaseMouse();
     if (element->m_IsKeyDelegate)
         element->ForgetKeyDelegates(this);
+    if (m_Root == element && element->GetParent())
+        GiveUpRoot();  // it has moved into another tree
 }
 
 } // namespace vexel

@@ -119,6 +119,7 @@ private:
     void Forget(CVisualElement* element);
     void HandleRootDestroy(CVisualElement* root);
     void ReleaseRoot();
+    CVisualElement* GiveUpRoot();
 
     void LayOutForPaint();
     void PaintTree(IPainter* painter);
@@ -140,8 +141,8 @@ private:
     CVisualElement* m_FocusedElement = nullptr;
     CVisualElement* m_FocussingElement = nullptr;
     CVisualElement* m_TabHandler = nullptr;
-    CElementList m_Updates;     // wait for a repaint
-    CElementList m_Rearranges;  // their children wait for a layout
+    CElementList m_Updates{true};  // wait for a repaint
+    CElementList m_Rearranges;     // their children wait for a layout
     SPass* m_Passes = nullptr;  // layout passes on the stack, innermost first
     bool m_FullUpdate = false;  // the next paint paints everything
     bool m_RearrangeNeeded = true;

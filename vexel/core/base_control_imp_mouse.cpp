@@ -290,6 +290,7 @@ void CBaseControlImp::MoveDrag(point<int> const& position)
         return;
     dragged->OnChange(dragged.get(), info->m_GlobalUpdate ? utGlobal : utElement);
     alive.Check();
+    InvalidateWindow();  // a hidden element asks for nothing, and the item moves all the same
     if (dragged)
         m_SigDragMove(dragged.get(), position.x, position.y);
 }
@@ -307,8 +308,10 @@ void CBaseControlImp::FinishDrag(CVisualElement* draggedElement, point<int> cons
         explicit CPutBackground(CAlivePtr<CBaseControlImp> const& control) : m_Control(control) {}
         ~CPutBackground()
         {
-            if (m_Control)
-                m_Control->m_MouseFlags |= mfPutBackground;
+            if (!m_Control)
+                return;
+            m_Control->m_MouseFlags |= mfPutBackground;
+            m_Control->InvalidateWindow();  // the dragged element asks for nothing while it is hidden
         }
 
     private:

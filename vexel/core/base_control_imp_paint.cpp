@@ -29,6 +29,8 @@ void CBaseControlImp::ProcessDraw(IPainter* painter)
     LayOutForPaint();
     if (!alive || !surface)
         return;
+    // The item of the last paint must go, even if nobody waits.
+    draw = draw || m_DraggedElement || (m_MouseFlags & mfPutBackground);
     if (m_FirstDraw)
     {
         m_Updates.Clear(0);
@@ -120,12 +122,17 @@ void CBaseControlImp::PaintDragBackground(IPainter* painter)
     if (!m_DragInfo->m_UseBackground)
         return;
     rectangle<int> const area = FindWindow()->GetRect();
-    if (m_MouseFlags & mfMakeBackground)
-        m_DragBackground = GetCurrentSystem()->CreateRasterPicture({area.Width(), area.Height()});
-    else if (m_DragBackground)
+    size<int> const extent{area.Width(), area.Height()};
+    bool const fits = m_DragBackground && m_DragBackground->GetSize() == extent;  // else everything is painted anew
+    bool const ended = (m_MouseFlags & mfPutBackground) != 0;
+    bool const started = (m_MouseFlags & mfMakeBackground) != 0;
+    // A new drag may have started before the item of the last one was wiped.
+    if (fits && (ended || !started))
         painter->DrawRasterPicture(m_DragBackground.get(), 0, 0, area.right, area.bottom, IPainter::roCopy);
-    if (m_MouseFlags & mfPutBackground)
+    if (ended)
         m_DragBackground.reset();
+    if (m_DraggedElement && (started || !fits))
+        m_DragBackground = GetCurrentSystem()->CreateRasterPicture(extent);
 }
 
 // In the dragged element's own pixels.

@@ -5,10 +5,7 @@
 namespace vexel
 {
 
-CDragSource::~CDragSource()
-{
-    CAliveLink::Forget(this);
-}
+CDragSource::~CDragSource() = default;
 
 bool CDragSource::CanStartDragging(CVisualElement* element, int x, int y, DragInfo& info)
 {
@@ -43,10 +40,7 @@ void CDragSource::DragFinished(CVisualElement* element, CVisualElement* target, 
         HandleDragFinished(over.get(), info);
 }
 
-CDropTarget::~CDropTarget()
-{
-    CAliveLink::Forget(this);
-}
+CDropTarget::~CDropTarget() = default;
 
 bool CDropTarget::DragOver(CVisualElement* source, CVisualElement* target, int x, int y, DragInfo& info)
 {

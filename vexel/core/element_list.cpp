@@ -11,10 +11,7 @@
 namespace vexel
 {
 
-IVisualElements::~IVisualElements()
-{
-    CAliveLink::Forget(this);
-}
+IVisualElements::~IVisualElements() = default;
 
 // CChildren -------------------------------------------------------------------------------------------------------------
 
@@ -43,28 +40,31 @@ int CChildren::GetIndex(CVisualElement* element) const
 
 void CChildren::Clear()
 {
-    CAlivePtr<IVisualElements> const alive(this);
-    while (m_Count > 0)
+    if (m_Count > 0 && m_Owner && !m_Owner->m_Destroying)
     {
-        CVisualElement* const child = m_Items[m_Head];
-        if (child->IsDynamic() && !child->m_Destroying)
-        {
-            delete child;  // takes itself out of this list
-            if (!alive)
-                return;
-            while (m_Loose && Find(child) >= 0)
-                RemoveAt(Find(child));
-        }
-        else
-        {
-            RemoveAt(0);
-            if (child->m_Parent == m_Owner)
-                child->LeaveParent();
-            if (!alive)
-                return;
-        }
+        CAlivePtr<CChildren> const alive(this);
+        while (alive && m_Count > 0)
+            TakeFirst();
+        return;
     }
-    m_Loose = false;
+    while (m_Count > 0)  // the owner's destructor waits for this: no guard for each level of a deep tree
+        TakeFirst();
+}
+
+void CChildren::TakeFirst()
+{
+    CVisualElement* const child = m_Items[m_Head];
+    if (!child->IsDynamic() || child->m_Destroying)
+    {
+        RemoveAt(0);
+        if (child->m_Parent == m_Owner)
+            child->LeaveParent();
+        return;
+    }
+    if (m_Loose)
+        while (Find(child) >= 0)  // it doesn't know that it stands here
+            RemoveAt(Find(child));
+    delete child;  // takes itself out of this list
 }
 
 void CChildren::AddItem(CVisualElement* element)
@@ -275,6 +275,13 @@ bool CElementList::IsEqual(CElementList& other)
 
 int CElementList::Find(CVisualElement const* element) const
 {
+    if (m_Hinted)
+    {
+        int const index = element->m_ListIndex;
+        return static_cast<std::size_t>(index) < m_Items.size() && m_Items[static_cast<std::size_t>(index)] == element
+                   ? index
+                   : -1;
+    }
     if (!m_Indexed)
     {
         auto const found = std::find(m_Items.begin(), m_Items.end(), element);
@@ -290,8 +297,13 @@ int CElementList::Find(CVisualElement const* element) const
     return -1;
 }
 
-void CElementList::Note(CVisualElement const* element, int index)
+void CElementList::Note(CVisualElement* element, int index)
 {
+    if (m_Hinted)
+    {
+        element->m_ListIndex = index;
+        return;
+    }
     if (!m_Indexed || (m_UsedPlaces + 1) * 2 > m_Table.size())
     {
         if (m_Items.size() > s_PlainCount)
@@ -318,6 +330,11 @@ void CElementList::BuildTable()
         m_Epoch = 1;
     }
     m_Indexed = true;
+    NoteAll();
+}
+
+void CElementList::NoteAll()
+{
     for (std::size_t i = 0; i < m_Items.size(); ++i)
         if (m_Items[i] && m_Items[i] != s_Hole)
             Note(m_Items[i], static_cast<int>(i));
@@ -341,7 +358,9 @@ void CElementList::Compact()
     m_Items.erase(std::remove(m_Items.begin(), m_Items.end(), s_Hole), m_Items.end());
     m_Holes = 0;
     DropTable();
-    if (m_Items.size() > s_PlainCount)
+    if (m_Hinted)
+        NoteAll();
+    else if (m_Items.size() > s_PlainCount)
         BuildTable();
 }
 

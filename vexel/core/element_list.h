@@ -61,6 +61,7 @@ private:
     friend class CVisualElement;
 
     void Append(CVisualElement* element);
+    void TakeFirst();
     void RemoveAt(int index);
     int Find(CVisualElement const* element) const;
 
@@ -77,7 +78,9 @@ private:
 class VEXEL_API CElementList final : public IVisualElements
 {
 public:
-    CElementList() = default;
+    /// `hinted`: the only list of its kind that any of its elements stands in (a control's pending repaints). An entry's
+    /// index is then kept in the element itself.
+    explicit CElementList(bool hinted = false) : m_Hinted(hinted) {}
     ~CElementList() override { CAliveLink::Forget(this); }
 
     int GetCount() const override { return static_cast<int>(m_Items.size()) - m_Holes; }
@@ -129,7 +132,8 @@ private:
     };
 
     int Find(CVisualElement const* element) const;
-    void Note(CVisualElement const* element, int index);
+    void Note(CVisualElement* element, int index);
+    void NoteAll();
     void BuildTable();
     void DropTable();
     void Compact();
@@ -137,6 +141,7 @@ private:
     std::vector<CVisualElement*> m_Items;  // removed entries stay as holes until somebody asks by index
     int m_Holes = 0;
     int m_Walks = 0;
+    bool const m_Hinted;
     std::vector<SPlace> m_Table;  // a power of two; in use if m_Indexed
     bool m_Indexed = false;
     std::uint32_t m_Epoch = 1;

@@ -1,16 +1,10 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
 #include "vexel/export.h"
-
-namespace vexelbase
-{
-class IPainter;
-}
 
 namespace vexel
 {
-
-class CVisualElement;
 
 /// Hears of every element of the process: test kits and inspection tools. The calls come on the GUI thread.
 class VEXEL_API IElementObserver
@@ -20,7 +14,7 @@ public:
     /// The element's base part is being built: only its address may be used.
     virtual void ElementMade(CVisualElement* element) = 0;
     /// The element is about to paint itself, then its children. Not called for what is hidden or without area.
-    virtual void ElementPainted(CVisualElement* element, vexelbase::IPainter* painter) = 0;
+    virtual void ElementPainted(CVisualElement* element, IPainter* painter) = 0;
     /// The element's base part is being destroyed: only its address may be used.
     virtual void ElementGone(CVisualElement* element) = 0;
 };

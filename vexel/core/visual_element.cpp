@@ -3,9 +3,11 @@
 #include "vexel/core/control.h"
 #include "vexel/core/detail/element_parts.h"
 #include "vexel/core/dpi.h"
+#include "vexel/core/element_observer.h"
 #include "vexel/platform/sys_window.h"
 #include "vexel/signals/assertion.h"
 
+#include <cstddef>
 #include <utility>
 
 namespace vexel
@@ -13,10 +15,13 @@ namespace vexel
 
 unsigned long CVisualElement::s_TreeVersion = 1;
 unsigned long CVisualElement::s_DestroyCount = 0;
+CVisualElement::CTransit* CVisualElement::s_Transit = nullptr;
 
 CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, Alignment alignment)
-    : m_Size(extent), m_Alignment(alignment), m_Children(this)
+    : m_Alignment(alignment), m_Size(extent), m_Children(this)
 {
+    if (IElementObserver* const observer = GetElementObserver())
+        observer->ElementMade(this);
     ApplyDPIScale(m_Size);
     try
     {
@@ -24,6 +29,8 @@ CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, 
     }
     catch (...)
     {
+        CTransit const transit(this, nullptr);
+        CAliveLink::Forget(this, sizeof *this);
         Withdraw();  // a slot threw, and the destructor won't run
         throw;
     }
@@ -32,7 +39,9 @@ CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, 
 CVisualElement::~CVisualElement()
 {
     m_Destroying = true;
-    CAliveGuard::Forget(this);  // no chain on the stack comes back to what is left
+    m_DestroyTop = m_Parent && m_Parent->m_Destroying ? m_Parent->m_DestroyTop : this;
+    CAliveLink::Forget(this, sizeof *this);  // no chain on the stack comes back to what is left
+    CTransit const transit(this, nullptr);
     m_SigDestroy(this);
     OnChange(this, utRemoved);
     m_Children.Clear();
@@ -42,6 +51,8 @@ CVisualElement::~CVisualElement()
 // The last steps of an element's life: nobody knows it afterwards.
 void CVisualElement::Withdraw() noexcept
 {
+    if (IElementObserver* const observer = GetElementObserver())
+        observer->ElementGone(this);
     m_Destroying = true;
     if (m_Parent)
     {
@@ -55,7 +66,6 @@ void CVisualElement::Withdraw() noexcept
     DropFont();
     ++s_TreeVersion;
     ++s_DestroyCount;
-    CAliveGuard::Forget(this);
 }
 
 // Tree --------------------------------------------------------------------------------------------------------------------
@@ -72,6 +82,7 @@ void CVisualElement::ReParent(CVisualElement* parent, bool rearrange)
     }
 
     CAliveGuard const alive(this);
+    CTransit const transit(this, &alive);
     CAlivePtr<CVisualElement> const target(parent);
     CAlivePtr<CVisualElement> const oldParent(m_Parent);
     if (m_Parent)
@@ -127,6 +138,7 @@ void CVisualElement::ReParent(CVisualElement* parent, bool rearrange)
 void CVisualElement::LeaveParent()
 {
     CAliveGuard const alive(this);
+    CTransit const transit(this, &alive);
     CAlivePtr<CVisualElement> const oldParent(m_Parent);
     if (m_Parent && m_Parent->m_KeyDelegate == this)
         m_Parent->SetKeyDelegate(nullptr);
@@ -142,23 +154,24 @@ void CVisualElement::SetControl(IControl* control)
     if (control == m_Control)
         return;
     CAliveGuard const alive(this);
+    CAlivePtr<IControl> const fresh(control);
+    IControl* const old = m_Control;
     ProcessSetControl(control);
-    if (!alive)
+    if (!alive || m_Control != old)
         return;
-    if (m_Control)
+    if (old)
     {
         // Told also if an ancestor swallows the change, or if the element goes straight to another control.
-        IControl* const old = m_Control;
         bool const told = !control && RunChangeChain(this, utRemoved) == this;
-        if (!alive)
+        if (!alive || m_Control != old)
             return;
-        if (!told && m_Control == old)
+        if (!told)
             old->UpdateElement(this, utRemoved);
+        if (!alive || m_Control != old)
+            return;
     }
-    else if (!control)
-    {
+    if (control && !fresh)
         return;
-    }
     m_Control = control;
     for (int i = 0; i < m_Children.GetCount(); ++i)
     {
@@ -174,6 +187,30 @@ void CVisualElement::SetControl(IControl* control)
     }
 }
 
+// The control lets go of this root.
+void CVisualElement::LeaveControl()
+{
+    CAliveGuard const alive(this);
+    CTransit const transit(this, &alive);
+    SetControl(nullptr);
+}
+
+// The control has died while slots ran: nothing below this element may point to it.
+void CVisualElement::DropControl(IControl const* gone)
+{
+    if (m_Control == gone)
+        m_Control = nullptr;
+    for (CVisualElement* const child : m_Children)
+        child->DropControl(gone);
+}
+
+void CVisualElement::ControlGone(IControl const* gone)
+{
+    for (CTransit const* transit = s_Transit; transit; transit = transit->m_Outer)
+        if (!transit->m_Alive || transit->m_Alive->IsAlive())
+            transit->m_Top->DropControl(gone);
+}
+
 bool CVisualElement::IsChildrenAvailable(int count) const
 {
     return count < 1 ? m_Children.GetCount() > 0 : m_Children.GetCount() == count;
@@ -181,9 +218,15 @@ bool CVisualElement::IsChildrenAvailable(int count) const
 
 CVisualElement* CVisualElement::FindChildAt(int x, int y) const
 {
-    for (CVisualElement* const child : m_Children)
-        if (child->m_Visible && child->m_Pos.Contains(x, y))
-            return child;
+    constexpr std::ptrdiff_t ahead = 8;  // siblings lie far apart in memory: have them fetched in time
+    CVisualElement* const* const end = m_Children.end();
+    for (CVisualElement* const* child = m_Children.begin(); child != end; ++child)
+    {
+        if (end - child > ahead)
+            __builtin_prefetch(&child[ahead]->m_Pos);
+        if ((*child)->m_Visible && (*child)->m_Pos.Contains(x, y))
+            return *child;
+    }
     return nullptr;
 }
 

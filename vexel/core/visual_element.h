@@ -300,9 +300,11 @@ public:
 private:
     friend class CBaseControlImp;
     friend class CChildren;
+    friend class CElementList;
 
-    struct SFont;   // a font with what it comes to on the present default font; shared by equal elements
-    struct STexts;  // what few elements have
+    struct SFont;    // a font with what it comes to on the present default font; shared by equal elements
+    struct STexts;   // what few elements have
+    class CTransit;  // on the stack: a tree outside of its control's, which would not hear of the control's end
 
     SFont const& GetFontRecord() const;
     font const& GetEffectiveFont() const;
@@ -318,6 +320,9 @@ private:
     void SetUpPainter(IPainter* painter) const;
     CVisualElement* RunChangeChain(CVisualElement* element, UpdateType type);
     void LeaveParent();
+    void LeaveControl();
+    void DropControl(IControl const* gone);
+    static void ControlGone(IControl const* gone);
     void Withdraw() noexcept;
     template <class Fire, class Handle, class Pass>
     bool RunKeyChain(bool handled, Fire const& fire, Handle const& handle, Pass const& pass);
@@ -326,20 +331,22 @@ private:
 
     static unsigned long s_TreeVersion;   // changes with every rectangle and parent
     static unsigned long s_DestroyCount;  // of elements
+    static CTransit* s_Transit;           // innermost first
 
     // What layout, hit tests and painting touch stands close together.
     rectangle<int> m_Pos;
-    rectangle<int> m_ValidRect;  // parent's pixels; empty: ends equal
+    bool m_Visible = true;
+    bool m_Enabled = true;
+    bool m_Destroying = false;
+    bool m_Pressed = false;
+    Alignment m_Alignment;
     size<int> m_Size;
     CVisualElement* m_Parent = nullptr;
     IControl* m_Control = nullptr;
-    Alignment m_Alignment;
-    bool m_Visible = true;
-    bool m_Enabled = true;
-    bool m_Pressed = false;
+    rectangle<int> m_ValidRect;  // parent's pixels; empty: ends equal
+    int m_ListIndex = -1;        // in the control's list of pending repaints, if it stands there
     bool m_CanHaveFocus = false;
     bool m_TooltipMultiline = false;
-    bool m_Destroying = false;
     bool m_IsKeyDelegate = false;  // of somebody
     bool m_WaitsForDelegate = false;
     _color m_BkColor;
@@ -352,7 +359,8 @@ private:
     IContextMenu* m_ContextMenu = nullptr;
     CVisualElement* m_KeyDelegate = nullptr;
     unsigned long m_Id = 0;
-    CChildren m_Children;  // last: destroyed first
+    CVisualElement* m_DestroyTop = nullptr;  // while being destroyed: the uppermost ancestor that is, too
+    CChildren m_Children;                    // last: destroyed first
 };
 
 /// The root that each control makes for itself: draws nothing of its own.

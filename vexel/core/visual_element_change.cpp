@@ -34,7 +34,9 @@ CVisualElement* CVisualElement::RunChangeChain(CVisualElement* element, UpdateTy
     else if (!target)
         return nullptr;
 
-    CAlivePtr<CVisualElement> ancestor(p->m_Parent);
+    // Ancestors that are being destroyed have nothing to say any more: a deep tree dies without walking up each time.
+    CVisualElement* const parent = p->m_Parent;
+    CAlivePtr<CVisualElement> ancestor(parent && parent->m_DestroyTop ? parent->m_DestroyTop->m_Parent : parent);
     if (ancestor && p->IsTransparent())
     {
         // What shines through must be painted again first.

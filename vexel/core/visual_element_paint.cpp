@@ -2,6 +2,7 @@
 
 #include "vexel/core/control.h"
 #include "vexel/core/draw_elements.h"
+#include "vexel/core/element_observer.h"
 #include "vexel/core/scroll_on_set_pos.h"
 #include "vexel/core/visual_element.h"
 #include "vexel/platform/convert.h"
@@ -64,6 +65,8 @@ void CVisualElement::OnDraw(IPainter* painter)
 {
     if (m_Pos.IsEmpty() || !m_Visible)
         return;
+    if (IElementObserver* const observer = GetElementObserver())
+        observer->ElementPainted(this, painter);
     if (painter->IsFullPaint())
         Invalidate();
 

@@ -10,9 +10,7 @@
 namespace vexelbase
 {
 
-CBasePainter::CBasePainter(IPaintDevice& device, bool picture) : m_Device(device), m_Picture(picture)
-{
-}
+CBasePainter::CBasePainter(IPaintDevice& device, bool picture) : m_Device(device), m_Picture(picture) {}
 
 CBasePainter::~CBasePainter() = default;
 
@@ -23,10 +21,7 @@ CBasePainter::SScratch& CBasePainter::Scratch()
     return *m_Scratch;
 }
 
-double CBasePainter::GetDPIScale() const
-{
-    return GetSystemScale();
-}
+double CBasePainter::GetDPIScale() const { return GetSystemScale(); }
 
 // Brackets ---------------------------------------------------------------------------------------------------------
 
@@ -123,13 +118,14 @@ void CBasePainter::UpdateMapping()
     m_AxisY = {};
     if (m_Mode == mmDevice)
         return;
-    auto const set = [](SAxis& axis, double logicalOrigin, double logicalExtent, int deviceOrigin, int deviceExtent) {
+    auto const set = [](SAxis& axis, double logicalOrigin, double logicalExtent, int deviceOrigin, int deviceExtent)
+    {
         axis.logicalOrigin = logicalOrigin;
         axis.deviceOrigin = deviceOrigin;
         axis.logicalExtent = logicalExtent;
         axis.deviceExtent = deviceExtent;
-        axis.oneToOne =
-            axis.logicalExtent == axis.deviceExtent || logicalExtent == 0 || deviceExtent == 0 || !std::isfinite(logicalExtent);
+        axis.oneToOne = axis.logicalExtent == axis.deviceExtent || logicalExtent == 0 || deviceExtent == 0 ||
+                        !std::isfinite(logicalExtent);
     };
     set(m_AxisX, m_Info.m_LogicalOrigin.x, m_Info.m_LogicalExtent.width, m_Info.m_DeviceOrigin.x,
         m_Info.m_DeviceExtent.width);
@@ -210,10 +206,7 @@ void CBasePainter::SimpleSetClipRect(rectangle<double> const& rect, bool exclude
         m_Clip.Set(outward);
 }
 
-void CBasePainter::ResetClip()
-{
-    m_Clip.Reset();
-}
+void CBasePainter::ResetClip() { m_Clip.Reset(); }
 
 rectangle<int> CBasePainter::GetVisible() const
 {
@@ -223,4 +216,4 @@ rectangle<int> CBasePainter::GetVisible() const
     return visible;
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

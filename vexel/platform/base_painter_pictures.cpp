@@ -36,7 +36,7 @@ void Limit(rectangle<int>& area, size<int> const& extent)
     area.bottom = std::min(area.bottom, AddSaturated(area.top, extent.height));
 }
 
-} // namespace
+}  // namespace
 
 // The pixels to draw from. In disabled mode, or where a picture is drawn onto itself, a copy is drawn instead, which
 // holds the wanted part alone; `source` is then told in its pixels.
@@ -108,9 +108,8 @@ void CBasePainter::ExtractRasterPicture(IRasterPicture* picture, double left, do
         m_Device.Extract(ToDevice(left, top, right, bottom), picture->GetPixels(), {0, 0});
 }
 
-void CBasePainter::ExtractRasterPictureEx(IRasterPicture* picture, double left, double top, double right,
-                                          double bottom, double targetLeft, double targetTop, double targetRight,
-                                          double targetBottom)
+void CBasePainter::ExtractRasterPictureEx(IRasterPicture* picture, double left, double top, double right, double bottom,
+                                          double targetLeft, double targetTop, double targetRight, double targetBottom)
 {
     if (!picture)
         return;
@@ -143,9 +142,8 @@ void CBasePainter::AlphaBlend(double left, double top, double right, double bott
                           area.bottom - whole.top};
     CPixelBuffer const& drawn = PrepareSource(pixels, source);
     point<int> const origin{area.left - source.left, area.top - source.top};
-    m_Clip.ForEach(area, [&](rectangle<int> const& part) {
-        m_Device.Blend(part, drawn, origin, std::min(alpha, 255));
-    });
+    m_Clip.ForEach(area,
+                   [&](rectangle<int> const& part) { m_Device.Blend(part, drawn, origin, std::min(alpha, 255)); });
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

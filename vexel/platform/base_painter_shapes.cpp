@@ -18,7 +18,8 @@ namespace
 void FillRound(rectangle<int> const& area, detail::CRoundCorner const& corner, rectangle<int> const& visible,
                detail::IAreaSink& sink)
 {
-    auto const fill = [&](int left, int top, int right, int bottom) {
+    auto const fill = [&](int left, int top, int right, int bottom)
+    {
         rectangle<int> part{left, top, right, bottom};
         part.Intersect(visible);
         if (!part.IsEmpty())
@@ -69,7 +70,7 @@ void StrokeRound(rectangle<int> const& area, detail::CRoundCorner const& corner,
         stroke.Run(left + corner.GetInset(row), top + row, 1, 0, corner.GetOutlineLength(row));
 }
 
-} // namespace
+}  // namespace
 
 /// Fills areas in one colour.
 class CBasePainter::CFillSink final : public detail::IAreaSink
@@ -77,8 +78,7 @@ class CBasePainter::CFillSink final : public detail::IAreaSink
 public:
     CFillSink(CBasePainter& painter, std::uint32_t pixel, RasterOperation operation)
         : m_Painter(painter), m_Pixel(pixel), m_Operation(operation)
-    {
-    }
+    {}
 
     void Area(rectangle<int> const& area) override { m_Painter.FillDevice(area, m_Pixel, m_Operation); }
 
@@ -88,38 +88,60 @@ private:
     RasterOperation m_Operation;
 };
 
-/// Gathers areas that may overlap and fills each pixel once when it goes.
+/// Gathers areas that may overlap and fills each pixel once at the end.
 class CBasePainter::CUnionSink final : public detail::IAreaSink
 {
 public:
-    explicit CUnionSink(detail::IAreaSink& sink, std::vector<SScratch::SSpan>& spans) : m_Sink(sink), m_Spans(spans)
+    CUnionSink(detail::IAreaSink& sink, std::vector<SScratch::SSpan>& spans) : m_Sink(sink), m_Spans(spans)
     {
         m_Spans.clear();
     }
 
     void Area(rectangle<int> const& area) override
     {
+        if (area == m_Last)
+            return;
+        m_Last = area;
         for (int y = area.top; y < area.bottom; ++y)
             m_Spans.push_back({y, area.left, area.right});
+        if (m_Spans.size() > m_Limit)
+        {
+            Join();
+            m_Limit = 2 * m_Spans.size() + FirstLimit;
+        }
     }
 
     void Flush()
     {
-        std::sort(m_Spans.begin(), m_Spans.end(), [](SScratch::SSpan const& a, SScratch::SSpan const& b) {
-            return a.y != b.y ? a.y < b.y : a.left < b.left;
-        });
-        for (std::size_t i = 0; i < m_Spans.size();)
-        {
-            SScratch::SSpan joined = m_Spans[i];
-            for (++i; i < m_Spans.size() && m_Spans[i].y == joined.y && m_Spans[i].left <= joined.right; ++i)
-                joined.right = std::max(joined.right, m_Spans[i].right);
-            m_Sink.Area({joined.left, joined.y, joined.right, joined.y + 1});
-        }
+        Join();
+        for (SScratch::SSpan const& span : m_Spans)
+            m_Sink.Area({span.left, span.y, span.right, span.y + 1});
     }
 
 private:
+    // Of a long outline with a wide pen there may be far more spans than pixels, so they are joined on the way too.
+    static constexpr std::size_t FirstLimit = 50000;
+
+    void Join()
+    {
+        std::sort(m_Spans.begin(), m_Spans.end(),
+                  [](SScratch::SSpan const& a, SScratch::SSpan const& b)
+                  { return a.y != b.y ? a.y < b.y : a.left < b.left; });
+        std::size_t count = 0;
+        for (SScratch::SSpan const& span : m_Spans)
+        {
+            if (count > 0 && m_Spans[count - 1].y == span.y && span.left <= m_Spans[count - 1].right)
+                m_Spans[count - 1].right = std::max(m_Spans[count - 1].right, span.right);
+            else
+                m_Spans[count++] = span;
+        }
+        m_Spans.resize(count);
+    }
+
     detail::IAreaSink& m_Sink;
     std::vector<SScratch::SSpan>& m_Spans;
+    std::size_t m_Limit = FirstLimit;
+    rectangle<int> m_Last;
 };
 
 // Draws an outline with the pen. `overlaps`: its steps may meet the same pixel twice even with a pen of width 1.
@@ -141,10 +163,7 @@ template <class Draw> void CBasePainter::DrawOutline(bool overlaps, Draw draw)
     united.Flush();
 }
 
-void CBasePainter::MoveTo(double x, double y)
-{
-    m_Position = {x, y};
-}
+void CBasePainter::MoveTo(double x, double y) { m_Position = {x, y}; }
 
 void CBasePainter::LineTo(double x, double y)
 {
@@ -171,7 +190,8 @@ void CBasePainter::Rectangle(double left, double top, double right, double botto
 void CBasePainter::RoundRect(double left, double top, double right, double bottom, double radiusX, double radiusY)
 {
     rectangle<int> const area = ToDevice(left, top, right, bottom);
-    auto const radius = [](double extent, int start, int end) {
+    auto const radius = [](double extent, int start, int end)
+    {
         std::int64_t const half = (std::int64_t{end} - start) / 2;
         return static_cast<int>(std::min<std::int64_t>(FloorToInt(std::abs(extent)), half));
     };
@@ -234,4 +254,4 @@ _color CBasePainter::GetPixel(double x, double y) const
     return CPixelBuffer::ToColor(m_Device.ReadPixel(position.x, position.y));
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -14,6 +14,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 namespace vexelbase
 {
@@ -26,14 +27,8 @@ constexpr std::size_t KeptLines = 0x1000;  // memory kept from one text to the n
 constexpr char const* Ellipsis = "...";
 
 // Of a rotated text, which the extents of its upright box take on the device.
-bool IsQuarterTurn(int rotation)
-{
-    return rotation % 900 == 0;
-}
-bool IsUpDown(int rotation)
-{
-    return rotation == 900 || rotation == 2700;
-}
+bool IsQuarterTurn(int rotation) { return rotation % 900 == 0; }
+bool IsUpDown(int rotation) { return rotation == 900 || rotation == 2700; }
 
 int NormalizeRotation(int rotation)
 {
@@ -41,10 +36,7 @@ int NormalizeRotation(int rotation)
     return rotation < 0 ? rotation + 3600 : rotation;
 }
 
-double ToRadians(int rotation)
-{
-    return rotation * (3.14159265358979323846 / 1800);
-}
+double ToRadians(int rotation) { return rotation * (3.14159265358979323846 / 1800); }
 
 // The share of the free room that stands before the text.
 double HorizontalShare(int flags)
@@ -76,15 +68,15 @@ CDefTextFormatter& PlainFormatter()
     return formatter;
 }
 
-} // namespace
+}  // namespace
 
-// Where a text stands: extents in the reading direction and across, in device pixels.
+// Where a text stands.
 struct CBasePainter::STextPlace
 {
     rectangle<double> box;  // device, ordered
     int rotation = 0;
-    int maxWidth = -1;      // below 0: no limit
-    int maxLines = INT_MAX;
+    int maxWidth = -1;       // in the reading direction, below 0: no limit
+    int maxLines = INT_MAX;  // that need to be drawn
 };
 
 // Puts back what drawing a text changes.
@@ -93,8 +85,7 @@ class CBasePainter::CTextScope
 public:
     explicit CTextScope(CBasePainter& painter)
         : m_Painter(painter), m_Frame(painter.m_Frame), m_Lines(painter.m_TextLines.size())
-    {
-    }
+    {}
     ~CTextScope()
     {
         m_Painter.m_Frame = m_Frame;
@@ -115,8 +106,17 @@ private:
 
 void CBasePainter::SetFont(font const& value)
 {
+    int const style = std::exchange(m_Font.style, value.style);
     if (value == m_Font)
+    {
+        // All but the style is the same, as it is for mark-up within a text.
+        if (style != value.style)
+        {
+            m_EffectiveFont.style = value.style;
+            m_MetricsStamp = 0;
+        }
         return;
+    }
     m_Font = value;
     m_EffectiveStamp = 0;
 }
@@ -217,10 +217,12 @@ void CBasePainter::DrawRun(int x, int y, char const* text, int length)
     run.x = origin.x;
     run.y = origin.y;
     run.pixel = CPixelBuffer::ToPixel(color);
-    m_Clip.ForEach(area, [&](rectangle<int> const& part) {
-        run.clip = part;
-        m_Device.DrawRun(run);
-    });
+    m_Clip.ForEach(area,
+                   [&](rectangle<int> const& part)
+                   {
+                       run.clip = part;
+                       m_Device.DrawRun(run);
+                   });
 }
 
 rectangle<int> CBasePainter::RunToDevice(rectangle<int> const& rect) const
@@ -283,7 +285,8 @@ size<double> CBasePainter::GetTextSize(std::string const& text, font const* text
         m_EffectiveStamp = 0;
     }
     STextLayout const layout = LayOut(text.data(), length, -1, nullptr, PlainFormatter(), 0);
-    size<double> extent = DeviceTextSize(layout.width, static_cast<double>(layout.lineCount) * layout.lineHeight, rotated);
+    size<double> extent =
+        DeviceTextSize(layout.width, static_cast<double>(layout.lineCount) * layout.lineHeight, rotated);
     if (other)
     {
         std::swap(m_MeasuredFont, m_Font);
@@ -369,8 +372,12 @@ size<double> CBasePainter::LayOutAndDraw(rectangle<double> const& rect, char con
         fontmetrics const& metrics = EffectiveMetrics();
         int const lineHeight = std::max(1, metrics.ascent + metrics.descent + metrics.leading);
         double const room = upDown ? place.box.Width() : place.box.Height();
+        double const share = upDown ? HorizontalShare(flags) : VerticalShare(flags);
+        bool const fromStart = (place.rotation < 1800 ? share : 1 - share) == 0;
         if (flags & AlignFitText)
             place.maxLines = std::max(1, FloorToInt((room + Tolerance) / lineHeight));
+        else if (fromStart && !(flags & AlignSingleLine))
+            place.maxLines = AddSaturated(FloorToInt(room / lineHeight), 2);  // further ones would be cut off
     }
 
     bool const wraps = !(flags & AlignSingleLine) && delimiters;
@@ -378,8 +385,7 @@ size<double> CBasePainter::LayOutAndDraw(rectangle<double> const& rect, char con
                                       formatter, draws ? place.maxLines : 0);
     if (draws)
         DrawLines(layout, place, text, flags, formatter);
-    return ToLogicalSize(
-        DeviceTextSize(layout.width, static_cast<double>(layout.lineCount) * layout.lineHeight, true));
+    return ToLogicalSize(DeviceTextSize(layout.width, static_cast<double>(layout.lineCount) * layout.lineHeight, true));
 }
 
 void CBasePainter::DrawLines(STextLayout const& layout, STextPlace const& place, char const* text, int flags,
@@ -426,6 +432,12 @@ void CBasePainter::DrawLines(STextLayout const& layout, STextPlace const& place,
         m_Frame.pivot.y = FloorToInt(blockPlace.y - std::min({0.0, -up, bottom, bottom - up}) + 0.5);
     }
 
+    // What the lines take across: from `across`, in steps of the line height, forward or backward.
+    bool const forward = rotation < 1800;
+    int const across = upDown ? blockPlace.x : blockPlace.y;
+    int const acrossFrom = m_Frame.cut ? (upDown ? m_Frame.limit.left : m_Frame.limit.top) : INT_MIN;
+    int const acrossTo = m_Frame.cut ? (upDown ? m_Frame.limit.right : m_Frame.limit.bottom) : INT_MAX;
+
     bool const fits = (flags & AlignFitText) && place.maxWidth >= 0;
     int ellipsisWidth = -1;
     formatter.BeforeFormatting(this);
@@ -433,6 +445,22 @@ void CBasePainter::DrawLines(STextLayout const& layout, STextPlace const& place,
     {
         STextLine const line = m_TextLines[layout.first + static_cast<std::size_t>(i)];
         char const* const lineText = text + line.start;
+        int const before = SaturateToInt(std::int64_t{i} * layout.lineHeight);
+        int const behind = SaturateToInt(std::int64_t{layout.keptCount - i} * layout.lineHeight);
+        if (quarter && m_Frame.cut)
+        {
+            // A line that is cut off goes by; some glyphs reach a little over their line.
+            int const start = AddSaturated(across, forward ? before : behind - layout.lineHeight);
+            bool const tooLow = AddSaturated(start, 2 * layout.lineHeight) <= acrossFrom;
+            bool const tooHigh = SubtractSaturated(start, layout.lineHeight) >= acrossTo;
+            if (forward ? tooHigh : tooLow)
+                break;
+            if (tooLow || tooHigh)
+            {
+                formatter.SkipText(lineText, line.length);
+                continue;
+            }
+        }
         int shownLength = line.length;
         int shownWidth = line.width;
         bool const shortened =
@@ -453,8 +481,6 @@ void CBasePainter::DrawLines(STextLayout const& layout, STextPlace const& place,
         if (quarter)
         {
             int const alongPlace = FloorToInt((upDown ? box.top : box.left) + alongShare * (along - wholeWidth));
-            int const before = SaturateToInt(std::int64_t{i} * layout.lineHeight);
-            int const behind = SaturateToInt(std::int64_t{layout.keptCount - i} * layout.lineHeight);
             switch (rotation)
             {
             case 0:
@@ -541,4 +567,4 @@ void CBasePainter::DrawXPM(XPMImage const& image, double x, double y, int source
     }
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -6,9 +6,7 @@
 namespace vexelbase
 {
 
-CBasePicture::CBasePicture(size<int> const& extent) : m_Pixels(extent)
-{
-}
+CBasePicture::CBasePicture(size<int> const& extent) : m_Pixels(extent) {}
 
 CBasePicture::~CBasePicture() = default;
 
@@ -37,4 +35,4 @@ vexel_ptr<IRasterPicture> CBasePicture::Scale(size<int> const& target) const
     return scaled;
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

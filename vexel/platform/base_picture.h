@@ -40,4 +40,4 @@ private:
     std::unique_ptr<CBasePainter> m_Painter;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

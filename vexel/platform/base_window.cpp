@@ -10,6 +10,9 @@ namespace vexelbase
 
 CBaseWindow::~CBaseWindow()
 {
+    // Still there if the window is deleted by its own OnDestroy.
+    if (m_Target)
+        m_Target->SetSysWindow(nullptr);
     CloseQueue();
 }
 
@@ -19,17 +22,11 @@ void CBaseWindow::SetDevice(std::unique_ptr<CRasterDevice> device)
     m_Painter = CreatePainter(*m_Device);
 }
 
-void CBaseWindow::ReportException()
-{
-    vexelbase::ReportException("an event handler");
-}
+void CBaseWindow::ReportException() { vexelbase::ReportException("an event handler"); }
 
 // Area and frames --------------------------------------------------------------------------------------------------
 
-rectangle<int> CBaseWindow::GetRect() const
-{
-    return m_Pixels.GetRect();
-}
+rectangle<int> CBaseWindow::GetRect() const { return m_Pixels.GetRect(); }
 
 void CBaseWindow::SetEventTarget(CVexelControl* target)
 {
@@ -248,18 +245,8 @@ void CBaseWindow::StartDestroying()
 
     CWindowEvent event;
     Deliver(&CVexelControl::OnDestroy, &event);
-    if (life.expired() || !m_Target)
-        return;
-    try
-    {
-        m_Target->SetSysWindow(nullptr);
-    }
-    catch (...)
-    {
-        ReportException();
-    }
-    if (!life.expired())
-        m_Target = nullptr;
+    if (!life.expired() && m_Target)
+        std::exchange(m_Target, nullptr)->SetSysWindow(nullptr);
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

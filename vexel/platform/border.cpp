@@ -35,8 +35,8 @@ public:
     void SetColor(ISysPalette::SysColor number)
     {
         brush value;
-        value.color = m_Painter->m_Palette ? m_Painter->m_Palette->GetColor(number)
-                                           : GetDefaultPalette()->GetColor(number);
+        value.color =
+            m_Painter->m_Palette ? m_Painter->m_Palette->GetColor(number) : GetDefaultPalette()->GetColor(number);
         m_Painter->SetBrush(value);
     }
 
@@ -117,7 +117,7 @@ void SetLineColor(CEdgePainter& edge, BorderStyle style, bool leftOrTop)
         edge.SetColor(ISysPalette::scDarkShadow);
 }
 
-} // namespace
+}  // namespace
 
 void DrawBorder(IPainter* painter, rectangle<double> const& rect, BorderShape shape, BorderStyle style, bool fill)
 {
@@ -159,4 +159,4 @@ void DrawBorder(IPainter* painter, rectangle<double> const& rect, BorderShape sh
     }
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -10,17 +10,22 @@ class IPainter;
 
 enum BorderShape : int
 {
-    bsBox = 0,       ///< Edge of two lines.
-    bsThinBox = 1,   ///< Edge of one line.
+    bsBox = 0,      ///< Edge of two lines.
+    bsThinBox = 1,  ///< Edge of one line.
     bsTopLine = 2,
     bsBottomLine = 3,
     bsLeftLine = 4,
     bsRightLine = 5,
     bsNothing = 6,
-    bsFrame = 7      ///< One line around, never filled.
+    bsFrame = 7  ///< One line around, never filled.
 };
 
-enum BorderStyle : int { bsFlat = 0, bsRaised = 1, bsSunken = 2 };
+enum BorderStyle : int
+{
+    bsFlat = 0,
+    bsRaised = 1,
+    bsSunken = 2
+};
 
 /// Draws an edge on the inclusive logical rectangle, with the painter's palette or else the default one.
 /// Lines are one pixel wide at any mapping. Raised: left and top in number 4, right and bottom in 7, and where the edge
@@ -31,4 +36,4 @@ enum BorderStyle : int { bsFlat = 0, bsRaised = 1, bsSunken = 2 };
 VEXEL_API void DrawBorder(IPainter* painter, rectangle<double> const& rect, BorderShape shape, BorderStyle style,
                           bool fill);
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -11,7 +11,7 @@ namespace
 // Says "nothing" without being all zero, which says "no clip".
 constexpr rectangle<int> Nothing{-1, -1, -1, -1};
 
-} // namespace
+}  // namespace
 
 void CClipRegion::Set(rectangle<int> const& area)
 {
@@ -100,4 +100,4 @@ void CClipRegion::DropEmpty()
     }
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -61,4 +61,4 @@ private:
     std::vector<rectangle<int>> m_More;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -48,18 +48,18 @@ void Count(int& nesting, bool closing)
         --nesting;
 }
 
-} // namespace
+}  // namespace
 
 int CHTMLTextFormatter::SState::GetStyle() const
 {
-    return (bold > 0 ? font::fsBold : 0) | (italic > 0 ? font::fsItalic : 0) |
-           (underline > 0 ? font::fsUnderline : 0);
+    return (bold > 0 ? font::fsBold : 0) | (italic > 0 ? font::fsItalic : 0) | (underline > 0 ? font::fsUnderline : 0);
 }
 
 // Around a text -------------------------------------------------------------------------------------------------------
 
 void CHTMLTextFormatter::BeforeFormatting(IPainter* painter)
 {
+    CDefTextFormatter::BeforeFormatting(painter);
     m_State = SState();
     m_BaseFont = painter->GetFont();
     m_StyledFont = m_BaseFont;
@@ -80,10 +80,7 @@ void CHTMLTextFormatter::AfterFormatting(IPainter* painter)
         std::string().swap(m_Target);
 }
 
-void CHTMLTextFormatter::Clear()
-{
-    m_State = SState();
-}
+void CHTMLTextFormatter::Clear() { m_State = SState(); }
 
 // Lines ---------------------------------------------------------------------------------------------------------------
 
@@ -97,17 +94,19 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
     bool const wraps = maxWidth >= 0 && delimiters && *delimiters;
     char const* const wordEnds = wraps ? delimiters : nullptr;
 
+    SWord const pending = TakePendingWord();
     m_End = end;
     SState state = m_State;
-    SBreak line;             // where the line ends in the end
-    SBreak last;             // behind the last delimiter
-    SBreak earlier;          // behind the one before
+    SBreak line;     // where the line ends in the end
+    SBreak last;     // behind the last delimiter
+    SBreak earlier;  // behind the one before
     char const* cursor = begin;
-    bool anything = false;   // a line break or a word, so there is a line
+    bool anything = false;  // a line break or a word, so there is a line
     int words = 0;
-    int total = 0;           // with the blanks behind the last word
-    int shownWidth = 0;      // without them
-    int blankStyle = -1;     // whose blank was measured
+    int total = 0;       // with the blanks behind the last word
+    int shownWidth = 0;  // without them
+    char const* shownEnd = begin;
+    int blankStyle = -1;  // whose blank was measured
     int blankWidth = 0;
     bool wrapped = false;
     while (!line.lineEnd && cursor < end)
@@ -119,7 +118,7 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
             break;
         }
         bool lineBreak = false;
-        if (IsSpecial(cursor))
+        if (cursor != pending.text && IsSpecial(cursor))
         {
             int const tagLength = ReadTag(cursor, end, state, lineBreak);
             if (lineBreak)
@@ -132,29 +131,39 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
         }
 
         int const style = state.GetStyle();
-        ApplyStyle(painter, style);
-        int wordLength = 0;
-        int wordWidth = 0;
-        GetNextWord(painter, cursor, wordLength, wordWidth, static_cast<int>(end - cursor), wordEnds);
-        wordLength = std::clamp(wordLength, 1, static_cast<int>(end - cursor));
+        SWord word = pending;
+        if (word.text != cursor)
+        {
+            word.text = cursor;
+            ApplyStyle(painter, style);
+            GetNextWord(painter, cursor, word.length, word.width, static_cast<int>(end - cursor), wordEnds);
+            word.length = std::clamp(word.length, 1, static_cast<int>(end - cursor));
+        }
         anything = true;
-        ++words;
-        int const blanks = wraps ? detail::CountTrailingBlanks(cursor, wordLength) : 0;
+        int const blanks = wraps ? detail::CountTrailingBlanks(cursor, word.length) : 0;
         if (blanks > 0 && blankStyle != style)
         {
+            ApplyStyle(painter, style);
             blankStyle = style;
             blankWidth = painter->MeasureRun(" ", 1);
         }
-        int const trimmed = std::max(0, wordWidth - SaturateToInt(std::int64_t{blanks} * blankWidth));
-        if (wraps && last.lineEnd && AddSaturated(total, trimmed) > maxWidth)
+        int const trimmed = std::max(0, word.width - SaturateToInt(std::int64_t{blanks} * blankWidth));
+        bool const onlyBlanks = blanks == word.length;
+        if (wraps && !onlyBlanks && last.lineEnd && AddSaturated(total, trimmed) > maxWidth)
         {
             line = last;
             wrapped = true;
+            SetPendingWord(word);
             break;
         }
-        shownWidth = AddSaturated(total, trimmed);
-        total = AddSaturated(total, wordWidth);
-        cursor += wordLength;
+        cursor += word.length;
+        if (!onlyBlanks)
+        {
+            shownWidth = AddSaturated(total, trimmed);
+            shownEnd = cursor - blanks;
+        }
+        total = AddSaturated(total, word.width);
+        ++words;
         if (wraps && detail::IsDelimiter(cursor[-1], delimiters))
         {
             earlier = last;
@@ -166,7 +175,8 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
 
     if (anything)
     {
-        if (!wrapped && wraps && total > maxWidth && shownWidth <= maxWidth)
+        bool const hangs = !wrapped && wraps && total > maxWidth;  // of the blanks at the end at least one does
+        if (hangs)
             line.width = shownWidth;
         bool const carriageReturn = !wrapped && line.lineEnd > begin && line.next > line.lineEnd &&
                                     *line.lineEnd == '\n' && line.lineEnd[-1] == '\r';
@@ -175,7 +185,7 @@ bool CHTMLTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& 
         // What is drawn in one run may be as wide as its words together, or a little more or less.
         if (carriageReturn || (wraps && words > 1))
         {
-            int const runWidth = MeasureLine(painter, begin, line.lineEnd, m_State);
+            int const runWidth = MeasureLine(painter, begin, hangs ? shownEnd : line.lineEnd, m_State);
             bool const sticksOut = wraps && runWidth > maxWidth && line.width <= maxWidth;
             SBreak const& shorter = wrapped ? earlier : last;
             if (sticksOut && shorter.lineEnd && shorter.lineEnd > begin && shorter.next < line.next)
@@ -253,8 +263,7 @@ void CHTMLTextFormatter::SkipText(char const* text, int length)
     m_End = end;
     while (text < end)
     {
-        auto const* const tag =
-            static_cast<char const*>(std::memchr(text, '<', static_cast<std::size_t>(end - text)));
+        auto const* const tag = static_cast<char const*>(std::memchr(text, '<', static_cast<std::size_t>(end - text)));
         if (!tag)
             break;
         bool lineBreak = false;
@@ -303,8 +312,7 @@ void CHTMLTextFormatter::DrawLinkPart(IPainter* painter, int x, int y)
     }
 
     int const height = m_BaseMetrics.ascent + m_BaseMetrics.descent + m_BaseMetrics.leading;
-    rectangle<int> rect =
-        painter->RunToDevice({x, y, AddSaturated(x, width), AddSaturated(y, height)});
+    rectangle<int> rect = painter->RunToDevice({x, y, AddSaturated(x, width), AddSaturated(y, height)});
     rect.right = SubtractSaturated(rect.right, 1);
     rect.bottom = SubtractSaturated(rect.bottom, 1);
     if (m_State.told)
@@ -376,7 +384,7 @@ int CHTMLTextFormatter::ReadRun(char const* text, char const* end, char const* d
     char const* p = text;
     while (p < end && *p != '\n' && m_Run.size() < limit)
     {
-        if (*p == '<' && IsSpecial(p))
+        if (*p == '<' && p != text && IsSpecial(p))
             break;
         if (*p == '&')
         {
@@ -436,14 +444,9 @@ int CHTMLTextFormatter::GetBaselineShift(IPainter* painter) const
 
 // Links ---------------------------------------------------------------------------------------------------------------
 
-void CHTMLTextFormatter::OnDrawLink(char const*, int, rectangle<int> const&)
-{
-}
+void CHTMLTextFormatter::OnDrawLink(char const*, int, rectangle<int> const&) {}
 
-bool CHTMLTextFormatter::OwnerDrawLink(IPainter*, int, int, char const*, int)
-{
-    return false;
-}
+bool CHTMLTextFormatter::OwnerDrawLink(IPainter*, int, int, char const*, int) { return false; }
 
 std::string RemoveLinks(std::string const& text)
 {
@@ -472,4 +475,4 @@ std::string RemoveLinks(std::string const& text)
     return result;
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -39,4 +39,4 @@ void PositionPopup(vexel_ptr<IPopup> popup, screen_rectangle<int> const& owner)
     popup->Show(place);
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

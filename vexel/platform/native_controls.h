@@ -23,7 +23,7 @@ public:
 
     virtual void SetPos(int left, int top, int width, int height) = 0;
     virtual rectangle<int> GetRect() const = 0;  ///< Right and bottom excluded.
-    virtual void SetVisible(bool visible) = 0;   ///< During a paint it takes effect after it; IsVisible answers at once.
+    virtual void SetVisible(bool visible) = 0;  ///< During a paint it takes effect after it; IsVisible answers at once.
     virtual bool IsVisible() const = 0;
     virtual void SetFocus() = 0;
     virtual void SetEnabled(bool enabled) = 0;
@@ -109,4 +109,4 @@ public:
 /// into the area, its left end first. Null, or a popup whose owner is gone, does nothing.
 VEXEL_API void PositionPopup(vexel_ptr<IPopup> popup, screen_rectangle<int> const& owner);
 
-} // namespace vexelbase
+}  // namespace vexelbase

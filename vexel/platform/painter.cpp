@@ -19,7 +19,7 @@ void ConvertCorners(IPainter const& painter, Conversion conversion, rectangle<do
     value = {corners[0].x, corners[0].y, corners[1].x, corners[1].y};
 }
 
-} // namespace
+}  // namespace
 
 IPainter::~IPainter() = default;
 IPaintDevice::~IPaintDevice() = default;
@@ -40,4 +40,4 @@ size<double> IPainter::DrawString(rectangle<double> const& rect, std::string con
     return DrawString(rect, text.c_str(), flags, count < 0 || count > length ? length : count);
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -140,14 +140,20 @@ public:
     virtual void SetDrawMode(RasterOperation mode) = 0;
     virtual RasterOperation GetDrawMode() const = 0;
 
-    // Shapes: inclusive edges; brush inside, pen outline -----------------------------------------------------------
+    // Shapes: inclusive edges; brush inside, pen outline over it. One outline draws each of its pixels once, so that
+    // inverting it twice restores what was there -------------------------------------------------------------------
     virtual void MoveTo(double x, double y) = 0;
-    virtual void LineTo(double x, double y) = 0;  ///< Pen line from the last position; both ends are drawn.
+    /// Pen line from the last position. Both ends are drawn, and the same pixels whichever end it starts from: of two
+    /// pixels that are equally near, the lower or the right one.
+    virtual void LineTo(double x, double y) = 0;
     virtual void Rectangle(double left, double top, double right, double bottom) = 0;
     virtual void FillRect(double left, double top, double right, double bottom) = 0;  ///< Brush only; no pen.
+    /// Corners are quarters of an ellipse; radii are cut to half of the extents. Without a radius it is a Rectangle.
     virtual void RoundRect(double left, double top, double right, double bottom, double radiusX, double radiusY) = 0;
+    /// Closed. Inside is what the even-odd rule says, and the edges themselves.
     virtual void Polygon(point<double> const* points, int count) = 0;
-    virtual void FocusRect(double left, double top, double right, double bottom) = 0;  ///< Dotted, inverts: twice is never.
+    /// Inverts every second pixel of the outline, beginning with the left-top: twice is never. Without pen and brush.
+    virtual void FocusRect(double left, double top, double right, double bottom) = 0;
     virtual void SetPixel(double x, double y, _color color) = 0;
     virtual _color GetPixel(double x, double y) const = 0;  ///< Value 0x??BBGGRR; white outside the surface.
 
@@ -179,25 +185,29 @@ public:
     /// The device box of a frame rectangle; the same unless the font is rotated.
     virtual rectangle<int> RunToDevice(rectangle<int> const& rect) const = 0;
 
-    // Parts and pictures ------------------------------------------------------------------------------------------
+    // Parts and pictures. A picture may be drawn onto itself. In disabled mode pictures are drawn in shades of grey,
+    // (77 red + 150 green + 29 blue) / 256, where black and white stay; the picture itself keeps its colours ---------
     /// Covers its whole rectangle.
     virtual void DrawControlElement(ControlElement element, double left, double top, double right, double bottom,
                                     int state) = 0;
     /// One to one from the left-top; the inclusive rectangle only limits.
     virtual void DrawRasterPicture(IRasterPicture* picture, double left, double top, double right, double bottom,
                                    RasterOperation operation) = 0;
-    /// Both rectangles inclusive, destination first; stretched by the ratio of their pixel counts.
+    /// Both rectangles inclusive, destination first; stretched by the ratio of their pixel counts, never mirrored.
+    /// Each pixel takes the one under its centre. What lies beyond the picture draws nothing.
     virtual void DrawRasterPictureEx(IRasterPicture* picture, double left, double top, double right, double bottom,
                                      double sourceLeft, double sourceTop, double sourceRight, double sourceBottom,
                                      RasterOperation operation) = 0;
-    /// Surface to picture, one to one, to the picture's left-top.
+    /// Surface to picture, one to one, to the picture's left-top, whatever the clip. What would come from outside the
+    /// surface leaves the picture's pixels.
     virtual void ExtractRasterPicture(IRasterPicture* picture, double left, double top, double right,
                                       double bottom) = 0;
     /// Surface rectangle first, then the picture's.
     virtual void ExtractRasterPictureEx(IRasterPicture* picture, double left, double top, double right, double bottom,
                                         double targetLeft, double targetTop, double targetRight,
                                         double targetBottom) = 0;
-    /// One to one; every channel becomes (picture * alpha + surface * (255 - alpha)) / 255.
+    /// One to one; every channel becomes (picture * alpha + surface * (255 - alpha)) / 255, rounded down. `alpha` is
+    /// brought into 0 to 255.
     virtual void AlphaBlend(double left, double top, double right, double bottom, IRasterPicture* picture,
                             int alpha) = 0;
     /// `sourceWidth`, `sourceHeight`: -1 for all. Drawn at the device scale.

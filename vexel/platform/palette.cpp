@@ -92,7 +92,7 @@ private:
     _color m_Base{0, true};
 };
 
-} // namespace
+}  // namespace
 
 ISysPalette::~ISysPalette() = default;
 ICustomPalette::~ICustomPalette() = default;
@@ -109,9 +109,6 @@ ICustomPalette* GetDefaultPalette()
     return &palette;
 }
 
-vexel_ptr<ICustomPaletteEx> CreateCustomPalette()
-{
-    return vexel_ptr<ICustomPaletteEx>(new CCustomPalette);
-}
+vexel_ptr<ICustomPaletteEx> CreateCustomPalette() { return vexel_ptr<ICustomPaletteEx>(new CCustomPalette); }
 
-} // namespace vexelbase
+}  // namespace vexelbase

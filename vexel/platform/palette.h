@@ -15,18 +15,18 @@ public:
     {
         scWindow = 1,
         scWindowText = 2,
-        scFace = 3,           ///< Default background.
+        scFace = 3,  ///< Default background.
         scLight = 4,
         scHalfLight = 5,
-        scShadow = 6,         ///< Also text of what is disabled.
+        scShadow = 6,  ///< Also text of what is disabled.
         scDarkShadow = 7,
-        scControlText = 8,    ///< Default foreground.
+        scControlText = 8,  ///< Default foreground.
         scHighlight = 9,
         scHighlightText = 10,
         scTooltip = 11,
         scTooltipText = 12,
         scLink = 13,
-        scLiteral = 14        ///< No colour: marks an element's literal colour.
+        scLiteral = 14  ///< No colour: marks an element's literal colour.
     };
 
     virtual ~ISysPalette();
@@ -61,4 +61,4 @@ VEXEL_API ICustomPalette* GetDefaultPalette();
 /// A new palette that shows the system's colours until colours are set.
 VEXEL_API vexel_ptr<ICustomPaletteEx> CreateCustomPalette();
 
-} // namespace vexelbase
+}  // namespace vexelbase

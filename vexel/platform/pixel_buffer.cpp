@@ -8,17 +8,14 @@ namespace vexelbase
 namespace
 {
 
-size<int> WithoutNegative(size<int> const& extent)
-{
-    return {std::max(extent.width, 0), std::max(extent.height, 0)};
-}
+size<int> WithoutNegative(size<int> const& extent) { return {std::max(extent.width, 0), std::max(extent.height, 0)}; }
 
 std::size_t CountPixels(size<int> const& extent)
 {
     return static_cast<std::size_t>(extent.width) * static_cast<std::size_t>(extent.height);
 }
 
-} // namespace
+}  // namespace
 
 void CPixelBuffer::Resize(size<int> const& extent, std::uint32_t pixel)
 {
@@ -44,4 +41,4 @@ void CPixelBuffer::Renew(size<int> const& extent)
     m_Size = wanted;
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

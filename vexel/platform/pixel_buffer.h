@@ -22,7 +22,10 @@ public:
     int GetWidth() const { return m_Size.width; }
     int GetHeight() const { return m_Size.height; }
     rectangle<int> GetRect() const { return {0, 0, m_Size.width, m_Size.height}; }  ///< Half-open.
-    std::uint32_t* Row(int y) { return m_Pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_Size.width); }
+    std::uint32_t* Row(int y)
+    {
+        return m_Pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_Size.width);
+    }
     std::uint32_t const* Row(int y) const
     {
         return m_Pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_Size.width);
@@ -56,4 +59,4 @@ private:
     std::vector<std::uint32_t> m_Pixels;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -34,21 +34,32 @@ rectangle<int> Shifted(rectangle<int> const& rect, int dx, int dy)
             AddSaturated(rect.bottom, dy)};
 }
 
-} // namespace
+}  // namespace
 
 // CDamage ----------------------------------------------------------------------------------------------------------
 
 void CDamage::Add(rectangle<int> const& area)
 {
-    if (area.IsEmpty() || (m_Last < m_Count && Covers(At(m_Last), area)))
-        return;
-
     // So many pixels in excess are cheaper than one more rectangle.
     constexpr std::int64_t smallWaste = 64;
 
+    if (area.IsEmpty())
+        return;
+    // What is painted next most often lies in or beside what was painted last.
+    if (m_Last < m_Count)
+    {
+        rectangle<int>& last = At(m_Last);
+        if (Covers(last, area))
+            return;
+        rectangle<int> const joined = Join(last, area);
+        if (CountPixels(joined) - CountPixels(last) - CountPixels(area) <= smallWaste)
+        {
+            last = joined;
+            return;
+        }
+    }
+
     rectangle<int> added = area;
-    int best = -1;
-    std::int64_t bestWaste = 0;
     for (int i = 0; i < m_Count;)
     {
         rectangle<int> const& rect = At(i);
@@ -63,26 +74,17 @@ void CDamage::Add(rectangle<int> const& area)
         {
             added = joined;
             Remove(i);
-            best = -1;
             i = 0;
             continue;
         }
-        if (best < 0 || waste < bestWaste)
-        {
-            best = i;
-            bestWaste = waste;
-        }
         ++i;
     }
-    if (m_Count == Capacity)
+    if (m_Count == m_Limit)
     {
-        added = Join(At(best), added);
-        Remove(best);
-        for (int i = m_Count - 1; i >= 0; --i)
-        {
-            if (Covers(added, At(i)))
-                Remove(i);
-        }
+        for (int i = 0; i < m_Count; ++i)
+            added = Join(added, At(i));
+        m_Count = 0;
+        m_Limit = std::max(1, m_Limit / 2);
     }
     m_Last = m_Count;
     At(m_Count++) = added;
@@ -123,9 +125,8 @@ void CRasterDevice::Blit(rectangle<int> const& target, rectangle<int> const& cli
         return;
     rectangle<int> area = target;
     area.Intersect(clip);
-    bool const oneToOne =
-        std::int64_t{target.right} - target.left == std::int64_t{source.right} - source.left &&
-        std::int64_t{target.bottom} - target.top == std::int64_t{source.bottom} - source.top;
+    bool const oneToOne = std::int64_t{target.right} - target.left == std::int64_t{source.right} - source.left &&
+                          std::int64_t{target.bottom} - target.top == std::int64_t{source.bottom} - source.top;
     if (!oneToOne)
     {
         if (Touch(area))
@@ -190,4 +191,4 @@ bool CRasterDevice::Move(rectangle<int> const& area, int dx, int dy)
     return to == wanted;
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

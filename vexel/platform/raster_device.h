@@ -9,15 +9,19 @@
 namespace vexelbase
 {
 
-/// A few rectangles that together cover what was touched. Adding never loses a pixel; where there are too many, those
-/// that waste least are joined. They may overlap.
+/// Rectangles that together cover what was touched. Adding never loses a pixel. Where there are too many they become one,
+/// and from then on, until the next Clear, only half as many are kept apart: so a paint of everything costs little.
 class VEXEL_API CDamage
 {
 public:
-    static constexpr int Capacity = 16;
+    static constexpr int Capacity = 128;
 
     void Add(rectangle<int> const& area);  ///< Half-open; an empty one is ignored.
-    void Clear() { m_Count = 0; }
+    void Clear()
+    {
+        m_Count = 0;
+        m_Limit = Capacity;
+    }
     int GetCount() const { return m_Count; }
     rectangle<int> const& operator[](int index) const { return m_Rects[static_cast<std::size_t>(index)]; }
 
@@ -26,6 +30,7 @@ private:
     rectangle<int>& At(int index) { return m_Rects[static_cast<std::size_t>(index)]; }
 
     int m_Count = 0;
+    int m_Limit = Capacity;
     int m_Last = 0;  // the one that took up the last area
     std::array<rectangle<int>, Capacity> m_Rects;
 };
@@ -63,4 +68,4 @@ private:
     CDamage m_Damage;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

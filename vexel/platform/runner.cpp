@@ -46,8 +46,7 @@ void CThreadRunner::SShared::Loop(IRunnable* runnable)
     try
     {
         while (Wait() && runnable->Run())
-        {
-        }
+        {}
     }
     catch (std::exception const& error)
     {
@@ -62,9 +61,7 @@ void CThreadRunner::SShared::Loop(IRunnable* runnable)
     thread = std::thread::id();
 }
 
-CThreadRunner::CThreadRunner() : m_Shared(std::make_shared<SShared>())
-{
-}
+CThreadRunner::CThreadRunner() : m_Shared(std::make_shared<SShared>()) {}
 
 CThreadRunner::~CThreadRunner()
 {
@@ -117,4 +114,4 @@ void CThreadRunner::SetWait(int milliseconds)
     m_Shared->wait = milliseconds > 0 ? milliseconds : 0;
 }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -42,4 +42,4 @@ private:
     std::mutex m_Mutex;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -37,21 +37,15 @@ font ReadDefaultFont(ISystem* system)
     return result;
 }
 
-} // namespace
+}  // namespace
 
 IPointer::~IPointer() = default;
 IClipboard::~IClipboard() = default;
 ISystem::~ISystem() = default;
 
-rectangle<int> ISystem::GetWorkArea(point<int> const&)
-{
-    return {};
-}
+rectangle<int> ISystem::GetWorkArea(point<int> const&) { return {}; }
 
-ISystem* GetCurrentSystem()
-{
-    return Current().system;
-}
+ISystem* GetCurrentSystem() { return Current().system; }
 
 ISystem* SetCurrentSystem(ISystem* system)
 {
@@ -84,24 +78,15 @@ void RefreshDefaultGUIFont()
     ++s_FontStamp;
 }
 
-bool GetDPIAutoScale()
-{
-    return Current().autoScale;
-}
+bool GetDPIAutoScale() { return Current().autoScale; }
 
-void SetDPIAutoScale(bool on)
-{
-    Current().autoScale = on;
-}
+void SetDPIAutoScale(bool on) { Current().autoScale = on; }
 
 namespace detail
 {
 
-unsigned GetDefaultFontStamp()
-{
-    return s_FontStamp;
-}
+unsigned GetDefaultFontStamp() { return s_FontStamp; }
 
-} // namespace detail
+}  // namespace detail
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -45,7 +45,11 @@ public:
 class VEXEL_API ISystem
 {
 public:
-    enum Metric : int { smScrollBarWidth = 0, smScrollBarHeight = 1 };
+    enum Metric : int
+    {
+        smScrollBarWidth = 0,
+        smScrollBarHeight = 1
+    };
 
     virtual ~ISystem();
 
@@ -84,4 +88,4 @@ VEXEL_API void RefreshDefaultGUIFont();
 VEXEL_API bool GetDPIAutoScale();
 VEXEL_API void SetDPIAutoScale(bool on);
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -24,7 +24,7 @@ int FitRun(IPainter* painter, char const* text, int length, int maxWidth, int& w
     int goodWidth = 0;
     int bad = length + 1;  // as if one byte more than all were too wide
     // Prefixes grow twofold until one is too wide; then the end is looked for between the last two.
-    for (int tried = 8; good < length; tried = tried > length / 2 ? length : tried * 2)
+    for (int tried = 8; good<length; tried = tried> length / 2 ? length : tried * 2)
     {
         int const end = Utf8Boundary(text, length, std::min(tried, length));
         int const endWidth = painter->MeasureRun(text, end);
@@ -67,7 +67,7 @@ int FitRun(IPainter* painter, char const* text, int length, int maxWidth, int& w
     return good;
 }
 
-} // namespace detail
+}  // namespace detail
 
 namespace
 {
@@ -81,23 +81,17 @@ int GuessCapacity(IPainter* painter, int maxWidth)
     return SaturateToInt(std::int64_t{maxWidth} * 4 / height);
 }
 
-} // namespace
+}  // namespace
 
 // ITextFormatter ------------------------------------------------------------------------------------------------------
 
 IPainter::ITextFormatter::~ITextFormatter() = default;
 
-void IPainter::ITextFormatter::BeforeFormatting(IPainter*)
-{
-}
+void IPainter::ITextFormatter::BeforeFormatting(IPainter*) {}
 
-void IPainter::ITextFormatter::AfterFormatting(IPainter*)
-{
-}
+void IPainter::ITextFormatter::AfterFormatting(IPainter*) {}
 
-void IPainter::ITextFormatter::Clear()
-{
-}
+void IPainter::ITextFormatter::Clear() {}
 
 int IPainter::ITextFormatter::FitTextLine(IPainter* painter, char const*, int length, int, int& width)
 {
@@ -106,11 +100,11 @@ int IPainter::ITextFormatter::FitTextLine(IPainter* painter, char const*, int le
     return length;
 }
 
-void IPainter::ITextFormatter::SkipText(char const*, int)
-{
-}
+void IPainter::ITextFormatter::SkipText(char const*, int) {}
 
 // Plain text ----------------------------------------------------------------------------------------------------------
+
+void CDefTextFormatter::BeforeFormatting(IPainter*) { m_Pending = SWord(); }
 
 bool CDefTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& length, int& width, int maxWidth,
                                     char const* delimiters)
@@ -120,11 +114,11 @@ bool CDefTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& l
     char const* const begin = text;
     int const count = length;
     bool const wraps = maxWidth >= 0 && delimiters && *delimiters;
+    SWord const pending = TakePendingWord();
 
     // All that is left of the paragraph, if that needs but one measuring.
     int const looked = wraps ? std::min(count, AddSaturated(GuessCapacity(painter, maxWidth), 1)) : count;
-    auto const* const lineFeed =
-        static_cast<char const*>(std::memchr(begin, '\n', static_cast<std::size_t>(looked)));
+    auto const* const lineFeed = static_cast<char const*>(std::memchr(begin, '\n', static_cast<std::size_t>(looked)));
     int const whole = lineFeed ? static_cast<int>(lineFeed - begin) : count;
     if (!wraps || lineFeed || looked == count)
     {
@@ -140,7 +134,7 @@ bool CDefTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& l
     }
 
     // Word by word. `total` ends with the blanks behind the last word, `shownWidth` before them.
-    int const blankWidth = painter->MeasureRun(" ", 1);
+    int blankWidth = -1;
     int cursor = 0;
     int words = 0;
     int total = 0;
@@ -152,24 +146,34 @@ bool CDefTextFormatter::GetTextLine(IPainter* painter, char const*& text, int& l
     bool wrapped = false;
     while (cursor < count && begin[cursor] != '\n')
     {
-        int wordLength = 0;
-        int wordWidth = 0;
-        GetNextWord(painter, begin + cursor, wordLength, wordWidth, count - cursor, delimiters);
-        wordLength = std::clamp(wordLength, 1, count - cursor);
-        int const blanks = detail::CountTrailingBlanks(begin + cursor, wordLength);
-        int const trimmed = std::max(0, wordWidth - SaturateToInt(std::int64_t{blanks} * blankWidth));
-        if (words > 0 && AddSaturated(total, trimmed) > maxWidth)
+        SWord word = pending;
+        if (word.text != begin + cursor)
+        {
+            word.text = begin + cursor;
+            GetNextWord(painter, word.text, word.length, word.width, count - cursor, delimiters);
+            word.length = std::clamp(word.length, 1, count - cursor);
+        }
+        int const blanks = detail::CountTrailingBlanks(word.text, word.length);
+        if (blanks > 0 && blankWidth < 0)
+            blankWidth = painter->MeasureRun(" ", 1);
+        int const trimmed = std::max(0, word.width - SaturateToInt(std::int64_t{blanks} * blankWidth));
+        bool const onlyBlanks = blanks == word.length;
+        if (words > 0 && !onlyBlanks && AddSaturated(total, trimmed) > maxWidth)
         {
             wrapped = true;
+            SetPendingWord(word);
             break;
         }
-        earlierCursor = cursor;
-        earlierShown = shown;
-        earlierWidth = shownWidth;
-        shownWidth = AddSaturated(total, trimmed);
-        total = AddSaturated(total, wordWidth);
-        cursor += wordLength;
-        shown = cursor - blanks;
+        if (!onlyBlanks)
+        {
+            earlierCursor = cursor;
+            earlierShown = shown;
+            earlierWidth = shownWidth;
+            shownWidth = AddSaturated(total, trimmed);
+            shown = cursor + word.length - blanks;
+        }
+        total = AddSaturated(total, word.width);
+        cursor += word.length;
         ++words;
     }
     if (!wrapped)
@@ -234,9 +238,6 @@ void CDefTextFormatter::GetNextWord(IPainter* painter, char const* text, int& le
     width = painter->MeasureRun(text, end);
 }
 
-bool CDefTextFormatter::IsSpecial(char const*) const
-{
-    return false;
-}
+bool CDefTextFormatter::IsSpecial(char const*) const { return false; }
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 
 namespace vexelbase
 {
@@ -17,6 +18,7 @@ inline constexpr char const* MarkupDelimiters = " <.\\/\n";
 class VEXEL_API CDefTextFormatter : public IPainter::ITextFormatter
 {
 public:
+    void BeforeFormatting(IPainter* painter) override;
     bool GetTextLine(IPainter* painter, char const*& text, int& length, int& width, int maxWidth,
                      char const* delimiters) override;
     void DrawTextLine(IPainter* painter, int x, int y, char const* text, int length) override;
@@ -30,6 +32,20 @@ protected:
                              char const* delimiters);
     /// True where the text is mark-up, which has no width and is no word.
     virtual bool IsSpecial(char const* text) const;
+
+    // The word that had no room in the line before: it begins the next one.
+    struct SWord
+    {
+        char const* text = nullptr;
+        int length = 0;
+        int width = 0;
+    };
+    /// Gives the pending word and forgets it.
+    SWord TakePendingWord() { return std::exchange(m_Pending, SWord()); }
+    void SetPendingWord(SWord const& word) { m_Pending = word; }
+
+private:
+    SWord m_Pending;
 };
 
 /// Text with mark-up: <b>, <i>, <u>, <br>, <a href="target">, and the entities &lt; &gt; &amp; &quot; &apos; &nbsp; and
@@ -87,8 +103,8 @@ private:
 
     /// Applies the tag at `text`, if there is one, to the state; returns its length. Sets `lineBreak` for <br>.
     static int ReadTag(char const* text, char const* end, SState& state, bool& lineBreak);
-    /// Resolves the text up to the next word end, tag or line feed into m_Run, at most `limit` characters of it. Returns
-    /// its length in the source.
+    /// Resolves the text, which begins with no tag, up to the next word end, tag or line feed into m_Run, at most `limit`
+    /// characters of it. Returns its length in the source.
     int ReadRun(char const* text, char const* end, char const* delimiters, std::size_t limit);
     int MeasureRun(IPainter* painter);
     int MeasureLine(IPainter* painter, char const* text, char const* end, SState state);
@@ -111,4 +127,4 @@ private:
 /// The text without link mark-up; all other mark-up stays.
 VEXEL_API std::string RemoveLinks(std::string const& text);
 
-} // namespace vexelbase
+}  // namespace vexelbase

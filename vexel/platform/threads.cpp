@@ -6,4 +6,4 @@ namespace vexelbase
 IRunnable::~IRunnable() = default;
 ISynchronizer::~ISynchronizer() = default;
 
-} // namespace vexelbase
+}  // namespace vexelbase

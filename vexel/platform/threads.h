@@ -50,4 +50,4 @@ public:
     virtual void Unlock() = 0;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -19,7 +19,7 @@ public:
     IPainter* m_Painter;
 };
 
-} // namespace
+}  // namespace
 
 template <> void INotify::Handle<&IDrawingNotify::OnDraw>(CEvent* event)
 {
@@ -43,31 +43,30 @@ CVexelControl::CVexelControl(ISysWindow* window, bool owns) : m_OwnsWindow(owns)
     CVexelControl::SetSysWindow(window);
 }
 
-CVexelControl::~CVexelControl()
-{
-    CVexelControl::SetSysWindow(nullptr);
-}
+CVexelControl::~CVexelControl() { CVexelControl::SetSysWindow(nullptr); }
 
 // Window --------------------------------------------------------------------------------------------------------------
 
 void CVexelControl::SetSysWindow(ISysWindow* window)
 {
-    if (window == m_Window && (window || !m_OwnedWindow))
+    if (window == m_Window)
         return;
-    if (m_Window && m_Window->GetEventTarget() == this)
-        m_Window->SetEventTarget(nullptr);
-    ISysWindow* const former = m_OwnedWindow;
+    ISysWindow* const former = m_Window;
+    if (former && former->GetEventTarget() == this)
+        former->SetEventTarget(nullptr);
     m_Window = window;
-    m_OwnedWindow = m_OwnsWindow ? window : nullptr;
     if (window)
         window->SetEventTarget(this);
-    delete former;
+    if (!m_OwnsWindow)
+        return;
+    // A window that is being destroyed natively may be what calls this.
+    if (former && !former->IsDestroying())
+        std::erase_if(m_OwnedWindows, [former](auto const& owned) { return owned.get() == former; });
+    if (window)
+        m_OwnedWindows.emplace_back(window);
 }
 
-void* CVexelControl::GetHandle() const
-{
-    return m_Window;
-}
+void* CVexelControl::GetHandle() const { return m_Window; }
 
 void CVexelControl::Refresh()
 {
@@ -103,120 +102,54 @@ void CVexelControl::OnDraw(IPainter* painter)
     FireEvent(typeid(IDrawingNotify), &INotify::Handle<&IDrawingNotify::OnDraw>, &event, false);
 }
 
-void CVexelControl::OnButtonDown(CMouseEvent* event)
-{
-    Fire<&IMouseNotify::OnButtonDown>(*this, event, true);
-}
+void CVexelControl::OnButtonDown(CMouseEvent* event) { Fire<&IMouseNotify::OnButtonDown>(*this, event, true); }
 
-void CVexelControl::OnButtonUp(CMouseEvent* event)
-{
-    Fire<&IMouseNotify::OnButtonUp>(*this, event, true);
-}
+void CVexelControl::OnButtonUp(CMouseEvent* event) { Fire<&IMouseNotify::OnButtonUp>(*this, event, true); }
 
-void CVexelControl::OnMouseMove(CMouseEvent* event)
-{
-    Fire<&IMouseNotify::OnMouseMove>(*this, event, true);
-}
+void CVexelControl::OnMouseMove(CMouseEvent* event) { Fire<&IMouseNotify::OnMouseMove>(*this, event, true); }
 
-void CVexelControl::OnWheel(CMouseWheelEvent* event)
-{
-    Fire<&IMouseNotify::OnWheel>(*this, event, true);
-}
+void CVexelControl::OnWheel(CMouseWheelEvent* event) { Fire<&IMouseNotify::OnWheel>(*this, event, true); }
 
-void CVexelControl::OnClick(CMouseEvent* event)
-{
-    Fire<&IMouseClickNotify::OnClick>(*this, event, true);
-}
+void CVexelControl::OnClick(CMouseEvent* event) { Fire<&IMouseClickNotify::OnClick>(*this, event, true); }
 
-void CVexelControl::OnDoubleClick(CMouseEvent* event)
-{
-    Fire<&IMouseClickNotify::OnDoubleClick>(*this, event, true);
-}
+void CVexelControl::OnDoubleClick(CMouseEvent* event) { Fire<&IMouseClickNotify::OnDoubleClick>(*this, event, true); }
 
-void CVexelControl::OnHover(CMouseEvent* event)
-{
-    Fire<&IMouseHoverNotify::OnHover>(*this, event, true);
-}
+void CVexelControl::OnHover(CMouseEvent* event) { Fire<&IMouseHoverNotify::OnHover>(*this, event, true); }
 
-void CVexelControl::OnLeave(CMouseEvent* event)
-{
-    Fire<&IMouseHoverNotify::OnLeave>(*this, event, true);
-}
+void CVexelControl::OnLeave(CMouseEvent* event) { Fire<&IMouseHoverNotify::OnLeave>(*this, event, true); }
 
-void CVexelControl::OnKeyDown(CKeyboardEvent* event)
-{
-    Fire<&IKeyboardNotify::OnKeyDown>(*this, event, true);
-}
+void CVexelControl::OnKeyDown(CKeyboardEvent* event) { Fire<&IKeyboardNotify::OnKeyDown>(*this, event, true); }
 
-void CVexelControl::OnKeyUp(CKeyboardEvent* event)
-{
-    Fire<&IKeyboardNotify::OnKeyUp>(*this, event, true);
-}
+void CVexelControl::OnKeyUp(CKeyboardEvent* event) { Fire<&IKeyboardNotify::OnKeyUp>(*this, event, true); }
 
-void CVexelControl::OnChar(CKeyboardEvent* event)
-{
-    Fire<&IKeyboardNotify::OnChar>(*this, event, true);
-}
+void CVexelControl::OnChar(CKeyboardEvent* event) { Fire<&IKeyboardNotify::OnChar>(*this, event, true); }
 
-void CVexelControl::OnResize(CWindowEvent* event)
-{
-    Fire<&IWindowNotify::OnResize>(*this, event, true);
-}
+void CVexelControl::OnResize(CWindowEvent* event) { Fire<&IWindowNotify::OnResize>(*this, event, true); }
 
-void CVexelControl::OnMove(CWindowEvent* event)
-{
-    Fire<&IWindowNotify::OnMove>(*this, event, true);
-}
+void CVexelControl::OnMove(CWindowEvent* event) { Fire<&IWindowNotify::OnMove>(*this, event, true); }
 
-void CVexelControl::OnDestroy(CWindowEvent* event)
-{
-    Fire<&IWindowNotify::OnDestroy>(*this, event, true);
-}
+void CVexelControl::OnDestroy(CWindowEvent* event) { Fire<&IWindowNotify::OnDestroy>(*this, event, true); }
 
-void CVexelControl::OnShow(CWindowEvent* event)
-{
-    Fire<&IWindowNotify::OnShow>(*this, event, true);
-}
+void CVexelControl::OnShow(CWindowEvent* event) { Fire<&IWindowNotify::OnShow>(*this, event, true); }
 
-void CVexelControl::OnHide(CWindowEvent* event)
-{
-    Fire<&IWindowNotify::OnHide>(*this, event, true);
-}
+void CVexelControl::OnHide(CWindowEvent* event) { Fire<&IWindowNotify::OnHide>(*this, event, true); }
 
-void CVexelControl::OnGetFocus(CFocusEvent* event)
-{
-    Fire<&IFocusNotify::OnGetFocus>(*this, event, true);
-}
+void CVexelControl::OnGetFocus(CFocusEvent* event) { Fire<&IFocusNotify::OnGetFocus>(*this, event, true); }
 
-void CVexelControl::OnLostFocus(CFocusEvent* event)
-{
-    Fire<&IFocusNotify::OnLostFocus>(*this, event, true);
-}
+void CVexelControl::OnLostFocus(CFocusEvent* event) { Fire<&IFocusNotify::OnLostFocus>(*this, event, true); }
 
 void CVexelControl::OnContextMenu(CContextMenuEvent* event)
 {
     Fire<&IContextMenuNotify::OnContextMenu>(*this, event, true);
 }
 
-void CVexelControl::OnTooltip(CTooltipEvent* event)
-{
-    Fire<&ITooltipNotify::OnTooltip>(*this, event, true);
-}
+void CVexelControl::OnTooltip(CTooltipEvent* event) { Fire<&ITooltipNotify::OnTooltip>(*this, event, true); }
 
-void CVexelControl::OnTooltipTrack(CTooltipEvent* event)
-{
-    Fire<&ITooltipNotify::OnTooltipTrack>(*this, event, true);
-}
+void CVexelControl::OnTooltipTrack(CTooltipEvent* event) { Fire<&ITooltipNotify::OnTooltipTrack>(*this, event, true); }
 
-void CVexelControl::OnHorzScroll(CScrollEvent* event)
-{
-    Fire<&IScrollNotify::OnHorzScroll>(*this, event, true);
-}
+void CVexelControl::OnHorzScroll(CScrollEvent* event) { Fire<&IScrollNotify::OnHorzScroll>(*this, event, true); }
 
-void CVexelControl::OnVertScroll(CScrollEvent* event)
-{
-    Fire<&IScrollNotify::OnVertScroll>(*this, event, true);
-}
+void CVexelControl::OnVertScroll(CScrollEvent* event) { Fire<&IScrollNotify::OnVertScroll>(*this, event, true); }
 
 void CVexelControl::OnCustomEvent(CCustomEvent* event)
 {
@@ -224,9 +157,6 @@ void CVexelControl::OnCustomEvent(CCustomEvent* event)
     Fire<&ICustomEventNotify::OnCustomEvent>(*this, event, true);
 }
 
-void CVexelControl::OnSysColorChanged(CEvent* event)
-{
-    Fire<&ISystemNotify::OnSysColorChanged>(*this, event, true);
-}
+void CVexelControl::OnSysColorChanged(CEvent* event) { Fire<&ISystemNotify::OnSysColorChanged>(*this, event, true); }
 
-} // namespace vexelbase
+}  // namespace vexelbase

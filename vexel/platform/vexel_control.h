@@ -5,6 +5,9 @@
 #include "vexel/signals/event_sender.h"
 #include "vexel/signals/notify.h"
 
+#include <memory>
+#include <vector>
+
 namespace vexelbase
 {
 
@@ -28,22 +31,22 @@ class VEXEL_API CVexelControl : public IDrawingNotify,
                                 public CImplEventSender<IEventSender>
 {
 public:
-    /// `window`: may be null until SetSysWindow. `owns`: the control deletes each window that it was given, when it
-    /// takes another one or goes.
+    /// `window`: may be null until SetSysWindow. `owns`: the control deletes each window that it was given: when it takes
+    /// another one, or when it goes if the window is being destroyed natively by then.
     CVexelControl(ISysWindow* window, bool owns);
     ~CVexelControl() override;
     CVexelControl(CVexelControl const&) = delete;
     CVexelControl& operator=(CVexelControl const&) = delete;
 
     ISysWindow* GetWindow() const { return m_Window; }  ///< Null once the window is destroyed.
-    virtual void SetSysWindow(ISysWindow* window);      ///< Leaves the present window and takes this one's events.
-    /// The window is gone natively. Called by it once OnDestroy has returned; an owned one is deleted later all the same.
-    void ForgetWindow() { m_Window = nullptr; }
-    virtual void* GetHandle() const;                    ///< The window, as an opaque value.
+    /// Leaves the present window and takes this one's events. With null it is also how a window that is being destroyed
+    /// natively takes leave, after OnDestroy.
+    virtual void SetSysWindow(ISysWindow* window);
+    virtual void* GetHandle() const;  ///< The window, as an opaque value.
     virtual bool CanBeFocused() const { return true; }
-    virtual void Refresh();                             ///< Paints the whole window now.
-    virtual void Invalidate();                          ///< Asks for a paint of the whole window.
-    virtual void InternalBeginUpdate();                 ///< Locks drawing, counted.
+    virtual void Refresh();              ///< Paints the whole window now.
+    virtual void Invalidate();           ///< Asks for a paint of the whole window.
+    virtual void InternalBeginUpdate();  ///< Locks drawing, counted.
     virtual void InternalEndUpdate();
 
     IImageList* GetImageList() const { return m_ImageList; }
@@ -82,9 +85,9 @@ public:
 
 private:
     ISysWindow* m_Window = nullptr;
-    ISysWindow* m_OwnedWindow = nullptr;  // still to be deleted, also after it was forgotten
     bool const m_OwnsWindow;
+    std::vector<std::unique_ptr<ISysWindow>> m_OwnedWindows;  // the present one, and former ones that couldn't go yet
     IImageList* m_ImageList = nullptr;
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

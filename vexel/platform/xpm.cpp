@@ -23,10 +23,7 @@ constexpr int MaxColors = 65536;
 constexpr int MaxCharacters = 8;  // a pixel; packed into one word
 constexpr std::int64_t MaxPixels = std::int64_t{1} << 26;
 
-bool IsSpace(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
+bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
 // Cuts the next word off the text; empty at its end.
 std::string_view NextWord(std::string_view& text)
@@ -132,7 +129,7 @@ std::optional<_color> ReadColor(std::string_view text)
     return best.empty() ? std::nullopt : detail::ParseXpmColor(best);
 }
 
-} // namespace
+}  // namespace
 
 // XPMBuf --------------------------------------------------------------------------------------------------------------
 
@@ -154,10 +151,7 @@ XPMBuf::XPMBuf(char const** lines, bool shared)
     m_Lines = std::make_shared<std::vector<std::string> const>(lines, lines + count);
 }
 
-int XPMBuf::GetLineCount() const
-{
-    return m_Lines ? static_cast<int>(m_Lines->size()) : m_SharedCount;
-}
+int XPMBuf::GetLineCount() const { return m_Lines ? static_cast<int>(m_Lines->size()) : m_SharedCount; }
 
 char const* XPMBuf::GetLine(int index) const
 {
@@ -168,9 +162,7 @@ char const* XPMBuf::GetLine(int index) const
 
 // XPMImage ------------------------------------------------------------------------------------------------------------
 
-XPMImage::XPMImage(XPMBuf const& buffer) : m_Buffer(buffer)
-{
-}
+XPMImage::XPMImage(XPMBuf const& buffer) : m_Buffer(buffer) {}
 
 void XPMImage::Init() const
 {
@@ -265,6 +257,6 @@ _color GetDisabledLook(_color const& color, _color const& face)
     return _color::FromRgb((grey + face.Red()) / 2, (grey + face.Green()) / 2, (grey + face.Blue()) / 2);
 }
 
-} // namespace detail
+}  // namespace detail
 
-} // namespace vexelbase
+}  // namespace vexelbase

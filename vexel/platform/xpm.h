@@ -42,7 +42,7 @@ public:
 
     /// Parses the text now; otherwise the first use does it.
     void Init() const;
-    int GetWidth() const;   ///< Unscaled pixels; 0 if the text is malformed.
+    int GetWidth() const;  ///< Unscaled pixels; 0 if the text is malformed.
     int GetHeight() const;
     /// The same picture in the shades of something disabled: each pixel's grey level, half-way to the palette's face
     /// (null: the default palette). Transparent pixels stay so. A disabled picture has no further disabled look.
@@ -62,4 +62,4 @@ private:
     mutable std::shared_ptr<std::vector<_color> const> m_Pixels;  // row by row
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

@@ -20,7 +20,8 @@ public:
     /// Starts counting: what lives now doesn't count. Puts the memory system back to its start state.
     static void Begin();
     /// One line for each kind that was left, such as "2 elements left: CButton, CCaption". Then puts everything back
-    /// that would disturb the next test: stops timers, drops the capture and what is posted, restores the system.
+    /// that would disturb the next test: stops timers, drops the capture and what is posted, makes the system that was
+    /// the current one at the start the current one again.
     static std::vector<std::string> End();
     /// The same lines for now, without putting anything back.
     static std::vector<std::string> Look();
@@ -34,7 +35,8 @@ public:
     explicit CWarmUp(void (*function)());
 };
 
-/// Installs the kit: the memory system, if there is none, and the observer of elements and assertions. Runs the warm-ups.
+/// Installs the kit: hears of elements, assertions and exceptions from now on, and runs the warm-ups. A memory system is
+/// made the current one by the first CTestHost of a test, until the test ends; before, there is none.
 /// "vexel/testing/google_test.h" does it by itself. Once is enough, further calls do nothing.
 VEXEL_TESTING_API void InstallKit();
 

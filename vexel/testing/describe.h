@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
 #include "vexel/export.h"
 #include "vexel/platform/geometry.h"
 #include "vexel/platform/memory/describe.h"
@@ -10,11 +11,6 @@
 #include <string_view>
 #include <type_traits>
 #include <vector>
-
-namespace vexelbase
-{
-class IPainter;
-}
 
 namespace vexel::test
 {

@@ -15,7 +15,7 @@ class CTestHost;
 ///
 ///     move 10 20 | press 1 | release 1 | lose 1 | double 1 | wheel -1 | hover | leave
 ///     down 65 0 | up 65 0 | char 228 | hold 256 | focus | unfocus | tab 1 | resize 100 40 | advance 200
-///     paint | fullpaint | pending | background | tooltip | menu | colors
+///     paint | fullpaint | pending | background | step | tooltip | menu | colors
 class VEXEL_TESTING_API CEventScript
 {
 public:

@@ -35,9 +35,6 @@ inline ::testing::AssertionResult PixelsAreEqual(char const* expectedText, char 
 namespace detail
 {
 
-/// Called by the generators to know whose numbers they are.
-VEXEL_TESTING_API void SetTestName(std::string const& name);
-
 class CKitListener : public ::testing::EmptyTestEventListener
 {
 public:
@@ -48,7 +45,7 @@ public:
     }
     void OnTestStart(::testing::TestInfo const& info) override
     {
-        SetTestName(std::string(info.test_suite_name()) + "." + info.name());
+        SetRunningTest(std::string(info.test_suite_name()) + "." + info.name());
         CCensus::Begin();
     }
     void OnTestEnd(::testing::TestInfo const& info) override
@@ -57,7 +54,7 @@ public:
             ADD_FAILURE() << line;
         if (info.result()->Failed())
             std::cout << "To repeat: VEXEL_SEED=" << GetSeed() << "\n";
-        SetTestName("");
+        SetRunningTest("");
     }
 };
 

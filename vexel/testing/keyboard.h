@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
 #include "vexel/export.h"
 #include "vexel/platform/events.h"
 
@@ -28,6 +29,7 @@ public:
     /// UTF-8 text: one Press for each letter, digit and space, with shift for upper case; OnChar alone for every other
     /// byte.
     void Type(std::string const& text);
+    void Character(char byte);  ///< OnChar alone.
     void Tab(bool forward = true);  ///< Press(vkTab), with shift for backward.
 
     void Hold(int keys);  ///< These of shift, control and alt are held from now on, for mouse events too; 0: none.

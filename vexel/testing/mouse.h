@@ -1,13 +1,9 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
 #include "vexel/export.h"
 #include "vexel/platform/events.h"
 #include "vexel/platform/geometry.h"
-
-namespace vexel
-{
-class CVisualElement;
-}
 
 namespace vexel::test
 {
@@ -46,6 +42,7 @@ public:
     void DoubleClick(vexelbase::MouseButton button = vexelbase::mbLeft);
     void DoubleClick(int x, int y, vexelbase::MouseButton button = vexelbase::mbLeft);
     void DoubleClick(CVisualElement const& element, int x, int y, vexelbase::MouseButton button = vexelbase::mbLeft);
+    void PressAgain(vexelbase::MouseButton button = vexelbase::mbLeft);  ///< The second press of a double click alone.
     bool IsHeld(vexelbase::MouseButton button) const;
     /// The button comes up without any event, as if another program had taken it.
     void LoseRelease(vexelbase::MouseButton button = vexelbase::mbLeft);

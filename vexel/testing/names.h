@@ -1,14 +1,10 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
 #include "vexel/export.h"
 
 #include <string>
 #include <typeinfo>
-
-namespace vexel
-{
-class CVisualElement;
-}
 
 namespace vexel::test
 {

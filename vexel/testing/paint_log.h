@@ -66,6 +66,8 @@ private:
         bool picture = false;
         int depth = 0;  // 1 inside a formatter
     };
+    std::string ListElements(bool picture) const;
+
     std::vector<SEntry> m_Entries;
     int m_Frames = 0;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
 #include "vexel/export.h"
 #include "vexel/platform/color.h"
 #include "vexel/platform/geometry.h"

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <iterator>
+#include <string>
 #include <utility>
 
 namespace vexel::test
@@ -12,6 +13,9 @@ namespace vexel::test
 /// The seed of this run: the environment's VEXEL_SEED if that is a number, else a random one. Every test that fails
 /// prints it.
 VEXEL_TESTING_API std::uint64_t GetSeed();
+
+/// Says which test runs, for the generators that are made from now on; empty: none. "vexel/testing/google_test.h" does it.
+VEXEL_TESTING_API void SetRunningTest(std::string const& name);
 
 /// Random numbers for one test. The same seed gives the same numbers to the same test on every machine, whichever tests
 /// run beside it; the second generator of a test gives other numbers than the first.

@@ -76,7 +76,7 @@ private:
         void Called(A... arguments)
         {
             std::vector<std::string> texts;
-            bool first = true;
+            [[maybe_unused]] bool first = true;
             (
                 [&](auto const& argument) {
                     if (!first || !this->IsEmitter(argument))

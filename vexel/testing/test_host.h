@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
 #include "vexel/export.h"
 #include "vexel/platform/geometry.h"
 #include "vexel/platform/memory/memory_window.h"
@@ -16,14 +17,9 @@
 #include <memory>
 #include <string>
 
-namespace vexel
-{
-class CBaseControl;
-class CVisualElement;
-}
-
 namespace vexelbase::memory
 {
+class CMemoryPopup;
 class CMemorySystem;
 }
 
@@ -60,6 +56,7 @@ public:
     bool HasControl() const { return m_Control != nullptr; }
     vexelbase::memory::CMemoryWindow& Window() const { return *m_Window; }
     bool HasWindow() const { return m_Window != nullptr; }
+    /// The memory system, which it makes the current one if there is none. Needs no host.
     static vexelbase::memory::CMemorySystem& System();
     CTestClock& Clock() { return m_Clock; }
     CMouse& Mouse() { return m_Mouse; }
@@ -68,12 +65,32 @@ public:
     /// A name for an element in all logs; see NameElement.
     void Name(CVisualElement const& element, std::string const& name) { NameElement(element, name); }
 
+    /// The native control of this class that stands in the window and was made `index`-th, or null:
+    /// host.Native<CMemoryEdit>().
+    template <class Control> Control* Native(int index = 0) const
+    {
+        for (vexelbase::memory::CMemoryNode* node : m_Window->GetChildNodes())
+        {
+            auto* const control = dynamic_cast<Control*>(node);
+            if (control && index-- == 0)
+                return control;
+        }
+        return nullptr;
+    }
+    /// The popup of the window that was made `index`-th, or null.
+    vexelbase::memory::CMemoryPopup* Popup(int index = 0) const;
+
     // Frames -------------------------------------------------------------------------------------------------------
     /// Runs the frames that are pending, until none is, at most eight. Empty if none was.
     PaintLog Paint();
+    /// The same for another window, such as a popup's.
+    PaintLog Paint(vexelbase::memory::CMemoryWindow& window);
     /// Paints everything, as after the surface was lost.
     PaintLog FullPaint();
     bool IsFramePending() const;
+    /// Paints what is pending, then everything, and says how the two pictures differ; empty if they don't. What is
+    /// painted bit by bit must look as if painted at once.
+    std::string CompareWithFullPaint(CLegend const& legend = CLegend());
 
     // Queue and background -----------------------------------------------------------------------------------------
     /// Runs what was posted to any window, and what that posts, until nothing is left. Returns how many ran.
@@ -123,6 +140,7 @@ private:
 
     vexelbase::point<int> ToControl(CVisualElement const& element, int x, int y) const;
     void Start(int width, int height, double scale);
+    vexelbase::memory::CMemoryNode* KeyTarget() const { return m_Window.get(); }
 
     std::unique_ptr<vexelbase::memory::CMemoryWindow> m_Window;
     std::unique_ptr<CBaseControl> m_Control;

@@ -7,9 +7,10 @@
 //     using namespace vexel;
 //     using namespace vexel::test;
 
+#include "vexel/platform/memory/memory_system.h"
 #include "vexel/testing/census.h"
 #include "vexel/testing/describe.h"
-#include "vexel/testing/expect_assertion.h"
+#include "vexel/testing/expect_report.h"
 #include "vexel/testing/google_test.h"
 #include "vexel/testing/paint_log.h"
 #include "vexel/testing/pixels.h"

@@ -1,7 +1,7 @@
 // A tree of elements on the in-memory backend, with no window system in sight.
-#include "vexel/core/base.h"
 #include "vexel/core/visual_element.h"
 #include "vexel/platform/painter.h"
+#include "vexel/signals/cancel_processing.h"
 #include "vexel/testing/test_host.h"
 
 #include <iostream>

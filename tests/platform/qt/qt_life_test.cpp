@@ -1,6 +1,8 @@
 #include "tests/platform/qt/qt_test_kit.h"
 #include "vexel/platform/qt/application.h"
 
+#include "vexel/testing/expect_report.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -219,9 +221,10 @@ TEST(QtLife, AHandlerThatThrowsHarmsNobody)
         if (word.starts_with("down"))
             throw std::runtime_error("a test's");
     };
-    testing::internal::CaptureStderr();
-    EXPECT_TRUE(hosted.Send(PressAt(1, 2)));
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("a test's"), std::string::npos);
+    {
+        vexel::test::CExpectException const report("a test's");
+        EXPECT_TRUE(hosted.Send(PressAt(1, 2)));
+    }
     hosted.Control().m_Before = nullptr;
     hosted.Send(PressAt(3, 4));
     EXPECT_EQ(hosted.Control().Take(), "down(1,2,0x1,1) down(3,4,0x1,1)");
@@ -231,10 +234,11 @@ TEST(QtLife, APaintThatThrowsHarmsNobody)
 {
     CHosted hosted;
     hosted.Control().m_Draw = [](IPainter*) { throw std::runtime_error("while painting"); };
-    testing::internal::CaptureStderr();
-    hosted.Window().UpdateNow();
-    Settle();
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("while painting"), std::string::npos);
+    {
+        vexel::test::CExpectException const report("while painting", 2);  // of this paint and the one that it asked for
+        hosted.Window().UpdateNow();
+        Settle();
+    }
     hosted.Control().m_Draw = [](IPainter* painter) { EXPECT_TRUE(painter->IsFullPaint()); };
     hosted.Window().UpdateNow();
     EXPECT_FALSE(hosted.Window().GetPainter()->m_Painting);

@@ -94,9 +94,10 @@ public:
     }
     void OnKeyDown(CKeyboardEvent* event) override
     {
+        auto const keyDown = m_KeyDown;  // the recorder may be gone afterwards
         Key("keydown", *event);
-        if (m_KeyDown)
-            m_KeyDown(event);
+        if (keyDown)
+            keyDown(event);
     }
     void OnKeyUp(CKeyboardEvent* event) override { Key("keyup", *event); }
     void OnChar(CKeyboardEvent* event) override

@@ -28,6 +28,28 @@ struct CVisualElement::SFont
     mutable bool m_Known = false;
 };
 
+/// Stands while an element changes its tree or dies. If a slot deletes the control meanwhile, the element and what is below
+/// it forget the control.
+class CVisualElement::CTransit
+{
+public:
+    /// `alive`: a guard on the element; null in its destructor, which stands itself.
+    CTransit(CVisualElement* top, CAliveGuard const* alive) : m_Top(top), m_Alive(alive), m_Outer(s_Transit)
+    {
+        s_Transit = this;
+    }
+    ~CTransit() { s_Transit = m_Outer; }
+    CTransit(CTransit const&) = delete;
+    CTransit& operator=(CTransit const&) = delete;
+
+private:
+    friend class CVisualElement;
+
+    CVisualElement* const m_Top;
+    CAliveGuard const* const m_Alive;
+    CTransit* const m_Outer;
+};
+
 namespace detail
 {
 

@@ -23,7 +23,7 @@ struct CBasePainter::SScratch
     std::vector<point<double>> points;  // of a polygon, on the device
     std::vector<SSpan> spans;           // of an outline whose pieces overlap
     detail::CPolygonFill fill;
-    CPixelBuffer pixels;                // a part of a picture, made grey or apart from the surface
+    CPixelBuffer pixels;  // a part of a picture, made grey or apart from the surface
 };
 
-} // namespace vexelbase
+}  // namespace vexelbase

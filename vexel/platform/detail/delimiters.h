@@ -22,4 +22,4 @@ inline int CountTrailingBlanks(char const* text, int length)
     return count;
 }
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

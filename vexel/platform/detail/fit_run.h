@@ -12,6 +12,6 @@ namespace detail
 /// width. Measures some dozens of prefixes at most, none much longer than what fits.
 int FitRun(IPainter* painter, char const* text, int length, int maxWidth, int& width);
 
-} // namespace detail
+}  // namespace detail
 
-} // namespace vexelbase
+}  // namespace vexelbase

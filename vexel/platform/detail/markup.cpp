@@ -12,22 +12,10 @@ namespace vexelbase::detail
 namespace
 {
 
-constexpr bool IsLetter(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-constexpr bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-constexpr bool IsSpace(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
-constexpr char Lower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
+constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+constexpr char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 bool EqualAnyCase(char const* text, int length, std::string_view name)
 {
@@ -131,7 +119,7 @@ bool IsWritable(std::int64_t code)
     return code >= 32 && code <= 0x10FFFF && !(code >= 0xD800 && code <= 0xDFFF) && !(code >= 0x7F && code < 0xA0);
 }
 
-} // namespace
+}  // namespace
 
 STag ReadTag(char const* text, char const* end)
 {
@@ -205,4 +193,4 @@ SEntity ReadEntity(char const* text, char const* end)
     return entity;
 }
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

@@ -6,12 +6,22 @@ namespace vexelbase::detail
 /// A tag of marked-up text.
 struct STag
 {
-    enum Kind { tkNone, tkUnknown, tkBold, tkItalic, tkUnderline, tkBreak, tkLink };
+    enum Kind
+    {
+        tkNone,
+        tkUnknown,
+        tkBold,
+        tkItalic,
+        tkUnderline,
+        tkBreak,
+        tkLink
+    };
 
     Kind kind = tkNone;
     bool closing = false;
-    int length = 0;                ///< In the source, brackets included; 0: there is no tag.
-    char const* target = nullptr;  ///< Of a link: the text of href in the source, entities unresolved; null without one.
+    int length = 0;  ///< In the source, brackets included; 0: there is no tag.
+    char const* target =
+        nullptr;  ///< Of a link: the text of href in the source, entities unresolved; null without one.
     int targetLength = 0;
 };
 
@@ -33,4 +43,4 @@ struct SEntity
 /// characters and anything else are none.
 SEntity ReadEntity(char const* text, char const* end);
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

@@ -17,10 +17,7 @@ constexpr double LineLimit = 536870912.0;
 // What a coordinate may be before a line is cut to the limit; beyond it slopes would lose all meaning.
 constexpr double CoordinateLimit = 1e15;
 
-double Tame(double value)
-{
-    return value != value ? 0.0 : std::clamp(value, -CoordinateLimit, CoordinateLimit);
-}
+double Tame(double value) { return value != value ? 0.0 : std::clamp(value, -CoordinateLimit, CoordinateLimit); }
 
 std::int64_t FloorDivide(std::int64_t a, std::int64_t b)
 {
@@ -30,8 +27,8 @@ std::int64_t FloorDivide(std::int64_t a, std::int64_t b)
 
 std::int64_t CountSteps(point<double> const& from, point<double> const& to)
 {
-    return static_cast<std::int64_t>(std::max(std::abs(std::floor(to.x) - std::floor(from.x)),
-                                              std::abs(std::floor(to.y) - std::floor(from.y))));
+    return static_cast<std::int64_t>(
+        std::max(std::abs(std::floor(to.x) - std::floor(from.x)), std::abs(std::floor(to.y) - std::floor(from.y))));
 }
 
 // Narrows the part [enter, leave] of a line, 0 to 1, to where start + t * distance lies within the limits.
@@ -49,10 +46,7 @@ void CutToLimits(double start, double distance, double& enter, double& leave)
     leave = std::min(leave, std::max(a, b));
 }
 
-bool IsNear(point<double> const& value)
-{
-    return std::abs(value.x) <= LineLimit && std::abs(value.y) <= LineLimit;
-}
+bool IsNear(point<double> const& value) { return std::abs(value.x) <= LineLimit && std::abs(value.y) <= LineLimit; }
 
 // The first k in [low, high) for which the test holds, or high; it must hold for all k behind one for which it does.
 template <class Test> std::int64_t FindFirst(std::int64_t low, std::int64_t high, Test test)
@@ -68,24 +62,20 @@ template <class Test> std::int64_t FindFirst(std::int64_t low, std::int64_t high
     return low;
 }
 
-} // namespace
+}  // namespace
 
 SPenPattern const& GetPenPattern(int style)
 {
     static constexpr SPenPattern solid;
-    static constexpr SPenPattern patterned[] = {{2, {6, 3}, 9},
-                                                {2, {2, 2}, 4},
-                                                {4, {6, 2, 2, 2}, 12},
-                                                {6, {6, 2, 2, 2, 2, 2}, 16},
-                                                {2, {1, 1}, 2}};
+    static constexpr SPenPattern patterned[] = {
+        {2, {6, 3}, 9}, {2, {2, 2}, 4}, {4, {6, 2, 2, 2}, 12}, {6, {6, 2, 2, 2, 2, 2}, 16}, {2, {1, 1}, 2}};
     return style < pen::psDash || style > pen::psAlternate ? solid : patterned[style - pen::psDash];
 }
 
 CPenStroke::CPenStroke(int style, int width, rectangle<int> const& visible, IAreaSink& sink)
     : m_Pattern(GetPenPattern(style)), m_Width(std::max(width, 1)), m_Period(m_Width * m_Pattern.period),
       m_Before((m_Width - 1) / 2), m_Behind(m_Width / 2), m_Visible(visible), m_Sink(sink)
-{
-}
+{}
 
 void CPenStroke::Run(std::int64_t x, std::int64_t y, int dx, int dy, std::int64_t count)
 {
@@ -168,9 +158,11 @@ void CPenStroke::Outline(std::vector<point<double>> const& points)
 {
     if (points.empty())
         return;
-    bool const isPoint = std::all_of(points.begin(), points.end(), [&](point<double> const& other) {
-        return FloorToInt(other.x) == FloorToInt(points[0].x) && FloorToInt(other.y) == FloorToInt(points[0].y);
-    });
+    bool const isPoint = std::all_of(points.begin(), points.end(),
+                                     [&](point<double> const& other) {
+                                         return FloorToInt(other.x) == FloorToInt(points[0].x) &&
+                                                FloorToInt(other.y) == FloorToInt(points[0].y);
+                                     });
     if (points.size() <= 2 || isPoint)
     {
         Line(points.front(), points.back(), true);
@@ -256,7 +248,8 @@ void CPenStroke::WalkLine(point<int> const& from, point<int> const& to, bool wit
         std::int64_t rest = 2 * first * across + steps - position * whole;
         std::int64_t runStart = first;
         std::int64_t const stepRest = 2 * across;
-        auto const emit = [&](std::int64_t behind) {
+        auto const emit = [&](std::int64_t behind)
+        {
             std::int64_t const x = flat ? from.x + forward * runStart : from.x + position;
             std::int64_t const y = flat ? from.y + position : from.y + forward * runStart;
             Piece(x, y, flat ? forward : 0, flat ? 0 : forward, behind - runStart, m_Phase + runStart);
@@ -276,4 +269,4 @@ void CPenStroke::WalkLine(point<int> const& from, point<int> const& to, bool wit
     Skip(count);
 }
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

@@ -65,4 +65,4 @@ private:
     std::int64_t m_Phase = 0;
 };
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

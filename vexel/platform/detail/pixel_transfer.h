@@ -14,17 +14,20 @@ constexpr std::uint32_t Combine(std::uint32_t below, std::uint32_t drawn, IPaint
 {
     switch (operation)
     {
-    case IPainter::roXor: return 0xFF000000u | (below ^ drawn);
-    case IPainter::roAnd: return 0xFF000000u | (below & drawn);
-    default: return 0xFF000000u | drawn;
+    case IPainter::roXor:
+        return 0xFF000000u | (below ^ drawn);
+    case IPainter::roAnd:
+        return 0xFF000000u | (below & drawn);
+    default:
+        return 0xFF000000u | drawn;
     }
 }
 
 /// Exact x / 255 for x up to 255 * 255, rounded down.
-constexpr std::uint32_t DivideBy255(std::uint32_t x)
-{
-    return (x + 1u + (x >> 8)) >> 8;
-}
+constexpr std::uint32_t DivideBy255(std::uint32_t x) { return (x + 1u + (x >> 8)) >> 8; }
+
+/// The same for a number in each half of a word. Each quotient is in the lower byte of its half; the upper bytes are waste.
+constexpr std::uint32_t DividePairBy255(std::uint32_t x) { return (x + 0x10001u + (x >> 8 & 0xFF00FFu)) >> 8; }
 
 // In all of these `area` lies within `target`. --------------------------------------------------------------------
 
@@ -49,8 +52,9 @@ void StretchPixels(CPixelBuffer& target, rectangle<int> const& to, rectangle<int
 /// Black and white stay what they are, so that masks keep working.
 constexpr std::uint32_t ToGrey(std::uint32_t pixel)
 {
-    std::uint32_t const level = (77u * (pixel >> 16 & 0xFFu) + 150u * (pixel >> 8 & 0xFFu) + 29u * (pixel & 0xFFu)) >> 8;
+    std::uint32_t const level =
+        (77u * (pixel >> 16 & 0xFFu) + 150u * (pixel >> 8 & 0xFFu) + 29u * (pixel & 0xFFu)) >> 8;
     return 0xFF000000u | level << 16 | level << 8 | level;
 }
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

@@ -19,7 +19,7 @@ point<int> ToPixel(point<double> const& value)
             std::clamp(FloorToInt(value.y), -PointLimit, PointLimit)};
 }
 
-} // namespace
+}  // namespace
 
 void CPolygonFill::Fill(std::vector<point<double>> const& points, rectangle<int> const& visible, IAreaSink& sink)
 {
@@ -67,9 +67,9 @@ void CPolygonFill::FillRow(int y, rectangle<int> const& visible, IAreaSink& sink
         }
         m_Crossings.push_back({edge.x + whole, rest, height});
     }
-    std::sort(m_Crossings.begin(), m_Crossings.end(), [](SCrossing const& a, SCrossing const& b) {
-        return a.whole != b.whole ? a.whole < b.whole : a.rest * b.height < b.rest * a.height;
-    });
+    std::sort(m_Crossings.begin(), m_Crossings.end(),
+              [](SCrossing const& a, SCrossing const& b)
+              { return a.whole != b.whole ? a.whole < b.whole : a.rest * b.height < b.rest * a.height; });
 
     for (std::size_t i = 0; i + 1 < m_Crossings.size(); i += 2)
     {
@@ -83,4 +83,4 @@ void CPolygonFill::FillRow(int y, rectangle<int> const& visible, IAreaSink& sink
     }
 }
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

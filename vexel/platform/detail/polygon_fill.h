@@ -23,7 +23,7 @@ private:
     {
         int top = 0;
         int bottom = 0;
-        int x = 0;  // at the top
+        int x = 0;            // at the top
         std::int64_t dx = 0;  // over the whole height
     };
     // Where an edge crosses a row: whole + rest / height.
@@ -41,4 +41,4 @@ private:
     std::vector<SCrossing> m_Crossings;
 };
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

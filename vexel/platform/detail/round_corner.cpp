@@ -8,8 +8,7 @@ namespace vexelbase::detail
 
 CRoundCorner::CRoundCorner(int radiusX, int radiusY)
     : m_RadiusX(std::clamp(radiusX, 0, Limit)), m_RadiusY(std::clamp(radiusY, 0, Limit))
-{
-}
+{}
 
 // Whether (2 rx - 2 column - 1)² / (2 rx)² + (2 ry - 2 row - 1)² / (2 ry)² <= 1, in whole numbers.
 bool CRoundCorner::Contains(std::int64_t column, std::int64_t row) const
@@ -43,4 +42,4 @@ int CRoundCorner::GetOutlineLength(int row) const
     return std::max(1, GetInset(row - 1) - GetInset(row));
 }
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

@@ -10,7 +10,7 @@ namespace vexelbase::detail
 class CRoundCorner
 {
 public:
-    static constexpr int Limit = 32767;  ///< Larger radii count as this.
+    static constexpr int Limit = 8191;  ///< Larger radii count as this.
 
     CRoundCorner(int radiusX, int radiusY);
 
@@ -28,4 +28,4 @@ private:
     int m_RadiusY;
 };
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

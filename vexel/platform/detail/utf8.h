@@ -7,10 +7,7 @@ namespace vexelbase::detail
 {
 
 /// True for a byte that goes on with a character begun before it.
-constexpr bool IsUtf8Continuation(char c)
-{
-    return (static_cast<unsigned char>(c) & 0xC0u) == 0x80u;
-}
+constexpr bool IsUtf8Continuation(char c) { return (static_cast<unsigned char>(c) & 0xC0u) == 0x80u; }
 
 /// How many bytes a character has that begins with this one; 1 where none can begin.
 constexpr int Utf8Length(char first)
@@ -77,4 +74,4 @@ constexpr int EncodeUtf8(std::uint32_t code, char* out)
     return 4;
 }
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

@@ -18,24 +18,24 @@ struct SNamedColor
 };
 
 constexpr SNamedColor s_Names[] = {
-    {"aliceblue", 0xF0F8FF},   {"aqua", 0x00FFFF},         {"aquamarine", 0x7FFFD4},     {"azure", 0xF0FFFF},
-    {"beige", 0xF5F5DC},       {"black", 0x000000},        {"blue", 0x0000FF},           {"brown", 0xA52A2A},
-    {"chocolate", 0xD2691E},   {"coral", 0xFF7F50},        {"cornflowerblue", 0x6495ED}, {"crimson", 0xDC143C},
-    {"cyan", 0x00FFFF},        {"darkblue", 0x00008B},     {"darkcyan", 0x008B8B},       {"darkgray", 0xA9A9A9},
-    {"darkgreen", 0x006400},   {"darkmagenta", 0x8B008B},  {"darkorange", 0xFF8C00},     {"darkred", 0x8B0000},
-    {"deepskyblue", 0x00BFFF}, {"dimgray", 0x696969},      {"dodgerblue", 0x1E90FF},     {"firebrick", 0xB22222},
-    {"forestgreen", 0x228B22}, {"fuchsia", 0xFF00FF},      {"gold", 0xFFD700},           {"gray", 0xBEBEBE},
-    {"green", 0x00FF00},       {"indianred", 0xCD5C5C},    {"indigo", 0x4B0082},         {"ivory", 0xFFFFF0},
-    {"khaki", 0xF0E68C},       {"lavender", 0xE6E6FA},     {"lightblue", 0xADD8E6},      {"lightgray", 0xD3D3D3},
-    {"lightgreen", 0x90EE90},  {"lightyellow", 0xFFFFE0},  {"lime", 0x00FF00},           {"limegreen", 0x32CD32},
-    {"magenta", 0xFF00FF},     {"maroon", 0xB03060},       {"midnightblue", 0x191970},   {"navy", 0x000080},
-    {"navyblue", 0x000080},    {"olive", 0x808000},        {"olivedrab", 0x6B8E23},      {"orange", 0xFFA500},
-    {"orangered", 0xFF4500},   {"orchid", 0xDA70D6},       {"pink", 0xFFC0CB},           {"plum", 0xDDA0DD},
-    {"purple", 0xA020F0},      {"red", 0xFF0000},          {"royalblue", 0x4169E1},      {"salmon", 0xFA8072},
-    {"seagreen", 0x2E8B57},    {"sienna", 0xA0522D},       {"silver", 0xC0C0C0},         {"skyblue", 0x87CEEB},
-    {"slateblue", 0x6A5ACD},   {"slategray", 0x708090},    {"snow", 0xFFFAFA},           {"steelblue", 0x4682B4},
-    {"tan", 0xD2B48C},         {"teal", 0x008080},         {"tomato", 0xFF6347},         {"turquoise", 0x40E0D0},
-    {"violet", 0xEE82EE},      {"wheat", 0xF5DEB3},        {"white", 0xFFFFFF},          {"yellow", 0xFFFF00},
+    {"aliceblue", 0xF0F8FF},   {"aqua", 0x00FFFF},        {"aquamarine", 0x7FFFD4},     {"azure", 0xF0FFFF},
+    {"beige", 0xF5F5DC},       {"black", 0x000000},       {"blue", 0x0000FF},           {"brown", 0xA52A2A},
+    {"chocolate", 0xD2691E},   {"coral", 0xFF7F50},       {"cornflowerblue", 0x6495ED}, {"crimson", 0xDC143C},
+    {"cyan", 0x00FFFF},        {"darkblue", 0x00008B},    {"darkcyan", 0x008B8B},       {"darkgray", 0xA9A9A9},
+    {"darkgreen", 0x006400},   {"darkmagenta", 0x8B008B}, {"darkorange", 0xFF8C00},     {"darkred", 0x8B0000},
+    {"deepskyblue", 0x00BFFF}, {"dimgray", 0x696969},     {"dodgerblue", 0x1E90FF},     {"firebrick", 0xB22222},
+    {"forestgreen", 0x228B22}, {"fuchsia", 0xFF00FF},     {"gold", 0xFFD700},           {"gray", 0xBEBEBE},
+    {"green", 0x00FF00},       {"indianred", 0xCD5C5C},   {"indigo", 0x4B0082},         {"ivory", 0xFFFFF0},
+    {"khaki", 0xF0E68C},       {"lavender", 0xE6E6FA},    {"lightblue", 0xADD8E6},      {"lightgray", 0xD3D3D3},
+    {"lightgreen", 0x90EE90},  {"lightyellow", 0xFFFFE0}, {"lime", 0x00FF00},           {"limegreen", 0x32CD32},
+    {"magenta", 0xFF00FF},     {"maroon", 0xB03060},      {"midnightblue", 0x191970},   {"navy", 0x000080},
+    {"navyblue", 0x000080},    {"olive", 0x808000},       {"olivedrab", 0x6B8E23},      {"orange", 0xFFA500},
+    {"orangered", 0xFF4500},   {"orchid", 0xDA70D6},      {"pink", 0xFFC0CB},           {"plum", 0xDDA0DD},
+    {"purple", 0xA020F0},      {"red", 0xFF0000},         {"royalblue", 0x4169E1},      {"salmon", 0xFA8072},
+    {"seagreen", 0x2E8B57},    {"sienna", 0xA0522D},      {"silver", 0xC0C0C0},         {"skyblue", 0x87CEEB},
+    {"slateblue", 0x6A5ACD},   {"slategray", 0x708090},   {"snow", 0xFFFAFA},           {"steelblue", 0x4682B4},
+    {"tan", 0xD2B48C},         {"teal", 0x008080},        {"tomato", 0xFF6347},         {"turquoise", 0x40E0D0},
+    {"violet", 0xEE82EE},      {"wheat", 0xF5DEB3},       {"white", 0xFFFFFF},          {"yellow", 0xFFFF00},
     {"yellowgreen", 0x9ACD32},
 };
 
@@ -91,7 +91,7 @@ std::optional<_color> ParseGrey(std::string_view percent)
     return _color::FromRgb(level, level, level);
 }
 
-} // namespace
+}  // namespace
 
 std::optional<_color> ParseXpmColor(std::string_view text)
 {
@@ -114,4 +114,4 @@ std::optional<_color> ParseXpmColor(std::string_view text)
     return std::nullopt;
 }
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

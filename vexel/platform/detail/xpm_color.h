@@ -12,4 +12,4 @@ namespace vexelbase::detail
 /// one of the common names. Case and blanks in names don't count. Nothing for all else.
 std::optional<_color> ParseXpmColor(std::string_view text);
 
-} // namespace vexelbase::detail
+}  // namespace vexelbase::detail

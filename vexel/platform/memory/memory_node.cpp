@@ -101,6 +101,15 @@ CMemoryWindow* CMemoryNode::GetWindowNode()
     return m_Parent ? m_Parent->GetWindowNode() : nullptr;
 }
 
+void CMemoryNode::SetNodeEnabled(bool enabled)
+{
+    if (enabled == m_Enabled)
+        return;
+    m_Enabled = enabled;
+    if (!enabled)
+        m_System.NodeHidden(this);
+}
+
 void CMemoryNode::NodeButtonDown(CMouseEvent&, bool)
 {
     if (TakesFocus())
@@ -112,7 +121,9 @@ void CMemoryNode::SetNodeVisible(bool visible)
     if (visible == m_Visible)
         return;
     m_Visible = visible;
-    if (!visible)
+    if (visible)
+        m_System.NodeShown(this);
+    else
         m_System.NodeHidden(this);
 }
 

@@ -46,13 +46,14 @@ public:
     virtual void NodeWheel(CMouseWheelEvent&) {}
     virtual void NodeHover(CMouseEvent&) {}
     virtual void NodeLeave(CMouseEvent&) {}
-    /// True: the key was dealt with, so that a Tab does not move the focus on and no character follows.
+    /// True: the key was dealt with, so that a Tab does not move the focus on.
     virtual bool NodeKeyDown(CKeyboardEvent&) { return false; }
     virtual void NodeKeyUp(CKeyboardEvent&) {}
     virtual void NodeChar(CKeyboardEvent&) {}
     virtual void NodeFocus(bool) {}             ///< Got or lost the native focus.
     virtual void NodeTabbedInto(bool) {}        ///< After NodeFocus, where Tab brought it; true: forward.
     virtual void NodeLostCapture() {}
+    virtual void NodePaintEnded() {}            ///< A paint of the window it stands in has ended.
 
     std::weak_ptr<int> GetNodeLife() const { return m_Life; }
 
@@ -63,7 +64,9 @@ protected:
 
     void SetNodeRect(rectangle<int> const& rect) { m_Rect = rect; }
     void SetNodeVisible(bool visible);
-    void SetNodeEnabled(bool enabled) { m_Enabled = enabled; }
+    bool IsNodeShown() const { return m_Visible; }  ///< Its own flag alone.
+    bool IsOnScreen() const { return m_OnScreen; }  ///< False once the window it stands in is destroyed.
+    void SetNodeEnabled(bool enabled);              ///< Disabled, it has neither focus nor capture.
     void RaiseNode();
     /// Leaves parent and system early; children lose their parent.
     void LeaveScreen();

@@ -3,7 +3,9 @@
 #include "vexel/platform/memory/detail/runner_queue.h"
 #include "vexel/platform/memory/detail/timer_queue.h"
 #include "vexel/platform/memory/memory_picture.h"
+#include "vexel/platform/memory/memory_popup.h"
 #include "vexel/platform/memory/memory_window.h"
+#include "vexel/platform/memory/native_control.h"
 #include "vexel/platform/runner.h"
 #include "vexel/platform/xpm.h"
 
@@ -78,7 +80,7 @@ void CMemorySystem::Reset()
     m_Clipboard.SetText("");
     m_PointerPos = {};
     m_Buttons = m_Keys = 0;
-    m_Under = m_Focus = m_Capture = nullptr;
+    m_Under = m_Focus = m_ToldOfFocus = m_FocusWhenShown = m_Capture = nullptr;
     for (CMemoryWindow* window : m_Windows)
         window->DropPosted();
 }
@@ -184,6 +186,11 @@ font CMemorySystem::GetDefaultFont()
 int CMemorySystem::GetSystemMetric(int metric)
 {
     return metric == smScrollBarWidth || metric == smScrollBarHeight ? m_Metrics[metric] : 0;
+}
+
+rectangle<int> CMemorySystem::GetWorkArea(point<int> const&)
+{
+    return {0, 0, ScreenSize.width, ScreenSize.height};
 }
 
 vexel_ptr<ISysTimer> CMemorySystem::CreateTimer(int period, int)
@@ -347,7 +354,7 @@ void CMemorySystem::SetHeldKeys(int keys)
     m_Keys = keys & (ksShift | ksControl | ksAlt);
 }
 
-bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise)
+bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise, bool* passOn)
 {
     CMemoryNode* const target = m_Focus ? m_Focus : otherwise;
     if (!target)
@@ -355,6 +362,8 @@ bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise)
     std::weak_ptr<int> const life = target->GetNodeLife();
     CKeyboardEvent event(GetKeyState(), virtualKey);
     bool const done = target->NodeKeyDown(event);
+    if (passOn)
+        *passOn = event.m_PassOn;
     if (!done && virtualKey == vkTab && !(m_Keys & (ksControl | ksAlt)) && !life.expired())
         TabFrom(target, !(m_Keys & ksShift));
     SettlePointer();
@@ -385,14 +394,18 @@ void CMemorySystem::Character(char byte, CMemoryNode* otherwise)
 
 void CMemorySystem::SetFocusNode(CMemoryNode* node)
 {
+    m_FocusWhenShown = nullptr;
     if (node == m_Focus)
         return;
-    CMemoryNode* const old = std::exchange(m_Focus, node);
-    if (old)
+    m_Focus = node;
+    // Only who was told that it has the focus is told that it lost it. A handler may give the focus away again, or
+    // delete the node.
+    if (CMemoryNode* const old = std::exchange(m_ToldOfFocus, nullptr))
         old->NodeFocus(false);
-    // A handler may have given the focus away again, or deleted the node.
-    if (node && node == m_Focus)
-        node->NodeFocus(true);
+    if (!node || node != m_Focus || m_ToldOfFocus == node)
+        return;
+    m_ToldOfFocus = node;
+    node->NodeFocus(true);
 }
 
 void CMemorySystem::TabFrom(CMemoryNode* node, bool forward)
@@ -405,13 +418,14 @@ void CMemorySystem::TabFrom(CMemoryNode* node, bool forward)
             self(self, child);
     };
     // A popup is a ring of its own; all other windows count as standing side by side.
-    if (IsPopup(node->GetRootNode()))
-        collect(collect, node->GetRootNode());
+    CMemoryWindow* const own = node->GetWindowNode();
+    if (own && own->GetPopup())
+        collect(collect, own);
     else
     {
         for (CMemoryWindow* window : m_Windows)
         {
-            if (!IsPopup(window) && !window->GetParentNode())
+            if (!window->GetPopup())
                 collect(collect, window);
         }
     }
@@ -441,7 +455,7 @@ void CMemorySystem::SetCaptureNode(CMemoryNode* node)
 
 void CMemorySystem::NodeGone(CMemoryNode* node)
 {
-    for (CMemoryNode** pointer : {&m_Under, &m_Focus, &m_Capture})
+    for (CMemoryNode** pointer : {&m_Under, &m_Focus, &m_ToldOfFocus, &m_FocusWhenShown, &m_Capture})
     {
         if (*pointer == node)
             *pointer = nullptr;
@@ -456,15 +470,29 @@ void CMemorySystem::NodeHidden(CMemoryNode* node)
         SetFocusNode(nullptr);
 }
 
-// Popups -----------------------------------------------------------------------------------------------------------
-
-void CMemorySystem::CloseOtherPopups(CMemoryNode*)
+void CMemorySystem::NodeShown(CMemoryNode* node)
 {
+    if (m_FocusWhenShown && m_FocusWhenShown->IsInside(node) && m_FocusWhenShown->IsNodeVisible())
+        SetFocusNode(m_FocusWhenShown);
 }
 
-bool CMemorySystem::IsPopup(CMemoryNode*) const
+// Popups -----------------------------------------------------------------------------------------------------------
+
+// A press closes the popups that it is outside of, the uppermost first.
+void CMemorySystem::CloseOtherPopups(CMemoryNode* pressed)
 {
-    return false;
+    std::vector<CMemoryWindow*> const windows = m_Windows;
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window)
+    {
+        if (std::find(m_Windows.begin(), m_Windows.end(), *window) == m_Windows.end())
+            continue;
+        CMemoryPopup* const popup = (*window)->GetPopup();
+        if (!popup || !popup->IsVisible())
+            continue;
+        if (pressed && pressed->IsInside(*window))
+            return;  // those below own it
+        popup->Close(0);
+    }
 }
 
 // Census -----------------------------------------------------------------------------------------------------------
@@ -479,6 +507,8 @@ SMemoryCounts GetMemoryCounts()
     counts.pictures = CMemoryPicture::GetCount();
     counts.runners = GetScriptedRunnerCount() + g_ThreadRunners;
     counts.locks = g_Locks;
+    counts.nativeControls = CMemoryNativeNode::GetCount();
+    counts.popups = CMemoryPopup::GetCount();
     return counts;
 }
 

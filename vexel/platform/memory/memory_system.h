@@ -75,14 +75,16 @@ public:
 
     // The user's keyboard: goes to the node with the focus, or to `otherwise` while there is none -------------------
     void SetHeldKeys(int keys);                  ///< ksShift, ksControl, ksAlt.
-    /// Returns whether the key was dealt with.
-    bool KeyDown(int virtualKey, CMemoryNode* otherwise = nullptr);
+    /// Returns whether the key was dealt with. A Tab that was not moves the focus on. `passOn`: gets the event's pass-on
+    /// flag; where it was cleared, the key's character is not to follow.
+    bool KeyDown(int virtualKey, CMemoryNode* otherwise = nullptr, bool* passOn = nullptr);
     void KeyUp(int virtualKey, CMemoryNode* otherwise = nullptr);
     void Character(char byte, CMemoryNode* otherwise = nullptr);
 
     // Focus and capture -------------------------------------------------------------------------------------------
     CMemoryNode* GetFocusNode() const { return m_Focus; }
     void SetFocusNode(CMemoryNode* node);        ///< The old one is told first. Null: nobody has it.
+    void FocusWhenShown(CMemoryNode* node) { m_FocusWhenShown = node; }  ///< Unless the focus is moved before.
     void TabFrom(CMemoryNode* node, bool forward);  ///< To the next node that takes the focus, in a ring.
     void TabInto(CMemoryNode& node, bool forward);
     CMemoryNode* GetCaptureNode() const { return m_Capture; }
@@ -99,6 +101,7 @@ public:
     font GetDefaultFont() override;              ///< "Square", sans, size 8.
     int GetSystemMetric(int metric) override;
     double GetScale() override { return m_Scale; }
+    rectangle<int> GetWorkArea(point<int> const& screen) override;  ///< The whole screen.
     vexel_ptr<ISysTimer> CreateTimer(int period, int option) override;
     vexel_ptr<IRasterPicture> CreateRasterPicture(size<int> const& pictureSize) override;
     vexel_ptr<IRasterPicture> CreateRasterPicture(XPMBuf const& buffer) override;
@@ -130,10 +133,10 @@ private:
 
     void NodeGone(CMemoryNode* node);
     void NodeHidden(CMemoryNode* node);
+    void NodeShown(CMemoryNode* node);
     CMemoryNode* PointerTarget();
     void SettlePointer();
     void CloseOtherPopups(CMemoryNode* pressed);
-    bool IsPopup(CMemoryNode* node) const;
     CMouseEvent MakeMouseEvent(CMemoryNode& node, MouseButton button) const;
     MouseButton GetHeldButton() const;
 
@@ -154,6 +157,8 @@ private:
     int m_Keys = 0;     // KeyState bits
     CMemoryNode* m_Under = nullptr;    // the node that was told of the pointer last
     CMemoryNode* m_Focus = nullptr;
+    CMemoryNode* m_ToldOfFocus = nullptr;
+    CMemoryNode* m_FocusWhenShown = nullptr;
     CMemoryNode* m_Capture = nullptr;
 };
 

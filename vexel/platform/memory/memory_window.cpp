@@ -1,10 +1,14 @@
 #include "vexel/platform/memory/memory_window.h"
 
 #include "vexel/platform/memory/memory_device.h"
+#include "vexel/platform/memory/memory_edit.h"
 #include "vexel/platform/memory/memory_painter.h"
+#include "vexel/platform/memory/memory_popup.h"
+#include "vexel/platform/memory/memory_scroll_bar.h"
 #include "vexel/platform/memory/memory_system.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vexelbase::memory
 {
@@ -101,12 +105,24 @@ void CMemoryWindow::Show(bool visible)
     Deliver(visible ? &CVexelControl::OnShow : &CVexelControl::OnHide, &event);
 }
 
+void CMemoryWindow::BringUp()
+{
+    RaiseNode();
+    Show(true);
+}
+
 void CMemoryWindow::Destroy()
 {
     if (m_Destroyed)
         return;
     m_Destroyed = true;
     StartDestroying();
+    while (!m_Popups.empty())
+    {
+        CMemoryPopup* const popup = m_Popups.back();
+        m_Popups.pop_back();
+        popup->OwnerGone();
+    }
     std::erase(GetSystem().m_Windows, this);
     LeaveScreen();
 }
@@ -236,24 +252,32 @@ void CMemoryWindow::ClientToScreen(point<int>* position) const
     position->y += origin.y;
 }
 
-vexel_ptr<IScrollBar> CMemoryWindow::CreateScrollBar(int)
+vexel_ptr<IScrollBar> CMemoryWindow::CreateScrollBar(int type)
 {
-    return {};
+    if (m_Destroyed)
+        return {};
+    return MakeRef<CMemoryScrollBar>(GetSystem(), *this, type == stVertical);
 }
 
 vexel_ptr<IEdit> CMemoryWindow::CreateEdit(bool)
 {
-    return {};
+    if (m_Destroyed)
+        return {};
+    return MakeRef<CMemoryEdit>(GetSystem(), *this);
 }
 
-vexel_ptr<IComboBox> CMemoryWindow::CreateComboBox(bool)
+vexel_ptr<IComboBox> CMemoryWindow::CreateComboBox(bool editable)
 {
-    return {};
+    if (m_Destroyed)
+        return {};
+    return MakeRef<CMemoryComboBox>(GetSystem(), *this, editable);
 }
 
 vexel_ptr<IPopup> CMemoryWindow::CreatePopup()
 {
-    return {};
+    if (m_Destroyed)
+        return {};
+    return MakeRef<CMemoryPopup>(*this);
 }
 
 // Native events ----------------------------------------------------------------------------------------------------
@@ -346,6 +370,15 @@ void CMemoryWindow::PresentDamage()
 void CMemoryWindow::AfterPaint()
 {
     ++m_Frames;
+    // What the paint asked of native controls. Their handlers may delete any of them.
+    std::vector<std::pair<CMemoryNode*, std::weak_ptr<int>>> children;
+    for (CMemoryNode* child : GetChildNodes())
+        children.emplace_back(child, child->GetNodeLife());
+    for (auto const& [child, life] : children)
+    {
+        if (!life.expired())
+            child->NodePaintEnded();
+    }
 }
 
 } // namespace vexelbase::memory

@@ -7,9 +7,12 @@
 #include <atomic>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace vexelbase::memory
 {
+
+class CMemoryPopup;
 
 /// The tip that a window shows, or showed last.
 struct STooltip
@@ -55,6 +58,11 @@ public:
     STooltip const& GetTooltip() const { return m_Tooltip; }
     int GetFrameCount() const { return m_Frames; }   ///< Native paints so far.
     static int GetCount();                           ///< Living windows of the process.
+    bool IsInPaint() const { return IsPainting(); }  ///< The control's paint is under way.
+    virtual CMemoryPopup* GetPopup() { return nullptr; }  ///< The popup whose window it is.
+    void BringUp();                                  ///< Above all other windows, and visible.
+    void AddPopup(CMemoryPopup& popup) { m_Popups.push_back(&popup); }  ///< A popup that it owns.
+    void RemovePopup(CMemoryPopup& popup) { std::erase(m_Popups, &popup); }
 
     // From ISysWindow ---------------------------------------------------------------------------------------------
     void SetFocus() override;
@@ -109,6 +117,7 @@ private:
     bool m_Tracking = false;
     bool m_Destroyed = false;
     STooltip m_Tooltip;
+    std::vector<CMemoryPopup*> m_Popups;
     int m_Frames = 0;
     std::shared_ptr<SQueueCounts> m_QueueCounts = std::make_shared<SQueueCounts>();
 };

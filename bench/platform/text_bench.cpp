@@ -1,0 +1,147 @@
+// How long texts take to be laid out: labels as they come, and a mebibyte of text written to be a burden.
+// The device costs next to nothing, so that what is seen is the layout's own work.
+
+#include "vexel/platform/base_painter.h"
+#include "vexel/platform/pixel_buffer.h"
+#include "vexel/platform/raster_device.h"
+#include "vexel/platform/text_formatter.h"
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+#include <vector>
+
+namespace
+{
+
+using namespace vexelbase;
+
+class CSquareDevice : public CRasterDevice
+{
+public:
+    explicit CSquareDevice(CPixelBuffer& pixels) : CRasterDevice(pixels) {}
+
+    int MeasureRun(font const& textFont, char const* text, int length) override
+    {
+        int count = 0;
+        for (int i = 0; i < length; ++i)
+            count += (static_cast<unsigned char>(text[i]) & 0xC0u) != 0x80u ? 1 : 0;
+        return count * (textFont.size + (textFont.style & font::fsBold));
+    }
+    void DrawRun(SRun const& run) override { benchmark::DoNotOptimize(run.length); }
+    void GetMetrics(font const& textFont, fontmetrics& metrics) override
+    {
+        metrics = {textFont.size * 3 / 4, textFont.size / 4, 0};
+    }
+    void DrawControlElement(IPainter::ControlElement, rectangle<int> const&, rectangle<int> const&, int) override {}
+};
+
+struct SBench
+{
+    SBench()
+    {
+        font value;
+        value.name = "Square";
+        value.family = font::ffSans;
+        value.size = 8;
+        painter.SetFont(value);
+    }
+
+    CPixelBuffer pixels{size<int>{400, 300}};
+    CSquareDevice device{pixels};
+    CBasePainter painter{device, true};
+};
+
+std::string Repeat(char const* part)
+{
+    std::string text;
+    while (text.size() < 1u << 20)
+        text += part;
+    return text;
+}
+
+struct SHostile
+{
+    char const* name;
+    std::string text;
+};
+
+std::vector<SHostile> const& HostileTexts()
+{
+    static std::vector<SHostile> const texts = {
+        {"prose", Repeat("The quick brown fox jumps over the lazy dog. ")},
+        {"prose with tags", Repeat("The <b>quick</b> brown <i>fox</i> &amp; <a href=\"x\">the</a> lazy dog. ")},
+        {"unclosed tags", Repeat("<b")},
+        {"deep nesting", Repeat("<b>")},
+        {"brackets", Repeat("<")},
+        {"ampersands", Repeat("&")},
+        {"giant attribute", "<a href=\"" + Repeat("x") + "\">y</a>"},
+        {"unclosed attribute", "<a href=\"" + Repeat("x")},
+        {"quotes that cross", Repeat("<a x='<a y=\"")},
+        {"a style a character", Repeat("<b>x</b>y")},
+        {"one word", Repeat("x")},
+        {"a word of many parts", "x " + Repeat("y<b>")},
+        {"blanks", Repeat(" ")},
+        {"stops", Repeat(".")},
+        {"short words", Repeat("x ")},
+        {"line feeds", Repeat("\n")},
+        {"entities", Repeat("&#x1F600;")},
+    };
+    return texts;
+}
+
+void HostileText(benchmark::State& state, bool markup, double width, int flags)
+{
+    SHostile const& hostile = HostileTexts()[static_cast<std::size_t>(state.range(0))];
+    state.SetLabel(hostile.name);
+    SBench bench;
+    CHTMLTextFormatter formatter;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(bench.painter.DrawStringEx({0, 0, width, 300}, hostile.text.c_str(), flags, -1,
+                                                            MarkupDelimiters, markup ? &formatter : nullptr));
+}
+
+void AllTexts(benchmark::internal::Benchmark* bench)
+{
+    for (std::size_t i = 0; i < HostileTexts().size(); ++i)
+        bench->Arg(static_cast<int>(i));
+    bench->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK_CAPTURE(HostileText, MarkupWrapped, true, 400, 0)->Apply(AllTexts);
+BENCHMARK_CAPTURE(HostileText, MarkupWrappedNarrow, true, 8, 0)->Apply(AllTexts);
+BENCHMARK_CAPTURE(HostileText, MarkupUnwrapped, true, 400, IPainter::AlignSingleLine)->Apply(AllTexts);
+BENCHMARK_CAPTURE(HostileText, MarkupMeasured, true, 100000, IPainter::AlignMeasureOnly)->Apply(AllTexts);
+BENCHMARK_CAPTURE(HostileText, MarkupFitted, true, 400, IPainter::AlignFitText)->Apply(AllTexts);
+BENCHMARK_CAPTURE(HostileText, PlainWrapped, false, 400, 0)->Apply(AllTexts);
+BENCHMARK_CAPTURE(HostileText, PlainWrappedNarrow, false, 8, 0)->Apply(AllTexts);
+BENCHMARK_CAPTURE(HostileText, PlainUnwrapped, false, 400, IPainter::AlignSingleLine)->Apply(AllTexts);
+
+void Label(benchmark::State& state)
+{
+    SBench bench;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(bench.painter.DrawString({0, 0, 100, 20}, "A label", 0x121, -1));
+}
+BENCHMARK(Label);
+
+void WrappedLabel(benchmark::State& state)
+{
+    SBench bench;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(bench.painter.DrawStringEx({0, 0, 100, 60}, "A label that needs two or three lines",
+                                                            0x121, -1, TextDelimiters, nullptr));
+}
+BENCHMARK(WrappedLabel);
+
+void MarkupLabel(benchmark::State& state)
+{
+    SBench bench;
+    CHTMLTextFormatter formatter;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(bench.painter.DrawStringEx(
+            {0, 0, 200, 20}, "A <b>label</b> with <a href=\"x\">link</a>", 0x21, -1, MarkupDelimiters, &formatter));
+}
+BENCHMARK(MarkupLabel);
+
+}  // namespace

@@ -1,0 +1,80 @@
+#include "vexel/core/flashing.h"
+#include "vexel/core/visual_element.h"
+#include "vexel/testing/test_kit.h"
+
+#include <gtest/gtest.h>
+
+using namespace vexel;
+using namespace vexel::test;
+
+TEST(Flashing, SwitchesTheColoursOfAllElementsAtOnceAndBack)
+{
+    CTestHost host(60, 20);
+    auto& one = *new CVisualElement(host.Root(), {20, 0}, alLeft);
+    auto& two = *new CVisualElement(host.Root(), {20, 0}, alLeft);
+    one.SetFgColor(color_table[4]);
+    CBkFgRoutine routine;
+    routine.AddElement(&one, color_table[9], color_table[6]);
+    routine.AddElement(&two, color_table[1], color_table[3]);
+    routine.AddElement(nullptr, color_table[1], color_table[1]);
+    EXPECT_EQ(routine.GetCount(), 2);
+    _color const ground = one.GetBkColor();
+
+    routine.ProcessFlashed();
+    EXPECT_EQ(one.GetFgColor(), color_table[9]);
+    EXPECT_EQ(one.GetBkColor(), color_table[6]);
+    EXPECT_EQ(two.GetFgColor(), color_table[1]);
+    EXPECT_EQ(two.GetBkColor(), color_table[3]);
+
+    routine.ProcessNormal();
+    EXPECT_EQ(one.GetFgColor(), color_table[4]);
+    EXPECT_EQ(one.GetBkColor(), ground);
+}
+
+TEST(Flashing, WithoutColoursTheSystemsHighlightIsShown)
+{
+    CTestHost host(60, 20);
+    auto& element = *new CVisualElement(host.Root(), {20, 0}, alLeft);
+    CBkFgRoutine routine;
+    routine.AddElement(&element, color_table[0], color_table[0]);
+
+    routine.ProcessFlashed();
+
+    EXPECT_EQ(element.GetFgColor(), GetSysPalette()->GetColor(ISysPalette::scHighlightText));
+    EXPECT_EQ(element.GetBkColor(), GetSysPalette()->GetColor(ISysPalette::scHighlight));
+}
+
+TEST(Flashing, ARecordWithoutAnElementDoesNothing)
+{
+    SBkFgElement none;
+    none.ProcessFlashed();
+    none.ProcessNormal();
+    EXPECT_EQ(none.m_Element, nullptr);
+    SPaletteElement nothing;
+    nothing.ProcessFlashed();
+    nothing.ProcessNormal();
+    EXPECT_EQ(nothing.m_Target, nullptr);
+}
+
+TEST(Flashing, HandsPalettesToTheirTargetsAndBack)
+{
+    class CTarget : public IPaletteSupport
+    {
+    public:
+        void SetPalette(vexel_ptr<ICustomPaletteEx> palette) override { m_Palette = palette; }
+        vexel_ptr<ICustomPaletteEx> GetPalette() override { return m_Palette; }
+        vexel_ptr<ICustomPaletteEx> m_Palette;
+    } target;
+    vexel_ptr<ICustomPaletteEx> const normal = CreateCustomPalette();
+    vexel_ptr<ICustomPaletteEx> const flashed = CreateCustomPalette();
+    target.m_Palette = normal;
+    CPaletteRoutine routine;
+    routine.AddElement(&target, flashed);
+    routine.AddElement(nullptr, flashed);
+    EXPECT_EQ(routine.GetCount(), 1);
+
+    routine.ProcessFlashed();
+    EXPECT_EQ(target.m_Palette.get(), flashed.get());
+    routine.ProcessNormal();
+    EXPECT_EQ(target.m_Palette.get(), normal.get());
+}
