@@ -183,7 +183,7 @@ SGlyph const* CFontFace::Load(char32_t character)
     std::unique_ptr<SPage>& page = m_Pages[character / PageSize];
     if (!page)
         page = std::make_unique<SPage>();
-    SSlot& slot = page->slots[character % PageSize];
+    SSlot& slot = page->places[character % PageSize];
     slot.state = EState::Complex;
 
     if (character < 0x20 || character == 0x7F)

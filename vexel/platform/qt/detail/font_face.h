@@ -47,7 +47,7 @@ public:
         std::unique_ptr<SPage> const& page = m_Pages[character / PageSize];
         if (page)
         {
-            SSlot const& slot = page->slots[character % PageSize];
+            SSlot const& slot = page->places[character % PageSize];
             if (slot.state == EState::Plain)
                 return &slot.glyph;
             if (slot.state == EState::Complex)
@@ -80,7 +80,7 @@ private:
     };
     struct SPage
     {
-        std::array<SSlot, PageSize> slots;
+        std::array<SSlot, PageSize> places;
     };
 
     SGlyph const* Load(char32_t character);
