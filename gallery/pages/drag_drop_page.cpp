@@ -82,10 +82,10 @@ void CDragDropPage::Build(CVisualElement* parent)
     auto* const row = new CPanel(parent, {0, 70}, alTop);
     int const colors[] = {24, 26, 25};
     char const* const names[] = {"one", "two", "three"};
-    for (int i = 0; i < 3; ++i)
+    for (std::size_t i = 0; i < 3; ++i)
     {
         auto* const tile = new CTile(row, colors[i], std::string("tile ") + names[i]);
-        tile->SetId(static_cast<unsigned long>(i + 1));
+        tile->SetId(i + 1);
         ReportMouse(tile, names[i]);
         Report(tile->m_SigStartDragging, std::string(names[i]) + ".start");
         Report(tile->m_SigDragFinished, std::string(names[i]) + ".finished");

@@ -130,7 +130,7 @@ void AddTexts(CGrid* grid)
 
 vexel_ptr<IRasterPicture> MakePicture(int side)
 {
-    vexel_ptr<IRasterPicture> const picture = GetCurrentSystem()->CreateRasterPicture({side, side});
+    vexel_ptr<IRasterPicture> picture = GetCurrentSystem()->CreateRasterPicture({side, side});
     IPainter* const p = picture->GetPainter();
     p->BeginPaint(IPainter::ssPaint);
     brush fill;

@@ -24,8 +24,6 @@ struct SLine
 {
     std::string text;
     int width = 0;  // in characters
-
-    friend bool operator==(SLine const&, SLine const&) = default;
 };
 
 bool IsDelimiter(char c)
