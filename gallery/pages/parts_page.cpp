@@ -33,8 +33,9 @@ void AddParts(CGrid* grid)
             int const states[] = {0, IPainter::esHot, IPainter::esPressed, IPainter::esDisabled};
             for (int i = 0; i < 4; ++i)
             {
+                int const row = i / 2;
                 double const x = r.left + i % 2 * ToInt(width + 3);
-                double const y = r.top + i / 2 * ToInt(height + 4);
+                double const y = r.top + row * ToInt(height + 4);
                 p->DrawControlElement(part.element, x, y, x + ToInt(width) - 1, y + ToInt(height) - 1, states[i]);
             }
         });

@@ -27,9 +27,11 @@ CRecordingElement::CRecordingElement(CCallLog& log, std::string const& name, CVi
 bool CRecordingElement::Handled(char const* what, std::string const& arguments)
 {
     Note(what, arguments);
-    if (m_OnHandler)
-        m_OnHandler(what);
-    return m_Consume;
+    // The handler may delete this element.
+    bool const consume = m_Consume;
+    if (auto const handler = m_OnHandler)
+        handler(what);
+    return consume;
 }
 
 void CRecordingElement::SetSize(size<int> const& extent, bool scale)

@@ -94,7 +94,7 @@ void CChildren::Append(CVisualElement* element)
     {
         if (m_Head > m_Capacity / 2)
         {
-            std::memmove(m_Items, m_Items + m_Head, static_cast<std::size_t>(m_Count) * sizeof *m_Items);
+            std::memmove(m_Items, m_Items + m_Head, static_cast<std::size_t>(m_Count) * sizeof(void*));
         }
         else
         {
@@ -102,7 +102,7 @@ void CChildren::Append(CVisualElement* element)
                                                                                   : std::max(4, m_Capacity * 2);
             CVisualElement** const items = new CVisualElement*[static_cast<std::size_t>(capacity)];
             if (m_Count > 0)
-                std::memcpy(items, m_Items + m_Head, static_cast<std::size_t>(m_Count) * sizeof *m_Items);
+                std::memcpy(items, m_Items + m_Head, static_cast<std::size_t>(m_Count) * sizeof(void*));
             delete[] m_Items;
             m_Items = items;
             m_Capacity = capacity;
@@ -118,12 +118,12 @@ void CChildren::RemoveAt(int index)
     CVisualElement** const items = m_Items + m_Head;
     if (index < m_Count - 1 - index)
     {
-        std::memmove(items + 1, items, static_cast<std::size_t>(index) * sizeof *items);
+        std::memmove(items + 1, items, static_cast<std::size_t>(index) * sizeof(void*));
         ++m_Head;
     }
     else
     {
-        std::memmove(items + index, items + index + 1, static_cast<std::size_t>(m_Count - 1 - index) * sizeof *items);
+        std::memmove(items + index, items + index + 1, static_cast<std::size_t>(m_Count - 1 - index) * sizeof(void*));
     }
     if (--m_Count == 0)
         m_Head = 0;

@@ -63,8 +63,9 @@ int CLineText::GetSelectionLength() const
 std::string CLineText::GetSelectedText() const
 {
     std::string text;
-    for (int i = 0; i < GetSelectionLength(); ++i)
-        text += m_Characters[static_cast<std::size_t>(GetSelectionStart() + i)];
+    int const end = GetSelectionStart() + GetSelectionLength();
+    for (int i = GetSelectionStart(); i < end; ++i)
+        text += m_Characters[static_cast<std::size_t>(i)];
     return text;
 }
 

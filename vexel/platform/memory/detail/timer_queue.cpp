@@ -57,6 +57,7 @@ std::vector<int> CTimerQueue::GetRunningPeriods() const
     std::sort(entries.begin(), entries.end(),
               [](SEntry const& a, SEntry const& b) { return a.due != b.due ? a.due < b.due : a.number < b.number; });
     std::vector<int> periods;
+    periods.reserve(entries.size());
     for (SEntry const& entry : entries)
         periods.push_back(entry.period);
     return periods;

@@ -499,8 +499,10 @@ bool CQtWindow::FocusEntered(int reason)
     CFocusEvent sent;
     if (!Send(&CVexelControl::OnGetFocus, &sent))
         return false;
-    if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason)
+    bool const byTab = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    if (!byTab || !GetEventTarget())
         return true;
+    // The control frees the event.
     return Send(&CVexelControl::OnCustomEvent,
                 new CCustomEvent(reason == Qt::TabFocusReason ? CCustomEvent::ceFirstTabElement
                                                               : CCustomEvent::ceLastTabElement));
