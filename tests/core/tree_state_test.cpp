@@ -162,6 +162,7 @@ TEST_F(TreeState, TheFlagIsStoredBeforeTheAttributeChanges)
     m_Middle.SetEnabled(false);
 
     EXPECT_FALSE(seen);
+    m_Middle.m_BeforeChange = nullptr;
 }
 
 // Cursor -----------------------------------------------------------------------------------------------------------------

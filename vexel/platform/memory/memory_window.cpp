@@ -56,6 +56,7 @@ CMemoryWindow::CMemoryWindow(CMemorySystem& system, point<int> const& screen, si
 CMemoryWindow::~CMemoryWindow()
 {
     CMemoryWindow::Destroy();
+    FinishDestroying();  // still to be done if the window is deleted while it is being destroyed
     --g_Count;
 }
 
@@ -116,7 +117,14 @@ void CMemoryWindow::Destroy()
     if (m_Destroyed)
         return;
     m_Destroyed = true;
+    std::weak_ptr<int> const life = GetLifeToken();
     StartDestroying();
+    if (!life.expired())
+        FinishDestroying();
+}
+
+void CMemoryWindow::FinishDestroying()
+{
     while (!m_Popups.empty())
     {
         CMemoryPopup* const popup = m_Popups.back();

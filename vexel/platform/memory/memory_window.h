@@ -111,6 +111,7 @@ private:
         std::atomic<bool> dropping{false};
     };
 
+    void FinishDestroying();
     point<int> GetPointer() const;  // window pixels
     bool ShowsTooltipAt(point<int> const& position) const;
 
