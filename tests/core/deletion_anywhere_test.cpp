@@ -239,9 +239,10 @@ public:
 private:
     void Kill(CVisualElement* element)
     {
-        auto* const actor = static_cast<CActor*>(element);
-        if (actor && Has(actor))
-            delete actor;
+        // Compared as elements: one whose own part is gone already is no actor any more.
+        for (CActor* const actor : m_Alive)
+            if (actor == element)
+                return delete actor;
     }
 
     void Do(CActor* actor)
