@@ -11,6 +11,7 @@ FILE has lines "item TAB case TAB peer TAB goal": the ratio that vexel aims at. 
 import argparse
 import json
 import pathlib
+import re
 import statistics
 import sys
 
@@ -58,6 +59,11 @@ def show(value):
     return f"{value:,.1f}" if value < 1000 else f"{value:,.0f}"
 
 
+def natural(key):
+    """Sorts emit_to_2 before emit_to_10."""
+    return [[int(part) if part.isdigit() else part for part in re.split(r"(\d+)", word)] for word in key]
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--goals")
@@ -67,7 +73,7 @@ def main():
     head = ("item", "case", "unit", "vexel", "peer", "its value", "ratio", "goal")
     rows = []
     compared = {item for (item, _, _), peers in table.items() if "vexel" in peers}
-    for (item, case, unit), peers in table.items():
+    for (item, case, unit), peers in sorted(table.items(), key=lambda entry: natural(entry[0])):
         medians = {peer: statistics.median(values) for peer, values in peers.items()}
         own = medians.pop("vexel", None)
         if not medians:

@@ -81,17 +81,17 @@ struct sigc_peer
 void sigc_untracked_cases()
 {
     for (int count : {0, 1, 10, 100})
-        benchmark::RegisterBenchmark(("emit_to_" + std::to_string(count) + "/sigc_untracked").c_str(),
+        benchmark::RegisterBenchmark(("signals/emit_to_" + std::to_string(count) + "/sigc_untracked").c_str(),
                                      [count](benchmark::State& state) { emit<sigc_peer>(state, count); });
     for (int others : {0, 1000})
         benchmark::RegisterBenchmark(
-            ("connect_disconnect_" + std::to_string(others) + "_others/sigc_untracked").c_str(),
+            ("signals/connect_disconnect_" + std::to_string(others) + "_others/sigc_untracked").c_str(),
             [others](benchmark::State& state) { connect_disconnect<sigc_peer>(state, others); });
 }
 
 void lock_cases()
 {
-    benchmark::RegisterBenchmark("lock/vexel", [](benchmark::State& state) {
+    benchmark::RegisterBenchmark("signals/lock/vexel", [](benchmark::State& state) {
         plinth::threading::mutex_t mutex;
         for (auto _ : state)
         {

@@ -327,6 +327,7 @@ private:
     point<int> GetOrigin() const;  // in control pixels
     CVisualElement* FindChildAt(int x, int y) const;
     void LayOutChildren(bool force);
+    void Prefetch() const;
     void SetUpPainter(IPainter* painter) const;
     CVisualElement* RunChangeChain(CVisualElement* element, UpdateType type);
     void LeaveParent();

@@ -19,6 +19,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -176,13 +177,20 @@ void CQtWindow::PresentDamage()
     CDamage& damage = GetDevice().GetDamage();
     if (m_Widget && damage.GetCount() > 0)
     {
-        QRegion region;
+        // Rectangles that come from top to bottom are only appended to a region.
+        std::array<rectangle<int>, CDamage::Capacity> rects;
         for (int i = 0; i < damage.GetCount(); ++i)
+            rects[static_cast<std::size_t>(i)] = damage[i];
+        auto const end = rects.begin() + damage.GetCount();
+        std::sort(rects.begin(), end, [](rectangle<int> const& a, rectangle<int> const& b) {
+            return a.top != b.top ? a.top < b.top : a.left < b.left;
+        });
+        QRegion region;
+        for (auto rect = rects.begin(); rect != end; ++rect)
         {
-            rectangle<int> const& rect = damage[i];
-            int const left = FloorToInt(rect.left / m_Ratio);
-            int const top = FloorToInt(rect.top / m_Ratio);
-            region += QRect(left, top, CeilToInt(rect.right / m_Ratio) - left, CeilToInt(rect.bottom / m_Ratio) - top);
+            int const left = FloorToInt(rect->left / m_Ratio);
+            int const top = FloorToInt(rect->top / m_Ratio);
+            region += QRect(left, top, CeilToInt(rect->right / m_Ratio) - left, CeilToInt(rect->bottom / m_Ratio) - top);
         }
         m_Widget->update(region);
         if (s_ShowRepaints)

@@ -70,52 +70,63 @@ std::vector<SHostile> const& HostileTexts()
 {
     static std::vector<SHostile> const texts = {
         {"prose", Repeat("The quick brown fox jumps over the lazy dog. ")},
-        {"prose with tags", Repeat("The <b>quick</b> brown <i>fox</i> &amp; <a href=\"x\">the</a> lazy dog. ")},
-        {"unclosed tags", Repeat("<b")},
-        {"deep nesting", Repeat("<b>")},
+        {"prose_with_tags", Repeat("The <b>quick</b> brown <i>fox</i> &amp; <a href=\"x\">the</a> lazy dog. ")},
+        {"unclosed_tags", Repeat("<b")},
+        {"deep_nesting", Repeat("<b>")},
         {"brackets", Repeat("<")},
         {"ampersands", Repeat("&")},
-        {"giant attribute", "<a href=\"" + Repeat("x") + "\">y</a>"},
-        {"unclosed attribute", "<a href=\"" + Repeat("x")},
-        {"quotes that cross", Repeat("<a x='<a y=\"")},
-        {"a style a character", Repeat("<b>x</b>y")},
-        {"one word", Repeat("x")},
-        {"a word of many parts", "x " + Repeat("y<b>")},
+        {"giant_attribute", "<a href=\"" + Repeat("x") + "\">y</a>"},
+        {"unclosed_attribute", "<a href=\"" + Repeat("x")},
+        {"quotes_that_cross", Repeat("<a x='<a y=\"")},
+        {"a_style_a_character", Repeat("<b>x</b>y")},
+        {"one_word", Repeat("x")},
+        {"a_word_of_many_parts", "x " + Repeat("y<b>")},
         {"blanks", Repeat(" ")},
         {"stops", Repeat(".")},
-        {"short words", Repeat("x ")},
-        {"line feeds", Repeat("\n")},
+        {"short_words", Repeat("x ")},
+        {"line_feeds", Repeat("\n")},
         {"entities", Repeat("&#x1F600;")},
     };
     return texts;
 }
 
-void HostileText(benchmark::State& state, bool markup, double width, int flags)
+void LayOut(benchmark::State& state, std::string const& text, bool markup, double width, int flags)
 {
-    SHostile const& hostile = HostileTexts()[static_cast<std::size_t>(state.range(0))];
-    state.SetLabel(hostile.name);
     SBench bench;
     CHTMLTextFormatter formatter;
     for (auto _ : state)
-        benchmark::DoNotOptimize(bench.painter.DrawStringEx({0, 0, width, 300}, hostile.text.c_str(), flags, -1,
+        benchmark::DoNotOptimize(bench.painter.DrawStringEx({0, 0, width, 300}, text.c_str(), flags, -1,
                                                             MarkupDelimiters, markup ? &formatter : nullptr));
 }
 
-void AllTexts(benchmark::internal::Benchmark* bench)
+struct SWay
 {
-    for (std::size_t i = 0; i < HostileTexts().size(); ++i)
-        bench->Arg(static_cast<int>(i));
-    bench->Unit(benchmark::kMillisecond);
-}
+    char const* name;
+    bool markup;
+    double width;
+    int flags;
+};
 
-BENCHMARK_CAPTURE(HostileText, MarkupWrapped, true, 400, 0)->Apply(AllTexts);
-BENCHMARK_CAPTURE(HostileText, MarkupWrappedNarrow, true, 8, 0)->Apply(AllTexts);
-BENCHMARK_CAPTURE(HostileText, MarkupUnwrapped, true, 400, IPainter::AlignSingleLine)->Apply(AllTexts);
-BENCHMARK_CAPTURE(HostileText, MarkupMeasured, true, 100000, IPainter::AlignMeasureOnly)->Apply(AllTexts);
-BENCHMARK_CAPTURE(HostileText, MarkupFitted, true, 400, IPainter::AlignFitText)->Apply(AllTexts);
-BENCHMARK_CAPTURE(HostileText, PlainWrapped, false, 400, 0)->Apply(AllTexts);
-BENCHMARK_CAPTURE(HostileText, PlainWrappedNarrow, false, 8, 0)->Apply(AllTexts);
-BENCHMARK_CAPTURE(HostileText, PlainUnwrapped, false, 400, IPainter::AlignSingleLine)->Apply(AllTexts);
+bool const registered = [] {
+    SWay const ways[] = {
+        {"markup_wrapped", true, 400, 0},
+        {"markup_wrapped_narrow", true, 8, 0},
+        {"markup_unwrapped", true, 400, IPainter::AlignSingleLine},
+        {"markup_measured", true, 100000, IPainter::AlignMeasureOnly},
+        {"markup_fitted", true, 400, IPainter::AlignFitText},
+        {"plain_wrapped", false, 400, 0},
+        {"plain_wrapped_narrow", false, 8, 0},
+        {"plain_unwrapped", false, 400, IPainter::AlignSingleLine},
+    };
+    for (SHostile const& hostile : HostileTexts())
+        for (SWay const& way : ways)
+            benchmark::RegisterBenchmark((std::string("hostile_text/") + hostile.name + "/vexel/" + way.name).c_str(),
+                                         [&hostile, way](benchmark::State& state) {
+                                             LayOut(state, hostile.text, way.markup, way.width, way.flags);
+                                         })
+                ->MinTime(0.02);
+    return true;
+}();
 
 void Label(benchmark::State& state)
 {
@@ -123,7 +134,7 @@ void Label(benchmark::State& state)
     for (auto _ : state)
         benchmark::DoNotOptimize(bench.painter.DrawString({0, 0, 100, 20}, "A label", 0x121, -1));
 }
-BENCHMARK(Label);
+BENCHMARK(Label)->Name("text/label/vexel");
 
 void WrappedLabel(benchmark::State& state)
 {
@@ -132,7 +143,7 @@ void WrappedLabel(benchmark::State& state)
         benchmark::DoNotOptimize(bench.painter.DrawStringEx({0, 0, 100, 60}, "A label that needs two or three lines",
                                                             0x121, -1, TextDelimiters, nullptr));
 }
-BENCHMARK(WrappedLabel);
+BENCHMARK(WrappedLabel)->Name("text/wrapped_label/vexel");
 
 void MarkupLabel(benchmark::State& state)
 {
@@ -142,6 +153,6 @@ void MarkupLabel(benchmark::State& state)
         benchmark::DoNotOptimize(bench.painter.DrawStringEx(
             {0, 0, 200, 20}, "A <b>label</b> with <a href=\"x\">link</a>", 0x21, -1, MarkupDelimiters, &formatter));
 }
-BENCHMARK(MarkupLabel);
+BENCHMARK(MarkupLabel)->Name("text/markup_label/vexel");
 
 }  // namespace
