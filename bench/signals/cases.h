@@ -119,17 +119,18 @@ template <class Peer> void register_cases(std::string const& peer, bool is_sende
         benchmark::RegisterBenchmark(("signals/emit_to_" + std::to_string(count) + "/" + peer).c_str(),
                                      [count](benchmark::State& state) { emit<Peer>(state, count); });
     for (int others : {0, 10, 1000})
-        benchmark::RegisterBenchmark(("signals/connect_disconnect_" + std::to_string(others) + "_others/" + peer).c_str(),
-                                     [others](benchmark::State& state) { connect_disconnect<Peer>(state, others); });
+        benchmark::RegisterBenchmark(
+            ("signals/connect_disconnect_" + std::to_string(others) + "_others/" + peer).c_str(),
+            [others](benchmark::State& state) { connect_disconnect<Peer>(state, others); });
     benchmark::RegisterBenchmark(("signals/connect_disconnect_of_a_receiver_with_1000_senders/" + peer).c_str(),
                                  [](benchmark::State& state) { connect_disconnect_hub<Peer>(state, 1000); });
     // A sender that is a whole object of its toolkit stands for more than a signal.
     std::string const whole = is_sender_whole_object ? "_object" : "";
     benchmark::RegisterBenchmark(("signals/construct_destroy/" + peer + whole).c_str(), construct_destroy<Peer>);
     benchmark::RegisterBenchmark(("signals/connect_once_and_destroy/" + peer + whole).c_str(), whole_life<Peer>);
-    benchmark::RegisterBenchmark(("signals/receivers_die_10000_at_one_signal/" + peer).c_str(), [](benchmark::State& state) {
-        receivers_die<Peer>(state, 10000);
-    })->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark(("signals/receivers_die_10000_at_one_signal/" + peer).c_str(),
+                                 [](benchmark::State& state) { receivers_die<Peer>(state, 10000); })
+        ->Unit(benchmark::kMicrosecond);
 }
 
 }  // namespace bench_signals

@@ -144,6 +144,7 @@ private:
     CElementList m_Updates{true};  // wait for a repaint
     CElementList m_Rearranges;     // their children wait for a layout
     SPass* m_Passes = nullptr;     // layout passes on the stack, innermost first
+    CElementList m_SpareEntries;   // empty: memory for the next pass
     bool m_FullUpdate = false;     // the next paint paints everything
     bool m_RearrangeNeeded = true;
     bool m_RearrangeAgain = false;  // asked for during a layout

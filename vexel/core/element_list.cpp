@@ -88,27 +88,32 @@ void CChildren::RemoveItem(CVisualElement* element)
         RemoveAt(index);
 }
 
+// After it an Append can't fail.
+void CChildren::MakeRoom()
+{
+    if (m_Head + m_Count < m_Capacity)
+        return;
+    if (m_Head > m_Capacity / 2)
+    {
+        std::memmove(m_Items, m_Items + m_Head, static_cast<std::size_t>(m_Count) * sizeof(void*));
+    }
+    else
+    {
+        int const capacity = m_Capacity > std::numeric_limits<int>::max() / 2 ? std::numeric_limits<int>::max()
+                                                                              : std::max(4, m_Capacity * 2);
+        CVisualElement** const items = new CVisualElement*[static_cast<std::size_t>(capacity)];
+        if (m_Count > 0)
+            std::memcpy(items, m_Items + m_Head, static_cast<std::size_t>(m_Count) * sizeof(void*));
+        delete[] m_Items;
+        m_Items = items;
+        m_Capacity = capacity;
+    }
+    m_Head = 0;
+}
+
 void CChildren::Append(CVisualElement* element)
 {
-    if (m_Head + m_Count == m_Capacity)
-    {
-        if (m_Head > m_Capacity / 2)
-        {
-            std::memmove(m_Items, m_Items + m_Head, static_cast<std::size_t>(m_Count) * sizeof(void*));
-        }
-        else
-        {
-            int const capacity = m_Capacity > std::numeric_limits<int>::max() / 2 ? std::numeric_limits<int>::max()
-                                                                                  : std::max(4, m_Capacity * 2);
-            CVisualElement** const items = new CVisualElement*[static_cast<std::size_t>(capacity)];
-            if (m_Count > 0)
-                std::memcpy(items, m_Items + m_Head, static_cast<std::size_t>(m_Count) * sizeof(void*));
-            delete[] m_Items;
-            m_Items = items;
-            m_Capacity = capacity;
-        }
-        m_Head = 0;
-    }
+    MakeRoom();
     m_Items[m_Head + m_Count++] = element;
 }
 

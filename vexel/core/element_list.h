@@ -60,6 +60,7 @@ public:
 private:
     friend class CVisualElement;
 
+    void MakeRoom();
     void Append(CVisualElement* element);
     void TakeFirst();
     void RemoveAt(int index);

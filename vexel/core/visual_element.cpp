@@ -93,6 +93,8 @@ void CVisualElement::ReParent(CVisualElement* parent, bool rearrange)
             if (!alive || m_Parent != oldParent.get())
                 return;
         }
+        if (target)
+            target->m_Children.MakeRoom();  // if there is no memory, the element stays where it is
         m_Parent->m_Children.RemoveItem(this);
         if (m_Parent->m_KeyDelegate == this)
             m_Parent->SetKeyDelegate(nullptr);

@@ -160,9 +160,9 @@ void CVisualElement::SetPos(rectangle<int> const& rect, bool force)
 // Siblings lie apart in memory, so that waiting for it is most of what a long list costs.
 void CVisualElement::Prefetch() const
 {
-    for (void const* place : {static_cast<void const*>(this), static_cast<void const*>(&m_SigSize),
-                              static_cast<void const*>(&m_Pos), static_cast<void const*>(&m_ValidRect),
-                              static_cast<void const*>(&m_Children)})
+    for (void const* place :
+         {static_cast<void const*>(this), static_cast<void const*>(&m_SigSize), static_cast<void const*>(&m_Pos),
+          static_cast<void const*>(&m_ValidRect), static_cast<void const*>(&m_Children)})
         __builtin_prefetch(place);
 }
 

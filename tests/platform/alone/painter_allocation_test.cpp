@@ -1,39 +1,9 @@
 // A program of its own, since it counts what the whole process allocates.
 
+#include "tests/support/allocation.h"
 #include "tests/support/canvas.h"
 
 #include <gtest/gtest.h>
-
-#include <cstddef>
-#include <cstdlib>
-#include <new>
-
-namespace
-{
-
-bool counting = false;
-int allocations = 0;
-
-}  // namespace
-
-void* operator new(std::size_t bytes)
-{
-    if (counting)
-        ++allocations;
-    if (void* const memory = std::malloc(bytes > 0 ? bytes : 1))
-        return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 namespace vexelbase::tests
 {
@@ -100,14 +70,8 @@ TEST(PainterAllocation, IsNoneFromTheSecondPaintOn)
     longName.name = "A font whose name is too long to be kept without memory of its own";
     PaintAll(painter, picture.get(), longName);
 
-    counting = true;
-    ::operator delete(::operator new(1));  // the counter works
-    int const before = allocations;
-    PaintAll(painter, picture.get(), longName);
-    PaintAll(painter, picture.get(), longName);
-    counting = false;
-    EXPECT_EQ(before, 1);
-    EXPECT_EQ(allocations, before);
+    EXPECT_EQ(vexel::test::CountAllocations([] { ::operator delete(::operator new(1)); }), 1);
+    EXPECT_EQ(vexel::test::CountAllocations([&] { PaintAll(painter, picture.get(), longName); }), 0);
 }
 
 }  // namespace vexelbase::tests

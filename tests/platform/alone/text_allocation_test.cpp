@@ -1,36 +1,11 @@
 // Counts allocations of the whole process, so this is a program of its own.
 
 #include "tests/platform/text_device.h"
+#include "tests/support/allocation.h"
 
 #include "vexel/platform/text_formatter.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <new>
-
-namespace
-{
-
-long g_Allocations = 0;
-
-}  // namespace
-
-void* operator new(std::size_t size)
-{
-    ++g_Allocations;
-    if (void* const memory = std::malloc(size ? size : 1))
-        return memory;
-    throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 namespace vexel::test
 {
@@ -46,10 +21,10 @@ protected:
     template <class Draw> long AllocationsOf(Draw draw)
     {
         draw();  // what is kept from then on
-        long const before = g_Allocations;
-        for (int i = 0; i < 10; ++i)
-            draw();
-        return g_Allocations - before;
+        return CountAllocations([&] {
+            for (int i = 0; i < 10; ++i)
+                draw();
+        });
     }
 
     rectangle<double> rect{0, 0, 150, 20};
@@ -81,9 +56,7 @@ TEST_F(TextAllocation, AlsoTheVeryFirstShortLineAllocatesNothing)
     painter.MeasureRun("x", 1);
     device.m_LastFont.name.reserve(100);
     painter.DrawString(rect, "warm", 0, -1);
-    long const before = g_Allocations;
-    painter.DrawString(rect, "Another line", 0x21, -1);
-    EXPECT_EQ(g_Allocations, before);
+    EXPECT_EQ(CountAllocations([&] { painter.DrawString(rect, "Another line", 0x21, -1); }), 0);
 }
 
 TEST_F(TextAllocation, MeasuringAllocatesNothing)

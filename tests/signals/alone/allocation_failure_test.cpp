@@ -1,16 +1,15 @@
-// Every allocation in turn fails, and everything is as it was before. The operators stand for the whole program.
+// Every allocation in turn fails, and everything is as it was before.
 
 #include "tests/signals/receiver.h"
 #include "tests/signals/reports.h"
+#include "tests/support/allocation.h"
 #include "vexel/signals/notify.h"
 #include "vexel/signals/signal.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <functional>
 #include <memory>
-#include <new>
 #include <string>
 #include <thread>
 #include <vector>
@@ -18,69 +17,12 @@
 namespace
 {
 
-constexpr long never = -1;
-thread_local long s_untilFailure = never;  // allocations that still succeed
-thread_local long s_made = 0;
-thread_local long s_alive = 0;
-
-void* Allocate(std::size_t size)
-{
-    if (s_untilFailure == 0)
-        return nullptr;
-    if (s_untilFailure > 0)
-        --s_untilFailure;
-    ++s_made;
-    ++s_alive;
-    return std::malloc(size ? size : 1);
-}
-
-void Free(void* memory)
-{
-    if (memory)
-        --s_alive;
-    std::free(memory);
-}
-
-}  // namespace
-
-void* operator new(std::size_t size)
-{
-    void* const memory = Allocate(size);
-    if (!memory)
-        throw std::bad_alloc();
-    return memory;
-}
-void* operator new[](std::size_t size)
-{
-    return operator new(size);
-}
-void* operator new(std::size_t size, std::nothrow_t const&) noexcept
-{
-    return Allocate(size);
-}
-void operator delete(void* memory) noexcept
-{
-    Free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept
-{
-    Free(memory);
-}
-void operator delete[](void* memory) noexcept
-{
-    Free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept
-{
-    Free(memory);
-}
-
-namespace
-{
-
 using namespace vexelbase;
 using plinth::signal_t;
 using plinth::subscriber_base_t;
+using vexel::test::FailAtEach;
+using vexel::test::NoFailure;
+using vexel::test::SAllocations;
 
 class CCounter : public subscriber_base_t
 {
@@ -90,35 +32,6 @@ public:
 
     int m_Calls = 0;
 };
-
-/// Runs `deed` with its first, second, third ... allocation failing, each time on what `before` has made anew, until it
-/// succeeds. `after` looks at what a failure left. Returns the number of failures.
-template <class World>
-int FailAtEach(std::function<void(World&)> const& before, std::function<void(World&)> const& deed,
-               std::function<void(World&)> const& after)
-{
-    for (long allowed = 0;; ++allowed)
-    {
-        World world;
-        before(world);
-        bool failed = false;
-        s_untilFailure = allowed;
-        try
-        {
-            deed(world);
-        }
-        catch (std::bad_alloc const&)
-        {
-            failed = true;
-        }
-        s_untilFailure = never;
-        if (!failed)
-            return static_cast<int>(allowed);
-        after(world);
-        // And nothing stands in the way of a second try.
-        deed(world);
-    }
-}
 
 struct SWorld
 {
@@ -138,12 +51,12 @@ bool IsFree(signal_t<>& signal)
 
 TEST(AllocationFailure, AConstructedSignalTakesNoMemory)
 {
-    long const before = s_made;
+    long const before = SAllocations::s_Made;
     {
         signal_t<int, std::string const&> signal;
         signal(1, std::string());
     }
-    EXPECT_EQ(s_made, before);
+    EXPECT_EQ(SAllocations::s_Made, before);
 }
 
 TEST(AllocationFailure, AnEmissionTakesNoMemory)
@@ -156,10 +69,10 @@ TEST(AllocationFailure, AnEmissionTakesNoMemory)
     std::vector<SAdds> receivers(100);
     for (SAdds& receiver : receivers)
         signal.connect(&receiver, &SAdds::Slot);
-    long const before = s_made;
+    long const before = SAllocations::s_Made;
     int value = 0;
     signal(value);
-    EXPECT_EQ(s_made, before);
+    EXPECT_EQ(SAllocations::s_Made, before);
     EXPECT_EQ(value, 100);
 }
 
@@ -169,13 +82,13 @@ TEST(AllocationFailure, AConnectionThatComesAndGoesTakesMemoryOnlyTheFirstTime)
     CCounter receiver;
     signal.connect(&receiver, &CCounter::Slot);
     signal.disconnect(&receiver, &CCounter::Slot);
-    long const before = s_made;
+    long const before = SAllocations::s_Made;
     for (int i = 0; i < 100; ++i)
     {
         signal.connect(&receiver, &CCounter::Slot);
         signal.disconnect(&receiver, &CCounter::Slot);
     }
-    EXPECT_EQ(s_made, before);
+    EXPECT_EQ(SAllocations::s_Made, before);
 }
 
 TEST(AllocationFailure, InTheFirstConnectLeavesBothUnconnected)
@@ -291,12 +204,12 @@ TEST(AllocationFailure, DisconnectingAndDyingTakeNoMemory)
         world.others.push_back(std::make_unique<signal_t<>>());
         world.others.back()->connect(&world.receiver, &CCounter::Slot);
     }
-    s_untilFailure = 0;
+    SAllocations::s_UntilFailure = 0;
     world.signal.disconnect(world.receivers[3].get(), &CCounter::Slot);
     world.receivers.erase(world.receivers.begin(), world.receivers.begin() + 20);
     world.others.clear();
     world.signal._erase_all();
-    s_untilFailure = never;
+    SAllocations::s_UntilFailure = NoFailure;
     EXPECT_EQ(world.signal.connection_count(), 0u);
     EXPECT_EQ(world.receiver.signal_count(), 0u);
 }
@@ -327,7 +240,7 @@ TEST(Memory, OfASignalThatDiesInItsEmissionsIsGivenBackOnce)
         {
             for (bool throws : {false, true})
             {
-                long const before = s_alive;
+                long const before = SAllocations::s_Alive;
                 {
                     SDies dies;
                     dies.m_Levels = levels;
@@ -347,7 +260,8 @@ TEST(Memory, OfASignalThatDiesInItsEmissionsIsGivenBackOnce)
                     }
                     EXPECT_FALSE(dies.m_Signal);
                 }
-                EXPECT_EQ(s_alive, before) << levels << " levels, " << others << " others, throws: " << throws;
+                EXPECT_EQ(SAllocations::s_Alive, before)
+                    << levels << " levels, " << others << " others, throws: " << throws;
             }
         }
     }
@@ -359,7 +273,7 @@ TEST(Memory, OfIdleSignalsAndReceiversIsGivenBackInWhateverOrderTheyDie)
     {
         for (int count : {1, 3, 40})
         {
-            long const before = s_alive;
+            long const before = SAllocations::s_Alive;
             {
                 auto signal = std::make_unique<signal_t<>>();
                 auto relay = std::make_unique<signal_t<>>();
@@ -378,7 +292,7 @@ TEST(Memory, OfIdleSignalsAndReceiversIsGivenBackInWhateverOrderTheyDie)
                     receivers.clear();
                 relay.reset();
             }
-            EXPECT_EQ(s_alive, before) << count << " receivers, signal first: " << signalFirst;
+            EXPECT_EQ(SAllocations::s_Alive, before) << count << " receivers, signal first: " << signalFirst;
         }
     }
 }

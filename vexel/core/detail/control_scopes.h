@@ -13,11 +13,15 @@ struct CBaseControlImp::SPass
     explicit SPass(CBaseControlImp* control) : m_Control(control), m_Outer(control->m_Passes)
     {
         control->m_Passes = this;
+        m_Entries.TakeFrom(control->m_SpareEntries);
     }
     ~SPass()
     {
-        if (m_Control)
-            m_Control->m_Passes = m_Outer;
+        if (!m_Control)
+            return;
+        m_Control->m_Passes = m_Outer;
+        m_Entries.Clear(0);
+        m_Control->m_SpareEntries.TakeFrom(m_Entries);
     }
     SPass(SPass const&) = delete;
     SPass& operator=(SPass const&) = delete;

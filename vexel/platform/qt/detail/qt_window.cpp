@@ -190,7 +190,8 @@ void CQtWindow::PresentDamage()
         {
             int const left = FloorToInt(rect->left / m_Ratio);
             int const top = FloorToInt(rect->top / m_Ratio);
-            region += QRect(left, top, CeilToInt(rect->right / m_Ratio) - left, CeilToInt(rect->bottom / m_Ratio) - top);
+            region +=
+                QRect(left, top, CeilToInt(rect->right / m_Ratio) - left, CeilToInt(rect->bottom / m_Ratio) - top);
         }
         m_Widget->update(region);
         if (s_ShowRepaints)
