@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
-"""hello_test.py PROGRAMS: the example on a real window: it is painted, and a click changes what it says."""
+"""hello_test.py PROGRAMS: the example on a real window: it is painted, a click changes what it says, and while nobody
+touches it, it sleeps."""
 import pathlib
 import sys
 import tempfile
+import time
 
 from display import Display, Program, eventually
 
@@ -22,6 +24,18 @@ def ink(display, window):
     return {i for i, color in enumerate(colors) if color != colors[0]}
 
 
+def wake_ups(process):
+    """How often the process has gone to sleep so far, all its threads together."""
+    return sum(int(line.split()[1]) for status in pathlib.Path(f"/proc/{process}/task").glob("*/status")
+               for line in status.read_text().splitlines() if line.startswith("voluntary_ctxt_switches"))
+
+
+def stays_asleep(process, seconds):
+    before = wake_ups(process)
+    time.sleep(seconds)
+    return wake_ups(process) == before
+
+
 with Display() as display, Program(display, [programs / "example_hello"]) as program:
     window = display.wait_for_window("Hello")
     before = eventually(lambda: ink(display, window), "the text to be painted")
@@ -32,3 +46,5 @@ with Display() as display, Program(display, [programs / "example_hello"]) as pro
     after = eventually(lambda: ink(display, window) - before and ink(display, window), "the text to change")
     assert before - after, "the first text is gone"
     print(f"{len(before)} pixels of text became {len(after)}")
+    # Effects of the click may still come in; then there is nothing to wake up for.
+    eventually(lambda: stays_asleep(program.process.pid, 1.5), "a second and a half without any wake-up")

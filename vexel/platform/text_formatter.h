@@ -48,10 +48,10 @@ private:
     SWord m_Pending;
 };
 
-/// Text with mark-up: <b>, <i>, <u>, <br>, <a href="target">, and the entities &lt; &gt; &amp; &quot; &apos; &nbsp; and
-/// &#...;. Names in any case. Unknown tags are dropped, a "<" that begins no tag and an unknown "&" stand for themselves.
-/// Tags of one kind nest; a link ends the link around it, and so does an <a> without target. Mark-up at the end makes no
-/// line of its own. Takes time in proportion to the text, however it is nested; tags that were never opened or closed
+/// Text with mark-up: `<b>`, `<i>`, `<u>`, `<br>`, `<a href="target">`, and the entities `&lt;` `&gt;` `&amp;` `&quot;`
+/// `&apos;` `&nbsp;` and `&#...;`. Names in any case. Unknown tags are dropped, a `<` that begins no tag and an unknown
+/// `&` stand for themselves. Tags of one kind nest; a link ends the link around it, and so does an `<a>` without target.
+/// Mark-up at the end makes no line of its own. Takes time in proportion to the text, however it is nested; tags that were never opened or closed
 /// do no harm.
 class VEXEL_API CHTMLTextFormatter : public CDefTextFormatter
 {

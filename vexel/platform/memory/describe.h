@@ -14,10 +14,10 @@ namespace vexelbase::memory
 
 /// The shortest text that reads back equal: 3, 1.5.
 VEXEL_MEMORY_API std::string DescribeNumber(double value);
-/// Quoted; \n \t \" \\ and \xNN for control characters.
+/// Quoted; `\n` `\t` `\"` `\\` and `\xNN` for control characters.
 VEXEL_MEMORY_API std::string DescribeText(std::string const& text);
 VEXEL_MEMORY_API std::string DescribeCharacter(char value);  ///< 'x'.
-/// A name of the colour table, or #RRGGBB; "/AA" behind it where the top byte isn't FF; "none".
+/// A name of the colour table, or `#RRGGBB`; "/AA" behind it where the top byte isn't FF; "none".
 VEXEL_MEMORY_API std::string DescribeColor(_color const& color);
 VEXEL_MEMORY_API std::string DescribePen(pen const& value);      ///< red, red dash 3, none.
 VEXEL_MEMORY_API std::string DescribeBrush(brush const& value);  ///< red, none.
