@@ -33,7 +33,7 @@ namespace vexel::test
 /// Coordinates are those of the call: an element's own pixels as a rule. Numbers are as short as they can be. A colour
 /// is a name of the colour table (none black yellow blue magenta red darkgrey grey white orange cyan green brown
 /// midnightblue turquoise limegreen paleyellow lightgrey palepink palegreen sand) or `#RRGGBB`, followed by "/AA" where
-/// its top byte isn't FF. Texts are quoted, with `\n`, `\"` and `\\` for what would be hard to read.
+/// its top byte isn't FF. Texts are quoted, and escaped as in C++ where they would be hard to read.
 /// Queries and texts that are only measured are left out, and so are the calls that the painter makes itself.
 /// A call on the painter of a picture begins with "picture ".
 class VEXEL_TESTING_API PaintLog

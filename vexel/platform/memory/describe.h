@@ -14,7 +14,7 @@ namespace vexelbase::memory
 
 /// The shortest text that reads back equal: 3, 1.5.
 VEXEL_MEMORY_API std::string DescribeNumber(double value);
-/// Quoted; `\n` `\t` `\"` `\\` and `\xNN` for control characters.
+/// Quoted; quotes, backslashes and control characters are escaped as in C++.
 VEXEL_MEMORY_API std::string DescribeText(std::string const& text);
 VEXEL_MEMORY_API std::string DescribeCharacter(char value);  ///< 'x'.
 /// A name of the colour table, or `#RRGGBB`; "/AA" behind it where the top byte isn't FF; "none".
