@@ -78,3 +78,69 @@ TEST(Flashing, HandsPalettesToTheirTargetsAndBack)
     routine.ProcessNormal();
     EXPECT_EQ(target.m_Palette.get(), normal.get());
 }
+
+TEST(Flashing, ATargetMayAddARecordWhileTheSetIsSwitched)
+{
+    class CTarget : public IPaletteSupport
+    {
+    public:
+        explicit CTarget(CPaletteRoutine& routine) : m_Routine(routine) {}
+        void SetPalette(vexel_ptr<ICustomPaletteEx> palette) override
+        {
+            ++m_Switches;
+            for (int i = 0; i < 50; ++i)
+                m_Routine.AddElement(this, palette);
+        }
+        vexel_ptr<ICustomPaletteEx> GetPalette() override { return {}; }
+        int m_Switches = 0;
+
+    private:
+        CPaletteRoutine& m_Routine;
+    };
+    CPaletteRoutine routine;
+    CTarget one(routine);
+    CTarget two(routine);
+    routine.AddElement(&one, CreateCustomPalette());
+    routine.AddElement(&two, CreateCustomPalette());
+
+    routine.ProcessFlashed();
+
+    EXPECT_EQ(one.m_Switches, 1);  // what was added meanwhile waits for the next switching
+    EXPECT_EQ(two.m_Switches, 1);
+    EXPECT_EQ(routine.GetCount(), 102);
+}
+
+TEST(Flashing, AnElementMayAddARecordWhileTheSetIsSwitched)
+{
+    class CLamp : public CVisualElement
+    {
+    public:
+        using CVisualElement::CVisualElement;
+        CBkFgRoutine* m_Routine = nullptr;
+        int m_Changes = 0;
+
+    protected:
+        void AttributeChanged() override
+        {
+            if (!m_Routine)
+                return;
+            ++m_Changes;
+            for (int i = 0; i < 50; ++i)
+                m_Routine->AddElement(this, color_table[1], color_table[1]);
+        }
+    };
+    CLamp one(nullptr, {5, 5}, alNone);
+    CLamp two(nullptr, {5, 5}, alNone);
+    CBkFgRoutine routine;
+    routine.AddElement(&one, color_table[9], color_table[6]);
+    routine.AddElement(&two, color_table[9], color_table[6]);
+    one.m_Routine = &routine;
+    two.m_Routine = &routine;
+
+    routine.ProcessFlashed();
+
+    EXPECT_EQ(one.m_Changes, 2);
+    EXPECT_EQ(two.m_Changes, 2);
+    EXPECT_EQ(two.GetBkColor(), color_table[6]);
+    EXPECT_EQ(routine.GetCount(), 202);
+}
