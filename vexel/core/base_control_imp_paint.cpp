@@ -26,8 +26,22 @@ void CBaseControlImp::ProcessDraw(IPainter* painter)
         m_Rearranges.Clear(0);
     }
     bool draw = m_RearrangeNeeded || m_FullUpdate || m_Updates.GetCount() > 0;
-    LayOutForPaint();
-    if (!alive || !surface)
+    try
+    {
+        LayOutForPaint();
+    }
+    catch (...)
+    {
+        if (alive)
+        {
+            // Nobody knows how far it came.
+            m_RearrangeNeeded = true;
+            m_Rearranges.AddElement(m_Root);
+            m_FullUpdate = true;
+        }
+        throw;
+    }
+    if (!alive || !surface || !FindWindow())
         return;
     // The item of the last paint must go, even if nobody waits.
     draw = draw || m_DraggedElement || (m_MouseFlags & mfPutBackground);
