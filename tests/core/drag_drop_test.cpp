@@ -437,3 +437,20 @@ TEST_F(DragDrop, ADropThatIsCancelledLeavesNoTargetBehind)
 
     EXPECT_EQ(m_Target.TakeTold(), "");
 }
+
+TEST_F(DragDrop, AMoveThatIsCancelledOverTheTargetMovesTheItemOnce)
+{
+    Start();  // the item stands at (3, 0, 33, 39)
+    {
+        auto const slot = Listen(m_Target.m_SigDragOver, [](CVisualElement*, CVisualElement*, DragInfo*, bool*, bool*) {
+            throw vexel::cancel_processing();
+        });
+        m_Host.Mouse().Move(50, 10);
+    }
+
+    m_Host.Mouse().Move(60, 10);
+    m_Host.Paint();
+
+    EXPECT_EQ(m_Source.m_Drawn, "refused 50 0 80 39; ");
+    m_Host.Mouse().Release();
+}

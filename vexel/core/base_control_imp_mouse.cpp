@@ -82,7 +82,10 @@ void CBaseControlImp::ProcessMouseMove(CMouseEvent* event)
         MoveDrag(position);
         alive.Check();
     }
-    m_LastMousePos = position;
+    else
+    {
+        m_LastMousePos = position;
+    }
 }
 
 void CBaseControlImp::ProcessButtonDown(CMouseEvent* event)
@@ -259,6 +262,7 @@ void CBaseControlImp::MoveDrag(point<int> const& position)
 
     int const dx = SubtractSaturated(position.x, m_LastMousePos.x);
     int const dy = SubtractSaturated(position.y, m_LastMousePos.y);
+    m_LastMousePos = position;  // at once: the item must not go this way twice if a slot ends the event
     rectangle<int>& rect = info->m_Rect;
     rect = {AddSaturated(rect.left, dx), AddSaturated(rect.top, dy), AddSaturated(rect.right, dx),
             AddSaturated(rect.bottom, dy)};
