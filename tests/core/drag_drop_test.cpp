@@ -454,3 +454,22 @@ TEST_F(DragDrop, AMoveThatIsCancelledOverTheTargetMovesTheItemOnce)
     EXPECT_EQ(m_Source.m_Drawn, "refused 50 0 80 39; ");
     m_Host.Mouse().Release();
 }
+
+TEST_F(DragDrop, ADragWithoutABackgroundWipesTheItemOfTheLastOne)
+{
+    Start();
+    m_Host.Mouse().Move(50, 10);
+    m_Host.Paint();
+    m_Host.Mouse().Release();
+    DragInfo info;
+    info.m_Rect = {0, 0, 5, 5};
+    info.m_GlobalUpdate = false;
+    info.m_UseBackground = false;
+    m_Host.Control().GetControl()->StartDragging(&m_Source, info);
+
+    m_Host.Paint();
+
+    EXPECT_EQ(m_Host.PixelAt(60, 5), color_table[9]);
+    EXPECT_EQ(m_Host.Paint().Count("ExtractRasterPicture*"), 0);
+    m_Host.Mouse().Release();
+}
