@@ -4,6 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+#include <new>
+
 using namespace vexel;
 using namespace vexel::test;
 
@@ -143,4 +148,58 @@ TEST(Flashing, AnElementMayAddARecordWhileTheSetIsSwitched)
     EXPECT_EQ(two.m_Changes, 2);
     EXPECT_EQ(two.GetBkColor(), color_table[6]);
     EXPECT_EQ(routine.GetCount(), 202);
+}
+
+TEST(Flashing, AColourOfValueZeroIsBlackAndNotNone)
+{
+    CVisualElement element(nullptr, {5, 5}, alNone);
+    element.SetFgColor(color_table[6]);
+    element.SetBkColor(color_table[3]);
+    CBkFgRoutine routine;
+    routine.AddElement(&element, _color(0), _color(0));
+
+    routine.ProcessFlashed();
+
+    EXPECT_EQ(element.GetFgColor(), _color(0));
+    EXPECT_EQ(element.GetBkColor(), _color(0));
+}
+
+TEST(Flashing, AnElementThatDiesInItsFirstColourIsLeftAlone)
+{
+    // Dies in place, so that the test sees who still writes to it.
+    class CMortal : public CVisualElement
+    {
+    public:
+        explicit CMortal(bool& armed) : CVisualElement(nullptr, {5, 5}, alNone), m_Armed(armed) {}
+
+    protected:
+        void AttributeChanged() override
+        {
+            if (!m_Armed)
+                return;
+            void* const memory = this;
+            this->~CMortal();
+            std::memset(memory, 0, sizeof(CMortal));
+        }
+
+    private:
+        bool& m_Armed;
+    };
+    for (bool const flashed : {true, false})
+    {
+        alignas(CMortal) unsigned char memory[sizeof(CMortal)];
+        bool armed = false;
+        SBkFgElement record;
+        record.m_Element = ::new (memory) CMortal(armed);
+        record.m_FlashedFg = record.m_NormalFg = color_table[6];
+        record.m_FlashedBk = record.m_NormalBk = color_table[3];
+        armed = true;
+
+        if (flashed)
+            record.ProcessFlashed();
+        else
+            record.ProcessNormal();
+
+        EXPECT_EQ(std::count(std::begin(memory), std::end(memory), 0), static_cast<long>(sizeof(CMortal))) << flashed;
+    }
 }
