@@ -323,6 +323,24 @@ TEST_F(DragRules, ThePictureOfTheScreenIsDroppedWithTheFirstPaintAfterTheDrag)
     m_Host.Mouse().Release();
 }
 
+TEST_F(DragRules, ADragStartedByProgramBeforeTheLastItemWasWipedSavesTheScreenAnew)
+{
+    StartByProgram(false);
+    m_Host.Mouse().Move(40, 12);
+    m_Host.Paint();
+    m_Host.Mouse().Release();
+    StartByProgram(false);
+    m_Host.Mouse().Move(45, 20);
+    m_Host.Paint();
+
+    m_Host.Mouse().Move(80, 12);
+    m_Host.Paint();
+
+    EXPECT_EQ(m_Host.PixelAt(47, 22), color_table[9]);
+    EXPECT_EQ(m_Host.PixelAt(82, 14), color_table[6]);
+    m_Host.Mouse().Release();
+}
+
 TEST_F(DragRules, ASlotThatHandlesTheDrawingSparesTheHandler)
 {
     auto const draw = Listen(m_Source.m_SigDrawDragItem, [](CVisualElement*, CVisualElement*, IPainter*, DragInfo*,

@@ -1,3 +1,4 @@
+#include "tests/support/scripted_system.h"
 #include "vexel/core/flashing.h"
 #include "vexel/core/visual_element.h"
 #include "vexel/testing/test_kit.h"
@@ -152,6 +153,7 @@ TEST(Flashing, AnElementMayAddARecordWhileTheSetIsSwitched)
 
 TEST(Flashing, AColourOfValueZeroIsBlackAndNotNone)
 {
+    CTestHost host(60, 20);  // with a palette
     CVisualElement element(nullptr, {5, 5}, alNone);
     element.SetFgColor(color_table[6]);
     element.SetBkColor(color_table[3]);
@@ -202,4 +204,20 @@ TEST(Flashing, AnElementThatDiesInItsFirstColourIsLeftAlone)
 
         EXPECT_EQ(std::count(std::begin(memory), std::end(memory), 0), static_cast<long>(sizeof(CMortal))) << flashed;
     }
+}
+
+TEST(Flashing, WithoutAPaletteOfTheSystemNoneStaysNone)
+{
+    CScriptedSystem system;
+    system.m_HasPalette = false;
+    CVisualElement element(nullptr, {5, 5}, alNone);
+    element.SetFgColor(color_table[6]);
+    element.SetBkColor(color_table[3]);
+    CBkFgRoutine routine;
+    routine.AddElement(&element, color_table[0], color_table[0]);
+
+    routine.ProcessFlashed();
+
+    EXPECT_EQ(element.GetFgColor(), color_table[0]);
+    EXPECT_EQ(element.GetBkColor(), color_table[0]);
 }

@@ -293,6 +293,18 @@ TEST_F(InputRules, AKeyThatAChildConsumedCountsAsConsumedAtTheRoot)
     EXPECT_EQ(m_Log.Text(), "one:KeyDown");
 }
 
+TEST_F(InputRules, ADelegateBelowAChildIsAskedOnceAndItsOwnerToo)
+{
+    auto& deep = *new CHearing(m_Log, "deep", &m_One, {5, 5}, alTop);
+    m_Box.SetKeyDelegate(&deep);
+    m_Box.SetCanHaveFocus(true);
+    m_Box.SetFocus(false);
+
+    m_Host.Keyboard().Down(vkReturn);
+
+    EXPECT_EQ(m_Log.Text(), "deep:KeyDown one:KeyDown box:KeyDown");
+}
+
 // Tips and menus ----------------------------------------------------------------------------------------------------------------
 
 TEST_F(InputRules, ATipIsMultilineIfItsElementSaysSo)
