@@ -141,6 +141,21 @@ TEST_F(DragRules, ASlotThatHandlesTheStartSparesTheHandler)
     EXPECT_EQ(m_Source.TakeTold(), "");
 }
 
+TEST_F(DragRules, ASourceThatLeavesWhileItIsAskedIsNotDragged)
+{
+    auto const leave = Listen(m_Source.m_SigStartDragging, [&](CVisualElement*, int, int, DragInfo*, bool*, bool*) {
+        m_Source.ReParent(nullptr, false);
+    });
+
+    m_Host.Mouse().Press(10, 10);
+    m_Host.Mouse().Move(20, 10);
+
+    EXPECT_EQ(Control().GetDraggedElement(), nullptr);
+    EXPECT_FALSE(m_Host.Window().HasCapture());
+    m_Host.Mouse().Release();
+    delete &m_Source;
+}
+
 // Moves -------------------------------------------------------------------------------------------------------------------------
 
 TEST_F(DragRules, TheCapturingElementIsAskedWhereverThePointerIs)
@@ -339,6 +354,34 @@ TEST_F(DragRules, ADragStartedByProgramBeforeTheLastItemWasWipedSavesTheScreenAn
     EXPECT_EQ(m_Host.PixelAt(47, 22), color_table[9]);
     EXPECT_EQ(m_Host.PixelAt(82, 14), color_table[6]);
     m_Host.Mouse().Release();
+}
+
+TEST_F(DragRules, ADragWithoutABackgroundFindsNoPictureOfALastOne)
+{
+    StartByProgram(false);
+    m_Host.Mouse().Move(40, 12);
+    m_Host.Paint();
+    m_Host.Mouse().Release();
+    m_Host.Paint();
+
+    StartByProgram(false, false);
+    PaintLog const paint = m_Host.FullPaint();
+
+    EXPECT_EQ(paint.Count("ExtractRasterPicture*"), 0);
+    EXPECT_EQ(paint.Count("DrawRasterPicture*"), 0);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragRules, OnlyTheFirstPaintAfterTheDragPaintsUnasked)
+{
+    StartByProgram(false);
+    m_Host.Mouse().Move(40, 12);
+    m_Host.Paint();
+    m_Host.Mouse().Release();
+    m_Host.Paint();
+    m_Host.Window().InvalidateRect(0, 0, 100, 40);
+
+    EXPECT_EQ(m_Host.Paint().Elements(), "");
 }
 
 TEST_F(DragRules, ASlotThatHandlesTheDrawingSparesTheHandler)

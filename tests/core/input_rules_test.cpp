@@ -214,6 +214,32 @@ TEST_F(InputRules, TheWalkIntoAContainerPassesOverHiddenAndDisabledOnesInside)
     EXPECT_EQ(m_Box.GetPrevTabElement(&m_Two), &m_Two);
 }
 
+TEST_F(InputRules, AContainerThatAnswersTheStartOfTheWalkIsPassedOver)
+{
+    class CRing : public CVisualElement
+    {
+    public:
+        using CVisualElement::CVisualElement;
+        CVisualElement* GetFirstTabElement() override { return m_Answer; }
+        CVisualElement* GetLastTabElement() override { return m_Answer; }
+        CVisualElement* m_Answer = nullptr;
+    };
+    auto& parent = *new CVisualElement(m_Host.Root(), {20, 0}, alLeft);
+    auto& before = *new CRing(&parent, {5, 5}, alTop);
+    auto& start = *new CRing(&parent, {5, 5}, alTop);
+    auto& behind = *new CRing(&parent, {5, 5}, alTop);
+    auto& last = *new CVisualElement(&parent, {5, 5}, alTop);
+    for (CRing* ring : {&before, &start, &behind})
+        ring->m_Answer = &start;
+    start.SetCanHaveFocus(true);
+    last.SetCanHaveFocus(true);
+
+    EXPECT_EQ(parent.GetNextTabElement(&start), &last);
+    EXPECT_EQ(parent.GetPrevTabElement(&last), &start);
+    behind.m_Answer = nullptr;
+    EXPECT_EQ(parent.GetPrevTabElement(&start), &start);
+}
+
 TEST_F(InputRules, TheFirstElementIsTheRootIfItCanHaveTheFocusTheLastOneNever)
 {
     AllCanHaveFocus();
@@ -240,6 +266,27 @@ TEST_F(InputRules, TheNextAndThePreviousElementAreThoseOfTheWalk)
     CVisualElement alone(nullptr, {5, 5}, alNone);
     EXPECT_EQ(Imp().GetNextElement(&alone), &alone);
     EXPECT_EQ(Imp().GetPrevElement(&alone), &alone);
+}
+
+TEST_F(InputRules, ARootMayWalkOnFromItself)
+{
+    class CRoot : public CVisualElement
+    {
+    public:
+        using CVisualElement::CVisualElement;
+        CVisualElement* GetNextTabElement(CVisualElement*) override { return m_Inner; }
+        CVisualElement* m_Inner = new CVisualElement(this, {5, 5}, alTop);
+    };
+    auto& root = *new CRoot(nullptr, {0, 0}, alClient);
+    m_Host.Control().SetContent(&root);
+    root.SetCanHaveFocus(true);
+    root.m_Inner->SetCanHaveFocus(true);
+    m_Host.Focus();
+    ASSERT_EQ(Control().GetFocusedElement(), &root);
+
+    m_Host.Keyboard().Down(vkTab);
+
+    EXPECT_EQ(Control().GetFocusedElement(), root.m_Inner);
 }
 
 TEST_F(InputRules, ShiftTabWithoutAFocusedElementGoesToTheLastOne)
