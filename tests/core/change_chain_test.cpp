@@ -362,3 +362,42 @@ TEST_F(ChangeChain, AGlobalUpdateSurvivesAChildThatLeavesDuringIt)
 }
 
 }  // namespace
+
+// Loops over children --------------------------------------------------------------------------------------------------------
+
+namespace
+{
+
+// Gets a new sibling whenever the control tells it something, up to a limit that no loop may come to.
+class CBreeding : public CVisualElement
+{
+public:
+    using CVisualElement::CVisualElement;
+
+protected:
+    void HandleControlDestroy() override { Breed(); }
+    void HandleControlChangeFocus(bool) override { Breed(); }
+    void SysColorsChanged() override { Breed(); }
+
+private:
+    void Breed()
+    {
+        if (GetParent()->GetChildren()->GetCount() < 100)
+            new CBreeding(GetParent(), {5, 5}, alNone);
+    }
+};
+
+}  // namespace
+
+TEST(ChildrenAddedMeanwhile, AreNotReachedByTheLoopThatIsUnderWay)
+{
+    CVisualElement parent(nullptr, {50, 50}, alNone);
+    new CBreeding(&parent, {5, 5}, alNone);
+
+    parent.ProcessControlDestroy();
+    EXPECT_EQ(parent.GetChildren()->GetCount(), 2);
+    parent.ProcessControlChangeFocus(true);
+    EXPECT_EQ(parent.GetChildren()->GetCount(), 4);
+    parent.ProcessSysColorChanged();
+    EXPECT_EQ(parent.GetChildren()->GetCount(), 8);
+}

@@ -1,9 +1,11 @@
 // Drag and drop within a control.
 
+#include "tests/support/slot.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
 #include "vexel/core/visual_element.h"
 #include "vexel/platform/painter.h"
+#include "vexel/signals/cancel_processing.h"
 #include "vexel/testing/test_kit.h"
 
 #include <gtest/gtest.h>
@@ -389,4 +391,85 @@ TEST_F(DragDrop, ANewDragStartedBeforeTheLastItemWasWipedLeavesNothingOfIt)
     m_Host.Paint();
 
     EXPECT_EQ(m_Host.PixelText().find('r'), std::string::npos);
+}
+
+TEST_F(DragDrop, AnElementThatDiesWhileItIsDraggedLeavesNoTargetBehind)
+{
+    auto& spare = *new CTile(m_Host.Root(), {10, 0}, alRight);
+    m_Host.Paint();
+    m_Target.m_Accepts = true;
+    Start();
+    {
+        auto const slot = Listen(m_Target.m_SigDragOver,
+                                 [&](CVisualElement* source, CVisualElement*, DragInfo*, bool*, bool* handled) {
+                                     *handled = true;
+                                     delete source;
+                                 });
+        auto const accept = Listen(m_Target.m_SigDragOver, [](CVisualElement*, CVisualElement*, DragInfo*,
+                                                              bool* accepted, bool*) { *accepted = true; });
+        m_Host.Mouse().Move(50, 10);
+    }
+    EXPECT_EQ(Dragged(), nullptr);
+    EXPECT_EQ(m_Host.Control().GetControl()->GetDragTarget(), nullptr);
+
+    m_Host.Control().GetControl()->StartDragging(&spare, DragInfo());
+    m_Host.Mouse().Release();
+
+    EXPECT_EQ(m_Target.TakeTold(), "");
+    EXPECT_EQ(spare.TakeTold(), "finished(null, 0 0 0 0) ");
+}
+
+TEST_F(DragDrop, ADropThatIsCancelledLeavesNoTargetBehind)
+{
+    m_Target.m_Accepts = true;
+    Start();
+    m_Host.Mouse().Move(50, 10);
+    {
+        auto const slot = Listen(m_Target.m_SigDropDone, [](CVisualElement*, CVisualElement*, int, int, DragInfo*,
+                                                            bool*) { throw vexel::cancel_processing(); });
+        m_Host.Mouse().Release();
+    }
+    EXPECT_EQ(m_Host.Control().GetControl()->GetDragTarget(), nullptr);
+    m_Target.m_Told.clear();
+
+    m_Host.Control().GetControl()->StartDragging(&m_Source, DragInfo());
+    m_Host.Mouse().Release();
+
+    EXPECT_EQ(m_Target.TakeTold(), "");
+}
+
+TEST_F(DragDrop, AMoveThatIsCancelledOverTheTargetMovesTheItemOnce)
+{
+    Start();  // the item stands at (3, 0, 33, 39)
+    {
+        auto const slot = Listen(m_Target.m_SigDragOver, [](CVisualElement*, CVisualElement*, DragInfo*, bool*, bool*) {
+            throw vexel::cancel_processing();
+        });
+        m_Host.Mouse().Move(50, 10);
+    }
+
+    m_Host.Mouse().Move(60, 10);
+    m_Host.Paint();
+
+    EXPECT_EQ(m_Source.m_Drawn, "refused 50 0 80 39; ");
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragDrop, ADragWithoutABackgroundWipesTheItemOfTheLastOne)
+{
+    Start();
+    m_Host.Mouse().Move(50, 10);
+    m_Host.Paint();
+    m_Host.Mouse().Release();
+    DragInfo info;
+    info.m_Rect = {0, 0, 5, 5};
+    info.m_GlobalUpdate = false;
+    info.m_UseBackground = false;
+    m_Host.Control().GetControl()->StartDragging(&m_Source, info);
+
+    m_Host.Paint();
+
+    EXPECT_EQ(m_Host.PixelAt(60, 5), color_table[9]);
+    EXPECT_EQ(m_Host.Paint().Count("ExtractRasterPicture*"), 0);
+    m_Host.Mouse().Release();
 }

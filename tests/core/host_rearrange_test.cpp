@@ -678,6 +678,14 @@ TEST_F(FirstPaint, PaintsTheWholeTreeAndDropsWhatWaited)
     EXPECT_EQ(Paint(), "");
 }
 
+TEST_F(FirstPaint, PaintsARootThatOneChildFillsToo)
+{
+    CRecordingElement client(m_Log, "client", m_Root, {0, 0}, alClient);
+    Host().ClearUpdates(0);
+
+    EXPECT_EQ(Paint(), "root.DrawContent() client.DrawContent()");
+}
+
 TEST_F(FirstPaint, ComesOnceOnly)
 {
     CRecordingElement child(m_Log, "child", m_Root, {30, 10}, alLeft);

@@ -1,6 +1,7 @@
 // Who hears the mouse, in what order, and where a chain stops.
 
 #include "tests/support/hearing_element.h"
+#include "tests/support/slot.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
 #include "vexel/signals/cancel_processing.h"
@@ -410,4 +411,21 @@ TEST_F(PointerInput, AResumedHoverShowsTheCursorOfTheCapturingElement)
 
     EXPECT_EQ(m_Host.Window().GetCursor(), 9);
     m_Inner.ReleaseMouse();
+}
+
+TEST_F(PointerInput, AnElementThatLeavesWhileThePointerGoesOverToItIsNotRemembered)
+{
+    auto* const other = new CHearing(m_Log, "other", &m_Box, {20, 0}, alLeft);
+    m_Host.Paint();
+    m_Host.Mouse().Move(m_Inner, 3, 4);
+    {
+        auto const slot = Listen(m_Inner.m_SigMouseLeave, [&](CVisualElement*) { other->ReParent(nullptr, false); });
+
+        m_Host.Mouse().Move(40, 4);
+    }
+
+    EXPECT_EQ(m_Host.Control().GetMouseElement(), nullptr);
+    delete other;
+    m_Host.Mouse().Move(40, 5);
+    EXPECT_EQ(m_Host.Control().GetMouseElement(), &m_Box);
 }

@@ -1,5 +1,6 @@
 // What a native paint draws: everything, or only what waits.
 
+#include "tests/support/slot.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
 #include "vexel/core/transparent_flavor.h"
@@ -270,4 +271,17 @@ TEST_F(PaintPass, AResizedWindowIsLaidOutAndPaintedAsAWhole)
 
     EXPECT_EQ(m_C.GetPos(), (rectangle<int>{42, 0, 119, 49}));
     EXPECT_EQ(Paint(), "CContent a inner b c");
+}
+
+TEST_F(PaintPass, ALayoutThatThrowsMakesTheNextPaintLayOutAndPaintEverything)
+{
+    Paint();
+    m_A.SetSize({30, 0}, false);
+    {
+        auto const slot = Listen(m_A.m_SigSize, [](CVisualElement*) { throw 1; });
+        EXPECT_THROW(m_Host.Control().OnDraw(m_Host.Window().GetPainter()), int);
+    }
+
+    EXPECT_EQ(Paint(), "CContent a inner b c");
+    EXPECT_EQ(m_B.GetPos(), (rectangle<int>{31, 0, 51, 39}));
 }

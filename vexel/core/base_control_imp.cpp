@@ -190,6 +190,7 @@ void CBaseControlImp::Forget(CVisualElement* element)
     if (dragged)
     {
         m_DraggedElement = nullptr;
+        m_DragTarget = nullptr;
         m_MouseFlags = (m_MouseFlags & ~unsigned{mfAccepted}) | mfPutBackground;
         m_FullUpdate = true;  // so that the next paint wipes the item
     }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 namespace vexel
 {
@@ -81,7 +82,10 @@ void CBaseControlImp::ProcessMouseMove(CMouseEvent* event)
         MoveDrag(position);
         alive.Check();
     }
-    m_LastMousePos = position;
+    else
+    {
+        m_LastMousePos = position;
+    }
 }
 
 void CBaseControlImp::ProcessButtonDown(CMouseEvent* event)
@@ -159,9 +163,9 @@ void CBaseControlImp::SetMouseElement(CVisualElement* element)
         if (!alive)
             return;
     }
-    m_MouseElement = next.get();
-    if (next)
-        next->ProcessMouseHover(previous.get());
+    m_MouseElement = next && next->GetControl() == this ? next.get() : nullptr;  // a slot may have removed it
+    if (m_MouseElement)
+        m_MouseElement->ProcessMouseHover(previous.get());
 }
 
 void CBaseControlImp::LeaveMouseElement(CVisualElement* next)
@@ -258,6 +262,7 @@ void CBaseControlImp::MoveDrag(point<int> const& position)
 
     int const dx = SubtractSaturated(position.x, m_LastMousePos.x);
     int const dy = SubtractSaturated(position.y, m_LastMousePos.y);
+    m_LastMousePos = position;  // at once: the item must not go this way twice if a slot ends the event
     rectangle<int>& rect = info->m_Rect;
     rect = {AddSaturated(rect.left, dx), AddSaturated(rect.top, dy), AddSaturated(rect.right, dx),
             AddSaturated(rect.bottom, dy)};
@@ -275,6 +280,8 @@ void CBaseControlImp::MoveDrag(point<int> const& position)
         point<int> const inner = InElement(*target, position);
         accepted = target->DragOver(dragged.get(), target, inner.x, inner.y, *info);
         alive.Check();
+        if (!dragged || m_DraggedElement != dragged.get())
+            return;  // the drag has ended meanwhile
     }
     if (accepted && m_DragTarget)
     {
@@ -286,8 +293,6 @@ void CBaseControlImp::MoveDrag(point<int> const& position)
         SetWindowCursor(s_NoDropCursor);
         m_MouseFlags &= ~unsigned{mfAccepted};
     }
-    if (!dragged)
-        return;
     dragged->OnChange(dragged.get(), info->m_GlobalUpdate ? utGlobal : utElement);
     alive.Check();
     InvalidateWindow();  // a hidden element asks for nothing, and the item moves all the same
@@ -301,22 +306,31 @@ void CBaseControlImp::FinishDrag(CVisualElement* draggedElement, point<int> cons
     CAlivePtr<CVisualElement> const dragged(draggedElement);
     std::shared_ptr<DragInfo> const info = m_DragInfo;
 
-    // The next paint puts the background back, however the drag ends.
-    class CPutBackground
+    // However the drag ends, the next paint puts the background back, and nobody is left to drop on.
+    class CDragEnd
     {
     public:
-        explicit CPutBackground(CAlivePtr<CBaseControlImp> const& control) : m_Control(control) {}
-        ~CPutBackground()
+        explicit CDragEnd(CAlivePtr<CBaseControlImp> const& control) : m_Control(control) {}
+        ~CDragEnd()
         {
             if (!m_Control)
                 return;
+            ForgetTarget();
             m_Control->m_MouseFlags |= mfPutBackground;
             m_Control->InvalidateWindow();  // the dragged element asks for nothing while it is hidden
+        }
+        void ForgetTarget()
+        {
+            if (std::exchange(m_Forgotten, true))
+                return;
+            m_Control->m_MouseFlags &= ~unsigned{mfAccepted};
+            m_Control->m_DragTarget = nullptr;
         }
 
     private:
         CAlivePtr<CBaseControlImp> const& m_Control;
-    } const putBackground(alive);
+        bool m_Forgotten = false;
+    } end(alive);
 
     if (ISysWindow* const window = FindWindow())
         window->ReleaseMouse();
@@ -337,8 +351,7 @@ void CBaseControlImp::FinishDrag(CVisualElement* draggedElement, point<int> cons
         dragged->DragFinished(dragged.get(), nullptr, *info);
         alive.Check();
     }
-    m_MouseFlags &= ~unsigned{mfAccepted};
-    m_DragTarget = nullptr;
+    end.ForgetTarget();
     if (!dragged)
         return;
     dragged->OnChange(dragged.get(), info->m_GlobalUpdate ? utGlobal : utElement);

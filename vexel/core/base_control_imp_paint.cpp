@@ -26,8 +26,22 @@ void CBaseControlImp::ProcessDraw(IPainter* painter)
         m_Rearranges.Clear(0);
     }
     bool draw = m_RearrangeNeeded || m_FullUpdate || m_Updates.GetCount() > 0;
-    LayOutForPaint();
-    if (!alive || !surface)
+    try
+    {
+        LayOutForPaint();
+    }
+    catch (...)
+    {
+        if (alive)
+        {
+            // Nobody knows how far it came.
+            m_RearrangeNeeded = true;
+            m_Rearranges.AddElement(m_Root);
+            m_FullUpdate = true;
+        }
+        throw;
+    }
+    if (!alive || !surface || !FindWindow())
         return;
     // The item of the last paint must go, even if nobody waits.
     draw = draw || m_DraggedElement || (m_MouseFlags & mfPutBackground);
@@ -119,19 +133,20 @@ void CBaseControlImp::PaintTree(IPainter* painter)
 // Wipes the drag item that the last paint drew.
 void CBaseControlImp::PaintDragBackground(IPainter* painter)
 {
-    if (!m_DragInfo->m_UseBackground)
+    bool const ended = (m_MouseFlags & mfPutBackground) != 0;
+    bool const wanted = m_DragInfo->m_UseBackground;  // by the drag that is on, which may not be the one that has ended
+    if (!wanted && !(ended && m_DragBackground))
         return;
     rectangle<int> const area = FindWindow()->GetRect();
     size<int> const extent{area.Width(), area.Height()};
     bool const fits = m_DragBackground && m_DragBackground->GetSize() == extent;  // else everything is painted anew
-    bool const ended = (m_MouseFlags & mfPutBackground) != 0;
     bool const started = (m_MouseFlags & mfMakeBackground) != 0;
     // A new drag may have started before the item of the last one was wiped.
     if (fits && (ended || !started))
         painter->DrawRasterPicture(m_DragBackground.get(), 0, 0, area.right, area.bottom, IPainter::roCopy);
     if (ended)
         m_DragBackground.reset();
-    if (m_DraggedElement && (started || !fits))
+    if (m_DraggedElement && wanted && (started || !fits))
         m_DragBackground = GetCurrentSystem()->CreateRasterPicture(extent);
 }
 

@@ -16,6 +16,17 @@ _color OrSystemColor(_color const& color, ISysPalette::SysColor number)
     return palette ? palette->GetColor(number) : color;
 }
 
+// Those that were there at the start. Each is a copy, since what it switches may add more.
+template <class Record, class Switch> void ForEach(std::vector<Record> const& records, Switch const& change)
+{
+    std::size_t const count = records.size();
+    for (std::size_t i = 0; i < count && i < records.size(); ++i)
+    {
+        Record record = records[i];
+        change(record);
+    }
+}
+
 }  // namespace
 
 void SBkFgElement::ProcessFlashed()
@@ -46,14 +57,12 @@ void CBkFgRoutine::AddElement(CVisualElement* element, _color const& flashedFg, 
 
 void CBkFgRoutine::ProcessFlashed()
 {
-    for (SBkFgElement& element : m_Elements)
-        element.ProcessFlashed();
+    ForEach(m_Elements, [](SBkFgElement& element) { element.ProcessFlashed(); });
 }
 
 void CBkFgRoutine::ProcessNormal()
 {
-    for (SBkFgElement& element : m_Elements)
-        element.ProcessNormal();
+    ForEach(m_Elements, [](SBkFgElement& element) { element.ProcessNormal(); });
 }
 
 IPaletteSupport::~IPaletteSupport() = default;
@@ -78,14 +87,12 @@ void CPaletteRoutine::AddElement(IPaletteSupport* target, vexel_ptr<ICustomPalet
 
 void CPaletteRoutine::ProcessFlashed()
 {
-    for (SPaletteElement& element : m_Elements)
-        element.ProcessFlashed();
+    ForEach(m_Elements, [](SPaletteElement& element) { element.ProcessFlashed(); });
 }
 
 void CPaletteRoutine::ProcessNormal()
 {
-    for (SPaletteElement& element : m_Elements)
-        element.ProcessNormal();
+    ForEach(m_Elements, [](SPaletteElement& element) { element.ProcessNormal(); });
 }
 
 }  // namespace vexel

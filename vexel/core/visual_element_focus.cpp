@@ -118,7 +118,8 @@ void CVisualElement::ProcessControlChangeFocus(bool focused)
     HandleControlChangeFocus(focused);
     if (!alive)
         return;
-    for (int i = 0; i < m_Children.GetCount(); ++i)
+    int const count = m_Children.GetCount();
+    for (int i = 0; i < count && i < m_Children.GetCount(); ++i)
     {
         m_Children.GetItem(i)->ProcessControlChangeFocus(focused);
         if (!alive)

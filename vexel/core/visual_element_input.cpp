@@ -393,7 +393,8 @@ void CVisualElement::ProcessContextMenu(int x, int y)
 void CVisualElement::ProcessSysColorChanged()
 {
     CAliveGuard const alive(this);
-    for (int i = 0; i < m_Children.GetCount(); ++i)
+    int const count = m_Children.GetCount();
+    for (int i = 0; i < count && i < m_Children.GetCount(); ++i)
     {
         m_Children.GetItem(i)->ProcessSysColorChanged();
         if (!alive)
@@ -413,7 +414,8 @@ void CVisualElement::ProcessControlDestroy()
     HandleControlDestroy();
     if (!alive)
         return;
-    for (int i = 0; i < m_Children.GetCount(); ++i)
+    int const count = m_Children.GetCount();
+    for (int i = 0; i < count && i < m_Children.GetCount(); ++i)
     {
         m_Children.GetItem(i)->ProcessControlDestroy();
         if (!alive)
