@@ -285,3 +285,17 @@ TEST_F(PaintPass, ALayoutThatThrowsMakesTheNextPaintLayOutAndPaintEverything)
     EXPECT_EQ(Paint(), "CContent a inner b c");
     EXPECT_EQ(m_B.GetPos(), (rectangle<int>{31, 0, 51, 39}));
 }
+
+TEST_F(PaintPass, ALayoutThatThrowsOutsideAPaintIsMadeAnewByTheNextOne)
+{
+    Paint();
+    m_A.SetSize({30, 0}, false);
+    {
+        auto const slot = Listen(m_A.m_SigSize, [](CVisualElement*) { throw 1; });
+        EXPECT_THROW(m_A.ForceRearrange(), int);
+    }
+    EXPECT_EQ(m_B.GetPos(), (rectangle<int>{21, 0, 41, 39}));
+
+    EXPECT_EQ(Paint(), "CContent a inner b c");
+    EXPECT_EQ(m_B.GetPos(), (rectangle<int>{31, 0, 51, 39}));
+}

@@ -110,6 +110,7 @@ private:
 
     struct SPass;
     class CFlagScope;
+    class CLayoutDebt;
 
     ISysWindow* FindWindow() const;
     void SetWindowCursor(int cursor) const;

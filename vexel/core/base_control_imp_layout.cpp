@@ -44,6 +44,7 @@ void CBaseControlImp::ForceRearrange()
     }
     CAlivePtr<CBaseControlImp> const alive(this);
     {
+        CLayoutDebt const debt(this);
         CFlagScope const inRearrange(this, &CBaseControlImp::m_InRearrange);
         if (m_Rearranges.GetCount() > 0)
         {
@@ -107,6 +108,7 @@ void CBaseControlImp::DoRearrange(bool force)
     if (m_RearrangeLock != 0)
         return;
     m_RearrangeNeeded = false;
+    CLayoutDebt const debt(this);
     rectangle<int> rect = GetRealDrawRect();
     rect.Normalize();
 

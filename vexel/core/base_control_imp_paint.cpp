@@ -26,21 +26,7 @@ void CBaseControlImp::ProcessDraw(IPainter* painter)
         m_Rearranges.Clear(0);
     }
     bool draw = m_RearrangeNeeded || m_FullUpdate || m_Updates.GetCount() > 0;
-    try
-    {
-        LayOutForPaint();
-    }
-    catch (...)
-    {
-        if (alive)
-        {
-            // Nobody knows how far it came.
-            m_RearrangeNeeded = true;
-            m_Rearranges.AddElement(m_Root);
-            m_FullUpdate = true;
-        }
-        throw;
-    }
+    LayOutForPaint();
     if (!alive || !surface || !FindWindow())
         return;
     // The item of the last paint must go, even if nobody waits.

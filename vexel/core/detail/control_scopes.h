@@ -4,6 +4,8 @@
 #include "vexel/core/base_control_imp.h"
 #include "vexel/platform/painter.h"
 
+#include <exception>
+
 namespace vexel
 {
 
@@ -50,6 +52,27 @@ public:
 private:
     CAlivePtr<CBaseControlImp> m_Control;
     bool CBaseControlImp::*m_Flag;
+};
+
+/// Where a layout ends by an exception, nobody knows how far it came: the next paint makes all of it anew.
+class CBaseControlImp::CLayoutDebt
+{
+public:
+    explicit CLayoutDebt(CBaseControlImp* control) : m_Control(control), m_Exceptions(std::uncaught_exceptions()) {}
+    ~CLayoutDebt()
+    {
+        if (!m_Control || std::uncaught_exceptions() == m_Exceptions)
+            return;
+        m_Control->m_RearrangeNeeded = true;
+        m_Control->m_FullUpdate = true;
+        m_Control->m_Rearranges.Clear(0);  // without entries the whole tree is laid out
+    }
+    CLayoutDebt(CLayoutDebt const&) = delete;
+    CLayoutDebt& operator=(CLayoutDebt const&) = delete;
+
+private:
+    CAlivePtr<CBaseControlImp> m_Control;
+    int const m_Exceptions;
 };
 
 namespace detail
