@@ -49,6 +49,37 @@ TEST(FreshHost, HasAnEmptyContentOnTheHeapAsItsRoot)
     EXPECT_EQ(root->GetControl()->GetWindow(), &window);
 }
 
+TEST(FreshHost, DoesNotRememberElementsThatAreNotItsOwn)
+{
+    CScriptedSystem system;
+    CCallLog log;
+    CRecordingWindow window(log, 100, 50);
+    CRecordingWindow otherWindow(log, 100, 50);
+    CBaseControl control(&window);
+    IControl& host = *control.GetControl();
+    {
+        CBaseControl otherControl(&otherWindow);
+        CVisualElement alone(nullptr, {10, 10}, alNone);
+        for (CVisualElement* const foreign : {otherControl.GetContent(), &alone})
+        {
+            foreign->SetCanHaveFocus(true);
+            host.SetCapture(foreign);
+            host.SetFocusedElement(foreign, false);
+            host.SetMouseElement(foreign);
+            host.SetTabHandler(foreign);
+            host.StartDragging(foreign, DragInfo());
+            host.SetDragTarget(foreign);
+        }
+    }
+
+    EXPECT_EQ(host.GetCapture(), nullptr);
+    EXPECT_EQ(host.GetFocusedElement(), nullptr);
+    EXPECT_EQ(host.GetFocussingElement(), nullptr);
+    EXPECT_EQ(host.GetMouseElement(), nullptr);
+    EXPECT_EQ(host.GetDraggedElement(), nullptr);
+    EXPECT_EQ(host.GetDragTarget(), nullptr);
+}
+
 TEST(FreshHost, PointsToNoElement)
 {
     CScriptedSystem system;

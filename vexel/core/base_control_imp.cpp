@@ -54,8 +54,15 @@ void CBaseControlImp::InvalidateWindow()
     window->InvalidateRect(rect.left, rect.top, rect.right, rect.bottom);
 }
 
+bool CBaseControlImp::IsForeign(CVisualElement const* element) const
+{
+    return element && element->GetControl() != this;
+}
+
 void CBaseControlImp::SetCapture(CVisualElement* element)
 {
+    if (IsForeign(element))
+        return;
     m_Capture = element;
     ISysWindow* const window = FindWindow();
     if (!window)

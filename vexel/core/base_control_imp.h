@@ -46,14 +46,14 @@ public:
     CVisualElement* GetFocusedElement() override { return m_FocusedElement; }
     CVisualElement* GetFocussingElement() override { return m_FocussingElement; }
     void SetFocusedElement(CVisualElement* element, bool takeNative) override;
-    void SetTabHandler(CVisualElement* element) override { m_TabHandler = element; }
+    void SetTabHandler(CVisualElement* element) override;
     void UpdateElement(CVisualElement* element, UpdateType type) override;
     void RearrangeElement(CVisualElement* element) override;
     bool IsTabKeyProcessing() const override { return m_TabKeyProcessing; }
     void ActivateHelp(std::string const& id) const override;
     void SetMouseElement(CVisualElement* element) override;
     CVisualElement* GetDraggedElement() const override { return m_DraggedElement; }
-    void SetDragTarget(CVisualElement* element) override { m_DragTarget = element; }
+    void SetDragTarget(CVisualElement* element) override;
     CVisualElement* GetDragTarget() const override { return m_DragTarget; }
 
     // Tree ------------------------------------------------------------------------------------------------------------------
@@ -127,6 +127,7 @@ private:
     void PaintDragBackground(IPainter* painter);
     void PaintDragItem(IPainter* painter);
 
+    bool IsForeign(CVisualElement const* element) const;  // of another control, or of none; null is not
     void LeaveMouseElement(CVisualElement* next);
     void TryStartDrag();
     void MoveDrag(point<int> const& position);

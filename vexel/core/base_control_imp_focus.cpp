@@ -59,9 +59,15 @@ void CBaseControlImp::ProcessChar(CKeyboardEvent* event)
 
 // Focus ----------------------------------------------------------------------------------------------------------------------
 
+void CBaseControlImp::SetTabHandler(CVisualElement* element)
+{
+    if (!IsForeign(element))
+        m_TabHandler = element;
+}
+
 void CBaseControlImp::SetFocusedElement(CVisualElement* element, bool takeNative)
 {
-    if (!FindWindow() || element == m_FocusedElement)
+    if (!FindWindow() || element == m_FocusedElement || IsForeign(element))
         return;
     CAlivePtr<CBaseControlImp> const alive(this);
     CAlivePtr<CVisualElement> const old(m_FocusedElement);

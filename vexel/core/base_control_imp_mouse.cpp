@@ -227,8 +227,16 @@ void CBaseControlImp::ProcessContextMenu(CContextMenuEvent* event)
 
 // Drag and drop ---------------------------------------------------------------------------------------------------------------
 
+void CBaseControlImp::SetDragTarget(CVisualElement* element)
+{
+    if (!IsForeign(element))
+        m_DragTarget = element;
+}
+
 void CBaseControlImp::StartDragging(CVisualElement* element, DragInfo const& info)
 {
+    if (IsForeign(element))
+        return;
     m_DraggedElement = element;
     *m_DragInfo = info;
     m_MouseFlags |= mfMakeBackground;

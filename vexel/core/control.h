@@ -11,7 +11,7 @@
 namespace vexel
 {
 
-/// The host of a tree, as its elements know it.
+/// The host of a tree, as its elements know it. An element that is not its own, given to be remembered, is ignored.
 class VEXEL_API IControl
 {
 public:
