@@ -19,7 +19,6 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
-#include <algorithm>
 #include <utility>
 
 namespace vexelbase::qt
@@ -51,9 +50,7 @@ QString ToTipText(CTooltipEvent const& event)
     QString style = event.m_Multiline ? QStringLiteral("white-space:pre-wrap") : QStringLiteral("white-space:pre");
     if (ownFont)
     {
-        font sized = event.m_Font;
-        sized.size = std::max(1, ToInt(sized.size * sized.factor));
-        QFont const native = MakeQtFont(sized, 1.0);
+        QFont const native = MakeQtFont(event.m_Font, 1.0);
         style += QStringLiteral(";font-family:'%1';font-size:%2pt;font-weight:%3;font-style:%4")
                      .arg(native.family().remove(u'\'').remove(u'"'))
                      .arg(native.pointSizeF())
