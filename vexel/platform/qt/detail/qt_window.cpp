@@ -5,6 +5,7 @@
 #include "vexel/platform/qt/detail/qt_system.h"
 #include "vexel/platform/qt/detail/qt_widget.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QEnterEvent>
@@ -276,8 +277,15 @@ void CQtWindow::WakeQueue()
 
 void CQtWindow::SetFocus()
 {
-    if (m_Widget && !m_Widget->hasFocus())
-        m_Widget->setFocus(Qt::OtherFocusReason);
+    if (!m_Widget || m_Widget->hasFocus())
+        return;
+    // From another window of this program the focus is taken along. Where the program is not in front it is taken when
+    // the user turns to it.
+    QWidget* const top = m_Widget->window();
+    if (m_Widget->isVisible() && QApplication::activeWindow() && QApplication::activeWindow() != top &&
+        !QApplication::activePopupWidget())
+        top->activateWindow();
+    m_Widget->setFocus(Qt::OtherFocusReason);
 }
 
 bool CQtWindow::HasFocus() const
