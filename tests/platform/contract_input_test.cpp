@@ -145,7 +145,11 @@ TEST_F(ContractInput, TheCaptureEndsWithTheWindowOrItsShowing)
 TEST_F(ContractInput, ThePointerTellsItsScreenPosition)
 {
     Bench().MovePointer({330, 270});
-    EXPECT_EQ(System().GetPointer()->GetPos(), (point<int>{330, 270}));
+    for (double const scale : {1.0, 1.5, 2.0})
+    {
+        Bench().SetScale(scale);
+        EXPECT_EQ(System().GetPointer()->GetPos(), (point<int>{330, 270})) << scale;
+    }
 }
 
 // Focus ------------------------------------------------------------------------------------------------------------

@@ -372,16 +372,20 @@ TEST_F(ContractMove, IsDoneAtOnceWithinAPaintToo)
 
 TEST_F(ContractWindow, TellsScreenPositionsBothWays)
 {
-    point<int> at{5, 7};
-    Window().ClientToScreen(&at);
-    EXPECT_EQ(at, (point<int>{65, 37}));
-    Window().ScreenToClient(&at);
-    EXPECT_EQ(at, (point<int>{5, 7}));
+    for (double const scale : {1.0, 1.25, 2.0, 0.5})  // which counts for text and sizes, not for places
+    {
+        Bench().SetScale(scale);
+        point<int> at{5, 7};
+        Window().ClientToScreen(&at);
+        EXPECT_EQ(at, (point<int>{65, 37})) << scale;
+        Window().ScreenToClient(&at);
+        EXPECT_EQ(at, (point<int>{5, 7})) << scale;
+    }
     Bench().Move(Window(), {90, 120});
     Bench().Settle();
-    at = {0, 0};
-    Window().ScreenToClient(&at);
-    EXPECT_EQ(at, (point<int>{-90, -120}));
+    point<int> origin{0, 0};
+    Window().ScreenToClient(&origin);
+    EXPECT_EQ(origin, (point<int>{-90, -120}));
 }
 
 TEST_F(ContractWindow, ShowsTheCursorItWasGiven)
@@ -478,7 +482,7 @@ TEST_F(ContractWindow, MayBeDeletedInEachOfItsEvents)
         {"double", [&] { Bench().PressTwice(mbLeft); }},
         {"move",
          [&] {
-             Bench().MovePointer({71, 44});
+             Bench().MovePointer({120, 60});
          }},
         {"leave",
          [&] {
@@ -517,7 +521,7 @@ TEST_F(ContractWindow, MayBeDeletedInEachOfItsEvents)
             window = m_Window.get();
             m_Ear = std::make_unique<CEar>(window);
             Bench().Settle();
-            Bench().MovePointer({70, 44});
+            Bench().MovePointer({90, 60});
             window->SetFocus();
             Bench().Settle();
             bool deleted = false;
@@ -557,7 +561,7 @@ TEST_F(ContractWindow, MayBeDeletedByANativeLoopWithinItsHandler)
         m_Ear.reset();
         m_Window = Bench().MakeWindow({60, 30}, {120, 120});
         m_Ear = std::make_unique<CEar>(m_Window.get());
-        Bench().MovePointer({70, 44});
+        Bench().MovePointer({90, 60});
         m_Window->SetFocus();
         Bench().Settle();
 
@@ -634,7 +638,7 @@ TEST_F(ContractWindow, MayBeDeletedInItsPaint)
 
 TEST_F(ContractWindow, AHandlerThatThrowsHarmsNobody)
 {
-    Bench().MovePointer({70, 40});
+    Bench().MovePointer({90, 60});
     Ear().Take();
     {
         vexel::test::CExpectException const reports("a handler", 3);
@@ -644,9 +648,9 @@ TEST_F(ContractWindow, AHandlerThatThrowsHarmsNobody)
         Bench().Resize(Window(), {150, 150});
         Ear().m_After = nullptr;
     }
-    EXPECT_EQ(Ear().Take(), "down(10,10,0x1,1) up(10,10,0x0,1) resize(150,150)");
+    EXPECT_EQ(Ear().Take(), "down(30,30,0x1,1) up(30,30,0x0,1) resize(150,150)");
     Bench().Press(mbLeft);
-    EXPECT_EQ(Ear().Take(), "down(10,10,0x1,1)");
+    EXPECT_EQ(Ear().Take(), "down(30,30,0x1,1)");
     Bench().Release(mbLeft);
 }
 
@@ -683,11 +687,11 @@ TEST_F(ContractQueue, RunsAfterThePresentEvent)
         Ear().Note("end");
         m_Log += "event ";
     };
-    Bench().MovePointer({70, 40});
+    Bench().MovePointer({90, 60});
     Ear().Take();
     Bench().Press(mbLeft);
     Bench().Settle();
-    EXPECT_EQ(Ear().Take(), "down(10,10,0x1,1) end");
+    EXPECT_EQ(Ear().Take(), "down(30,30,0x1,1) end");
     EXPECT_EQ(m_Log, "event a ~a ");
     Ear().m_After = nullptr;
     Bench().Release(mbLeft);

@@ -318,7 +318,7 @@ void CQtWindow::ScreenToClient(point<int>* position) const
     if (!m_Widget)
         return;
     // The widget's corner is rounded once, so that both ways agree to the pixel.
-    double const scale = CQtSystem::Get().GetScale();
+    double const scale = CQtSystem::GetScreenRatio();
     QPointF const corner = m_Widget->mapToGlobal(QPointF(0, 0)) * scale;
     double const factor = m_Ratio / scale;
     position->x = FloorToInt((position->x - std::round(corner.x())) * factor);
@@ -329,7 +329,7 @@ void CQtWindow::ClientToScreen(point<int>* position) const
 {
     if (!m_Widget)
         return;
-    double const scale = CQtSystem::Get().GetScale();
+    double const scale = CQtSystem::GetScreenRatio();
     QPointF const corner = m_Widget->mapToGlobal(QPointF(0, 0)) * scale;
     double const factor = scale / m_Ratio;
     position->x = FloorToInt(std::round(corner.x()) + position->x * factor);
