@@ -54,7 +54,7 @@ public:
     virtual void KeyUp(int virtualKey) = 0;
 
     // The desktop -------------------------------------------------------------------------------------------------
-    virtual void SetScale(double scale) = 0;  ///< On top of the scale that the program was started with.
+    virtual void SetScale(double scale) = 0;  ///< Of the system, whatever the screen's is.
     virtual void ChangeColors(ISysWindow& window) = 0;
 };
 

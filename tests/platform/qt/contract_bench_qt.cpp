@@ -185,7 +185,7 @@ public:
 
     void SetScale(double scale) override
     {
-        qt::CApplication().SetZoom(scale);
+        qt::CApplication().SetZoom(scale / QGuiApplication::primaryScreen()->devicePixelRatio());
         qt::test::Settle();
     }
     void ChangeColors(ISysWindow&) override
