@@ -127,7 +127,7 @@ TEST_F(ContractTimer, ReleasedWhileItRunsTicksNoMore)
 
 TEST_F(ContractTimer, OfTheShorterPeriodTicksFirst)
 {
-    vexel_ptr<ISysTimer> const slow = System().CreateTimer(3000, 0);
+    vexel_ptr<ISysTimer> const slow = System().CreateTimer(60000, 0);
     vexel_ptr<ISysTimer> const fast = System().CreateTimer(10, 0);
     CTick slowTick(*slow);
     CTick fastTick(*fast);
@@ -144,7 +144,7 @@ TEST_F(ContractTimer, OfTheShorterPeriodTicksFirst)
 
 TEST_F(ContractTimer, ANewPeriodStartsNoStoppedOne)
 {
-    vexel_ptr<ISysTimer> const timer = System().CreateTimer(5000, 0);
+    vexel_ptr<ISysTimer> const timer = System().CreateTimer(60000, 0);
     CTick tick(*timer);
     timer->SetPeriod(-4);  // counts as 1
     EXPECT_FALSE(timer->IsRunning());
@@ -157,7 +157,7 @@ TEST_F(ContractTimer, ANewPeriodStartsNoStoppedOne)
 
 TEST_F(ContractTimer, StartedAgainAndAgainNeverTicks)
 {
-    vexel_ptr<ISysTimer> const late = System().CreateTimer(4000, 0);
+    vexel_ptr<ISysTimer> const late = System().CreateTimer(25, 0);
     vexel_ptr<ISysTimer> const clock = System().CreateTimer(10, 0);
     CTick lateTick(*late);
     CTick clockTick(*clock, [&] { late->SetRunning(true); });

@@ -113,6 +113,9 @@ TEST_F(ContractClip, WithoutAnAreaLetsNothingThroughAndIsToldFromNone)
             FillAll(painter, Red);
             painter.SetClipRect(0, 0, 3, 3, true);  // nothing less something
             FillAll(painter, Red);
+            painter.SimpleSetClipRect({0, 0, -0.5, -0.5}, false);  // no pixel, but not all zero
+            EXPECT_FALSE(painter.GetClipRect().IsZero());
+            FillAll(painter, Red);
             painter.SimpleSetClipRect({0, 0, 0, 0}, false);  // none
             painter.SetBrush(BrushOf(Green));
             painter.FillRect(1, 1, 1, 1);
