@@ -121,6 +121,7 @@ bool CQtInput::Move(QMouseEvent const& event)
 bool CQtInput::Enter(QEnterEvent const& event)
 {
     m_JustEntered = true;
+    m_LeaveDue = false;
     return SendMove(event.position(), QGuiApplication::keyboardModifiers(), event.buttons());
 }
 
@@ -145,9 +146,17 @@ bool CQtInput::SendMove(QPointF const& position, Qt::KeyboardModifiers modifiers
     return true;
 }
 
+bool CQtInput::LeaveIfStillDue()
+{
+    return m_LeaveDue ? Leave() : true;
+}
+
 bool CQtInput::Leave()
 {
     m_JustEntered = false;
+    m_LeaveDue = QWidget::mouseGrabber() == m_Window.GetWidget();
+    if (m_LeaveDue)
+        return true;
     point<int> const at = ToPixels(m_Window.GetWidget()->mapFromGlobal(QPointF(QCursor::pos())));
     Qt::MouseButtons const buttons = QGuiApplication::mouseButtons();
     CMouseEvent sent(at.x, at.y, ToKeyState(QGuiApplication::keyboardModifiers(), buttons), ToHeldButton(buttons));

@@ -309,8 +309,11 @@ void CQtWindow::CaptureMouse()
 
 void CQtWindow::ReleaseMouse()
 {
-    if (m_Widget && QWidget::mouseGrabber() == m_Widget)
-        m_Widget->releaseMouse();
+    if (!m_Widget || QWidget::mouseGrabber() != m_Widget)
+        return;
+    m_Widget->releaseMouse();
+    if (m_Input.IsLeaveDue())
+        QCoreApplication::postEvent(m_Widget, new QEvent(static_cast<QEvent::Type>(CQtWidget::ReleaseEvent())));
 }
 
 void CQtWindow::ScreenToClient(point<int>* position) const
@@ -399,7 +402,8 @@ bool CQtWindow::IsForWindow(QEvent const& event) const
         return m_Widget && m_Widget->isEnabled();
     default:
         return NeedsQtFirst(event) || event.type() == CQtWidget::FrameEvent() ||
-               event.type() == CQtWidget::QueueEvent() || event.type() == CQtWidget::RatioEvent();
+               event.type() == CQtWidget::QueueEvent() || event.type() == CQtWidget::RatioEvent() ||
+               event.type() == CQtWidget::ReleaseEvent();
     }
 }
 
@@ -492,6 +496,10 @@ bool CQtWindow::HandleEvent(QEvent& event)
     else if (event.type() == CQtWidget::QueueEvent())
     {
         RunQueue();
+    }
+    else if (event.type() == CQtWidget::ReleaseEvent())
+    {
+        m_Input.LeaveIfStillDue();
     }
     else if (event.type() == CQtWidget::RatioEvent())
     {
