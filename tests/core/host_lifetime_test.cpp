@@ -338,4 +338,96 @@ TEST_F(HostLifetime, EventsDuringTheEndOfTheControlReachNobody)
               "");
 }
 
+// The end of the root ---------------------------------------------------------------------------------------------------------------
+
+TEST_F(HostLifetime, ADyingRootMayTakeItsControlAlong)
+{
+    auto* const root = new CRecordingElement(m_Log, "last", nullptr, {0, 0}, alClient);
+    auto* const child = new CRecordingElement(m_Log, "child", root);
+    // Connected before the control is, so that the control still has its root.
+    auto const slot = Listen(root->m_SigDestroy, [&](CVisualElement*) { m_Control.reset(); });
+    int deaths = 0;
+    auto const count = Listen(child->m_SigDestroy, [&](CVisualElement*) { ++deaths; });
+    m_Control->SetContent(root);
+
+    delete root;
+
+    EXPECT_EQ(m_Control, nullptr);
+    EXPECT_EQ(deaths, 1);
+}
+
+TEST_F(HostLifetime, ADyingRootMayBringTheNextOne)
+{
+    auto* const root = new CRecordingElement(m_Log, "first", nullptr, {0, 0}, alClient);
+    auto* const next = new CRecordingElement(m_Log, "next", nullptr, {0, 0}, alClient);
+    auto const slot = Listen(root->m_SigDestroy, [&](CVisualElement*) { m_Control->SetContent(next); });
+    m_Control->SetContent(root);
+
+    delete root;
+
+    EXPECT_EQ(m_Control->GetContent(), next);
+    EXPECT_EQ(next->GetControl(), &Host());
+    EXPECT_EQ(Paint(), "next.DrawContent()");
+}
+
+TEST_F(HostLifetime, ARootThatIsBroughtWhileTheOldOneDiesGivesWayToTheOneThatWasAskedFor)
+{
+    CRecordingElement meanwhile(m_Log, "meanwhile", nullptr, {0, 0}, alClient);
+    auto* const wanted = new CRecordingElement(m_Log, "wanted", nullptr, {0, 0}, alClient);
+    auto const slot = Listen(m_Root->m_SigDestroy, [&](CVisualElement*) { m_Control->SetContent(&meanwhile); });
+
+    m_Control->SetContent(wanted);
+
+    EXPECT_EQ(m_Control->GetContent(), wanted);
+    EXPECT_EQ(meanwhile.GetControl(), nullptr);
+}
+
+TEST_F(HostLifetime, ARootThatIsBroughtWhileTheOldOneDiesGivesWayToNoneToo)
+{
+    CRecordingElement meanwhile(m_Log, "meanwhile", nullptr, {0, 0}, alClient);
+    auto const slot = Listen(m_Root->m_SigDestroy, [&](CVisualElement*) { m_Control->SetContent(&meanwhile); });
+
+    m_Control->SetContent(nullptr);
+
+    EXPECT_EQ(m_Control->GetContent(), nullptr);
+    EXPECT_EQ(meanwhile.GetControl(), nullptr);
+}
+
+TEST_F(HostLifetime, TheWantedRootMayBeBroughtWhileTheOldOneDies)
+{
+    auto* const wanted = new CRecordingElement(m_Log, "wanted", nullptr, {0, 0}, alClient);
+    auto const slot = Listen(m_Root->m_SigDestroy, [&](CVisualElement*) { m_Control->SetContent(wanted); });
+    m_Log.Clear();
+
+    m_Control->SetContent(wanted);
+
+    EXPECT_EQ(m_Control->GetContent(), wanted);
+    EXPECT_EQ(m_Log.Take({"AfterSetControl"}), "wanted.AfterSetControl()");
+}
+
+// Deletes the control that it is given to.
+class CRefusingRoot : public CVisualElement
+{
+public:
+    explicit CRefusingRoot(std::unique_ptr<CBaseControl>& control)
+        : CVisualElement(nullptr, {0, 0}, alClient), m_ControlToDelete(control)
+    {}
+    void ProcessSetControl(IControl*) override { m_ControlToDelete.reset(); }
+
+private:
+    std::unique_ptr<CBaseControl>& m_ControlToDelete;
+};
+
+TEST_F(HostLifetime, ARootByValueMayDeleteTheControlThatItIsGivenTo)
+{
+    CRefusingRoot root(m_Control);
+    CRecordingElement child(m_Log, "child", &root);
+
+    m_Control->SetContent(&root);
+
+    EXPECT_EQ(m_Control, nullptr);
+    EXPECT_EQ(root.GetControl(), nullptr);
+    EXPECT_EQ(child.GetControl(), nullptr);
+}
+
 }  // namespace
