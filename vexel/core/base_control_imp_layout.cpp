@@ -22,7 +22,8 @@ void CBaseControlImp::RearrangeElement(CVisualElement* element)
     if (!element || !FindWindow())
         return;
     CVisualElement* const parent = element->GetParent();
-    if (parent && !parent->IsDisplayable())
+    // An element whose branch is leaving may still ask; nobody would tell this control when the parent dies.
+    if (parent && (parent->GetControl() != this || !parent->IsDisplayable()))
         return;
     if (parent)
         m_Rearranges.AddElement(parent);
