@@ -384,6 +384,23 @@ TEST_F(HostRearrange, ARequestInTheAfterSignalWaitsForTheNextLayout)
     EXPECT_EQ(m_Leaf.GetPos(), (rectangle<int>{0, 0, 30, 21}));
 }
 
+TEST_F(HostRearrange, ALayoutThatForcesAndAsksForTheNextOneEachTimeEnds)
+{
+    int passes = 0;
+    auto const slot = Listen(Host().m_SigBeforeRearrange, [&] {
+        ++passes;
+        m_Leaf.SetSize({10, 100 + passes}, false);
+        Host().ForceRearrange();  // remembered
+        m_Other.SetSize({10, 100 + passes}, false);
+    });
+    m_Leaf.SetSize({10, 20}, false);
+
+    Host().ForceRearrange();
+
+    EXPECT_EQ(passes, 64);
+    EXPECT_FALSE(Host().IsRearrangeNeeded());
+}
+
 TEST_F(HostRearrange, AnExceptionInALayoutLeavesNoLayoutOpen)
 {
     m_Leaf.SetSize({10, 20}, false);

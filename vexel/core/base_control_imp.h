@@ -121,6 +121,7 @@ private:
     void ReleaseRoot();
     CVisualElement* GiveUpRoot();
 
+    void RunPass();
     void LayOutForPaint();
     void PaintTree(IPainter* painter);
     void PaintDragBackground(IPainter* painter);
