@@ -430,4 +430,51 @@ TEST_F(HostLifetime, ARootByValueMayDeleteTheControlThatItIsGivenTo)
     EXPECT_EQ(child.GetControl(), nullptr);
 }
 
+TEST_F(HostLifetime, ADyingRootThatItsChildrenAskForSomethingLeavesNothingBehind)
+{
+    auto* const first = new CRecordingElement(m_Log, "first", m_Root, {10, 10}, alLeft);
+    CRecordingElement second(m_Log, "second", m_Root, {10, 10}, alLeft);
+    m_Root->SetCanHaveFocus(true);
+    Paint();
+    CRecordingElement* const root = m_Root;
+    auto const slot = Listen(first->m_SigDestroy, [&](CVisualElement*) {
+        root->Update(utElement);
+        root->SetFocus(false);
+        root->CaptureMouse();
+        second.SetSize({20, 10}, false);
+    });
+
+    m_Control->SetContent(nullptr);
+
+    EXPECT_EQ(Host().GetUpdatesLastPos(), 0);
+    EXPECT_EQ(Host().GetFocusedElement(), nullptr);
+    EXPECT_EQ(Host().GetCapture(), nullptr);
+    EXPECT_FALSE(Host().IsRearrangeNeeded());
+}
+
+TEST_F(HostLifetime, WhereASlotThrowsWhileABranchLeavesNothingOfItIsRemembered)
+{
+    CRecordingElement branch(m_Log, "branch", m_Root);
+    CRecordingElement child(m_Log, "child", &branch);
+    branch.SetCanHaveFocus(true);
+    branch.SetFocus(false);
+    Host().SetMouseElement(&child);
+    child.CaptureMouse();
+    ASSERT_EQ(Host().GetFocusedElement(), &branch);
+    branch.m_BeforeChange = [](CVisualElement*, UpdateType type) {
+        if (type == utRemoved)
+            throw vexel::cancel_processing();
+        return true;
+    };
+
+    EXPECT_THROW(branch.ReParent(nullptr, false), vexel::cancel_processing);
+
+    EXPECT_EQ(branch.GetControl(), nullptr);
+    EXPECT_EQ(child.GetControl(), nullptr);
+    EXPECT_EQ(Host().GetFocusedElement(), nullptr);
+    EXPECT_EQ(Host().GetMouseElement(), nullptr);
+    EXPECT_EQ(Host().GetCapture(), nullptr);
+    branch.m_BeforeChange = nullptr;
+}
+
 }  // namespace
