@@ -477,4 +477,19 @@ TEST_F(HostLifetime, WhereASlotThrowsWhileABranchLeavesNothingOfItIsRemembered)
     branch.m_BeforeChange = nullptr;
 }
 
+TEST_F(HostLifetime, AnElementThatLeavesWhileThePointerComesToItIsNotUnderTheMouse)
+{
+    CRecordingElement from(m_Log, "from", m_Root);
+    CRecordingElement to(m_Log, "to", m_Root);
+    Host().SetMouseElement(&from);
+    int hovers = 0;
+    auto const leave = Listen(from.m_SigMouseLeave, [&](CVisualElement*) { to.ReParent(nullptr, false); });
+    auto const hover = Listen(to.m_SigMouseHover, [&](CVisualElement*) { ++hovers; });
+
+    Host().SetMouseElement(&to);
+
+    EXPECT_EQ(Host().GetMouseElement(), nullptr);
+    EXPECT_EQ(hovers, 0);
+}
+
 }  // namespace

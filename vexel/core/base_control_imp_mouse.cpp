@@ -159,9 +159,9 @@ void CBaseControlImp::SetMouseElement(CVisualElement* element)
         if (!alive)
             return;
     }
-    m_MouseElement = next.get();
-    if (next)
-        next->ProcessMouseHover(previous.get());
+    m_MouseElement = next && next->GetControl() == this ? next.get() : nullptr;
+    if (m_MouseElement)
+        m_MouseElement->ProcessMouseHover(previous.get());
 }
 
 void CBaseControlImp::LeaveMouseElement(CVisualElement* next)
