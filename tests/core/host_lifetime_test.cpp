@@ -492,4 +492,45 @@ TEST_F(HostLifetime, AnElementThatLeavesWhileThePointerComesToItIsNotUnderTheMou
     EXPECT_EQ(hovers, 0);
 }
 
+TEST_F(HostLifetime, AnElementThatDiesAfterTheWindowIsForgottenToo)
+{
+    auto* const child = new CRecordingElement(m_Log, "child", m_Root);
+    child->SetCanHaveFocus(true);
+    child->SetFocus(false);
+    child->CaptureMouse();
+    ASSERT_EQ(Host().GetFocusedElement(), child);
+    m_Control->SetSysWindow(nullptr);
+
+    delete child;
+
+    EXPECT_EQ(Host().GetFocusedElement(), nullptr);
+    EXPECT_EQ(Host().GetCapture(), nullptr);
+}
+
+TEST_F(HostLifetime, AnElementThatLeavesIsForgottenEvenIfItsBranchSwallowsTheChange)
+{
+    CRecordingElement branch(m_Log, "branch", m_Root);
+    CRecordingElement child(m_Log, "child", &branch);
+    child.SetCanHaveFocus(true);
+    child.SetFocus(false);
+    branch.CaptureMouse();
+    ASSERT_EQ(Host().GetFocusedElement(), &child);
+    branch.m_OnChange = [](CVisualElement** element) { *element = nullptr; };
+
+    branch.ReParent(nullptr, false);
+
+    EXPECT_EQ(Host().GetFocusedElement(), nullptr);
+    EXPECT_EQ(Host().GetCapture(), nullptr);
+}
+
+TEST_F(HostLifetime, AnElementWhoseConstructionIsCancelledIsNoChild)
+{
+    m_Root->m_OnRearrange = [](CVisualElement**) { throw vexel::cancel_processing(); };
+
+    EXPECT_THROW(delete new CVisualElement(m_Root, {10, 10}, alLeft), vexel::cancel_processing);
+
+    m_Root->m_OnRearrange = nullptr;
+    EXPECT_EQ(m_Root->GetChildren()->GetCount(), 0);
+}
+
 }  // namespace
