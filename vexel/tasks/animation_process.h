@@ -19,7 +19,7 @@ public:
     {
     public:
         virtual ~IUpdater();
-        virtual void UpdateAnimation() = 0;      ///< The animation shows its next frame now.
+        virtual void UpdateAnimation() = 0;    ///< The animation shows its next frame now.
         virtual bool IsUpdatable() const = 0;  ///< Before a step: whether the widget wants the frame.
     };
 

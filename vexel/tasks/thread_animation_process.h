@@ -11,10 +11,9 @@ namespace vexel
 
 /// A thread waits and posts, the GUI thread steps and repaints. Without a synchronizer it waits with its start.
 /// What crosses the threads is the delay alone.
-class VEXEL_API CThreadAnimationProcess
-    : public subscriber_base_t,  // the step is a slot of the proxy that is posted
-      public CAnimationProcess,
-      public CGUITask
+class VEXEL_API CThreadAnimationProcess : public subscriber_base_t,  // the step is a slot of the proxy that is posted
+                                          public CAnimationProcess,
+                                          public CGUITask
 {
 public:
     CThreadAnimationProcess() = default;
@@ -27,7 +26,7 @@ public:
     void SetProcessSynchronizer(ISynchronizer* synchronizer) override;
 
     void DoStopAnimation();
-    void Refresh();  ///< Starts if all is there and a start waits; stops if it runs and that isn't so.
+    void Refresh();     ///< Starts if all is there and a start waits; stops if it runs and that isn't so.
     void UpdateData();  ///< One step. A step that was posted before a stop still comes.
 
     bool InternalProcessData() override;
