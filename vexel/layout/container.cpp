@@ -13,8 +13,7 @@ namespace vexel
 
 CContainer::CContainer(CVisualElement* parent, size<int> const& extent, Alignment alignment)
     : CVisualElement(parent, extent, alignment)
-{
-}
+{}
 
 CContainer::~CContainer() = default;
 
@@ -81,7 +80,8 @@ void CContainer::FitHeight()
     if (!alive)
         return;
     rectangle<int> const rect = control->GetRect();
-    SetHeight(SaturateToInt(std::int64_t{rect.bottom} + m_Offset.top - (std::int64_t{rect.top} + m_Offset.bottom)), false);
+    SetHeight(SaturateToInt(std::int64_t{rect.bottom} + m_Offset.top - (std::int64_t{rect.top} + m_Offset.bottom)),
+              false);
 }
 
 void CContainer::FitWidth()
@@ -94,7 +94,8 @@ void CContainer::FitWidth()
     if (!alive)
         return;
     rectangle<int> const rect = control->GetRect();
-    SetWidth(SaturateToInt(std::int64_t{rect.right} + m_Offset.left - (std::int64_t{rect.left} + m_Offset.right)), false);
+    SetWidth(SaturateToInt(std::int64_t{rect.right} + m_Offset.left - (std::int64_t{rect.left} + m_Offset.right)),
+             false);
 }
 
 void CContainer::CheckVisible()

@@ -23,7 +23,7 @@ public:
     void SetOffset(rectangle<int> const& offset);  ///< The control's distance from each edge; above 0 inwards.
     /// True: only SetPos, SetOffset, a paint and UpdateControlPos place the control, and no longer every layout.
     void SetManualControlPositioning(bool manual) { m_ManualPositioning = manual; }
-    void UpdateControlPos();                         ///< Places the control, or hides it where nothing of it can show.
+    void UpdateControlPos();  ///< Places the control, or hides it where nothing of it can show.
     rectangle<int> GetControlRect() const { return m_ControlRect; }  ///< As last placed, in control pixels.
     /// Asks for the control's natural height, or width, with the offsets' difference.
     void FitHeight();

@@ -19,8 +19,7 @@ _color SystemColor(ISysPalette::SysColor number)
 
 CPane::CPane(CVisualElement* parent, size<int> const& extent, Alignment alignment)
     : CVisualElement(parent, extent, alignment)
-{
-}
+{}
 
 _color CPane::GetActiveColor() const
 {
