@@ -37,12 +37,13 @@ protected:
     }
 };
 
-/// A part of the window through which a box is seen.
+/// A part of the window through which a box is seen. The box sticks out of it and its neighbours lie over what does, so
+/// each change in it repaints them all.
 class CView : public CPanel
 {
 public:
     CView(CVisualElement* parent, size<int> const& extent, Alignment alignment) : CPanel(parent, extent, alignment) {}
-    rectangle<int> GetContentRect() const override { return GetBounds(); }
+    void ProcessChange(CVisualElement** element) override { *element = GetParent(); }
 };
 
 /// Keeps the box as large as it asks for, and takes the focus, so that the navigation keys scroll it.
@@ -109,7 +110,8 @@ private:
 
 void CBoxesPage::Build(CVisualElement* parent)
 {
-    new CLabel(parent, {0, 24}, alTop, "Click an item to make it larger (Control: smaller); keys scroll the clicked box.");
+    new CLabel(parent, {0, 24}, alTop,
+               "Click an item to make it larger (Control: smaller); keys scroll the clicked box.");
     auto* const column = new CView(parent, {0, 0}, alClient);  // first, so that the others are painted over its end
     auto* const shared = new CShared(parent, {0, 44}, alBottom);
     auto* const row = new CView(parent, {0, 64}, alBottom);

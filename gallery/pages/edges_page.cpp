@@ -57,8 +57,8 @@ protected:
             painter->LineTo(to.x, to.y);
             if (i % 10 != 0 || i == 0 || (i + 2) * unit > length)
                 continue;
-            rectangle<double> label = MakeRect((i - 4) * unit, base + inwards * unit, (i + 4) * unit,
-                                               fromEnd ? 0 : thickness);
+            rectangle<double> label =
+                MakeRect((i - 4) * unit, base + inwards * unit, (i + 4) * unit, fromEnd ? 0 : thickness);
             label.Normalize();
             int const centered = IPainter::AlignHCenter | IPainter::AlignVCenter;
             painter->DrawString(label, std::to_string(i * 10).c_str(), ConvTextAlign(centered), -1);
