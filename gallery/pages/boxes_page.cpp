@@ -110,9 +110,9 @@ private:
 
 void CBoxesPage::Build(CVisualElement* parent)
 {
-    new CLabel(parent, {0, 24}, alTop,
+    auto* const column = new CView(parent, {0, 0}, alClient);  // first, so that the others are painted over its ends
+    new CLabel(parent, {0, 40}, alTop,
                "Click an item to make it larger (Control: smaller); keys scroll the clicked box.");
-    auto* const column = new CView(parent, {0, 0}, alClient);  // first, so that the others are painted over its end
     auto* const shared = new CShared(parent, {0, 44}, alBottom);
     auto* const row = new CView(parent, {0, 64}, alBottom);
     auto* const horizontal = new CKeyBox<CHorzBox>(row, {0, 60});

@@ -13,7 +13,7 @@ namespace vexelbase::qt
 namespace
 {
 
-constexpr int s_DefaultDelay = 100;          // milliseconds
+constexpr int s_DefaultDelay = 100;           // milliseconds
 constexpr std::uint32_t s_Kept = 0xFFFFFFFF;  // of a mask: what lies behind stays
 constexpr std::uint32_t s_Black = 0xFF000000;
 constexpr int s_Opaque = 128;  // from this alpha on a pixel counts as opaque
