@@ -252,6 +252,34 @@ TEST_F(ChangeChain, TheControlOfTheReportingElementIsTold)
 
 // The picture that stands -------------------------------------------------------------------------------------------------
 
+TEST_F(ChangeChain, WhatAnElementDeletesInsteadOfReportingItGoesNoFurther)
+{
+    auto* const victim = new CRecordingElement(m_Log, "victim", &m_Aunt);
+    m_Child.m_OnChange = [&](CVisualElement**) { delete victim; };
+    m_Log.Clear();
+
+    m_Child.OnChange(victim, utElement);
+
+    EXPECT_EQ(m_Log.Take({"UpdateElement"}), "control.UpdateElement(victim, 16) control.UpdateElement(victim, 16)");
+}
+
+TEST_F(ChangeChain, ATransparentElementThatDiesOfItsParentsRequestGoesNoFurther)
+{
+    auto* const victim = new CRecordingElement(m_Log, "victim", &m_Middle);
+    victim->m_Transparent = true;
+    auto* doomed = victim;
+    m_Middle.m_OnChange = [&](CVisualElement**) { delete std::exchange(doomed, nullptr); };
+    int asked = 0;
+    m_Middle.m_BeforeChange = [&](CVisualElement*, UpdateType type) {
+        asked += type == utElement;
+        return true;
+    };
+
+    victim->Update(utElement);
+
+    EXPECT_EQ(asked, 1);
+}
+
 TEST_F(ChangeChain, AChangeEmptiesTheValidRectangleOfTheReportingElement)
 {
     CRecordingPainter painter(m_Log);

@@ -34,6 +34,8 @@ public:
     {
         m_Log += "+" + m_Name;
         m_Sender = sender;
+        if (m_OnStarted)
+            m_OnStarted();
     }
     void NoticeStopped(IEventSender* sender) override
     {
@@ -51,6 +53,7 @@ public:
     }
 
     std::function<void()> m_Action;
+    std::function<void()> m_OnStarted;
     std::function<void()> m_OnStopped;
     IEventSender* m_Sender = nullptr;
     CTimerEvent* m_Event = nullptr;
@@ -127,6 +130,17 @@ TEST_F(EventSender, SubscribeToFrontPutsBeforeAllOthersAndGivesNoticeIfAsked)
     EXPECT_TRUE(sender.SubscribeToFront(&c, timer, true));
     EXPECT_EQ(log, "+c");
     EXPECT_EQ(FireTimer(), "cba");
+}
+
+TEST_F(EventSender, ANoticeThatThrowsUndoesTheSubscription)
+{
+    sender.Subscribe(&b, timer, false);
+    a.m_OnStarted = [] { throw std::runtime_error("notice"); };
+    EXPECT_THROW(sender.Subscribe(&a, timer, true), std::runtime_error);
+    EXPECT_THROW(sender.SubscribeToFront(&a, timer, true), std::runtime_error);
+    EXPECT_EQ(sender.GetSubscribersCount(timer), 1);
+    log.clear();
+    EXPECT_EQ(FireTimer(), "b");
 }
 
 TEST_F(EventSender, RefusesSubscribersToAnUnsupportedType)

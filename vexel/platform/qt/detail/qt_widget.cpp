@@ -61,6 +61,12 @@ int CQtWidget::RatioEvent()
     return type;
 }
 
+int CQtWidget::ReleaseEvent()
+{
+    static int const type = QEvent::registerEventType();
+    return type;
+}
+
 bool CQtWidget::event(QEvent* event)
 {
     QPointer<CQtWidget> const self(this);

@@ -5,6 +5,7 @@
 #include "vexel/platform/qt/detail/qt_system.h"
 #include "vexel/platform/qt/detail/qt_widget.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QEnterEvent>
@@ -285,8 +286,15 @@ void CQtWindow::WakeQueue()
 
 void CQtWindow::SetFocus()
 {
-    if (m_Widget && !m_Widget->hasFocus())
-        m_Widget->setFocus(Qt::OtherFocusReason);
+    if (!m_Widget || m_Widget->hasFocus())
+        return;
+    // From another window of this program the focus is taken along. Where the program is not in front it is taken when
+    // the user turns to it.
+    QWidget* const top = m_Widget->window();
+    if (m_Widget->isVisible() && QApplication::activeWindow() && QApplication::activeWindow() != top &&
+        !QApplication::activePopupWidget())
+        top->activateWindow();
+    m_Widget->setFocus(Qt::OtherFocusReason);
 }
 
 bool CQtWindow::HasFocus() const
@@ -310,8 +318,11 @@ void CQtWindow::CaptureMouse()
 
 void CQtWindow::ReleaseMouse()
 {
-    if (m_Widget && QWidget::mouseGrabber() == m_Widget)
-        m_Widget->releaseMouse();
+    if (!m_Widget || QWidget::mouseGrabber() != m_Widget)
+        return;
+    m_Widget->releaseMouse();
+    if (m_Input.IsLeaveDue())
+        QCoreApplication::postEvent(m_Widget, new QEvent(static_cast<QEvent::Type>(CQtWidget::ReleaseEvent())));
 }
 
 void CQtWindow::ScreenToClient(point<int>* position) const
@@ -319,7 +330,7 @@ void CQtWindow::ScreenToClient(point<int>* position) const
     if (!m_Widget)
         return;
     // The widget's corner is rounded once, so that both ways agree to the pixel.
-    double const scale = CQtSystem::Get().GetScale();
+    double const scale = CQtSystem::GetScreenRatio();
     QPointF const corner = m_Widget->mapToGlobal(QPointF(0, 0)) * scale;
     double const factor = m_Ratio / scale;
     position->x = FloorToInt((position->x - std::round(corner.x())) * factor);
@@ -330,7 +341,7 @@ void CQtWindow::ClientToScreen(point<int>* position) const
 {
     if (!m_Widget)
         return;
-    double const scale = CQtSystem::Get().GetScale();
+    double const scale = CQtSystem::GetScreenRatio();
     QPointF const corner = m_Widget->mapToGlobal(QPointF(0, 0)) * scale;
     double const factor = scale / m_Ratio;
     position->x = FloorToInt(std::round(corner.x()) + position->x * factor);
@@ -400,7 +411,8 @@ bool CQtWindow::IsForWindow(QEvent const& event) const
         return m_Widget && m_Widget->isEnabled();
     default:
         return NeedsQtFirst(event) || event.type() == CQtWidget::FrameEvent() ||
-               event.type() == CQtWidget::QueueEvent() || event.type() == CQtWidget::RatioEvent();
+               event.type() == CQtWidget::QueueEvent() || event.type() == CQtWidget::RatioEvent() ||
+               event.type() == CQtWidget::ReleaseEvent();
     }
 }
 
@@ -493,6 +505,10 @@ bool CQtWindow::HandleEvent(QEvent& event)
     else if (event.type() == CQtWidget::QueueEvent())
     {
         RunQueue();
+    }
+    else if (event.type() == CQtWidget::ReleaseEvent())
+    {
+        m_Input.LeaveIfStillDue();
     }
     else if (event.type() == CQtWidget::RatioEvent())
     {

@@ -1,0 +1,132 @@
+#include "gallery/pages/boxes_page.h"
+
+#include "gallery/frame/panel.h"
+#include "gallery/frame/toggle.h"
+#include "vexel/layout/box.h"
+#include "vexel/layout/resizer.h"
+
+#include <string>
+
+namespace gallery
+{
+
+namespace
+{
+
+int const g_Colors[] = {21, 23, 24, 25, 26, 27};
+
+/// A panel of a box. A click makes it larger, with Control smaller.
+class CBoxItem : public CPanel
+{
+public:
+    CBoxItem(CVisualElement* parent, size<int> const& extent, Alignment alignment, int number)
+        : CPanel(parent, extent, alignment)
+    {
+        SetBkColor(color_table[g_Colors[number % 6]]);
+        SetFgColor(color_table[1]);
+        SetText("item " + std::to_string(number + 1));
+        SetFrame(true);
+    }
+
+protected:
+    bool HandleClick(int, int, int keys, MouseButton) override
+    {
+        int const change = keys & ksControl ? -8 : 8;
+        SetSize({std::max(GetSize().width + change, 16), std::max(GetSize().height + change, 16)}, false);
+        return true;
+    }
+};
+
+/// A part of the window through which a box is seen. The box sticks out of it and its neighbours lie over what does, so
+/// each change in it repaints them all.
+class CView : public CPanel
+{
+public:
+    CView(CVisualElement* parent, size<int> const& extent, Alignment alignment) : CPanel(parent, extent, alignment) {}
+    void ProcessChange(CVisualElement** element) override { *element = GetParent(); }
+};
+
+/// Keeps the box as large as it asks for, and takes the focus, so that the navigation keys scroll it.
+template <class Box> class CKeyBox : public Box
+{
+public:
+    CKeyBox(CVisualElement* parent, size<int> const& extent) : Box(parent, extent, alNone)
+    {
+        this->SetCanHaveFocus(true);
+    }
+
+    void SetSize(size<int> const& extent, bool scale) override
+    {
+        Box::SetSize(extent, scale);
+        rectangle<int> const pos = this->GetPos();
+        this->SetPos({pos.left, pos.top, pos.left + this->GetSize().width, pos.top + this->GetSize().height}, true);
+    }
+
+protected:
+    bool HandleButtonDown(int, int, int, MouseButton) override
+    {
+        this->SetFocus(true);
+        return false;
+    }
+};
+
+/// Two neighbours: the left one gets a third of the width.
+class CShared : public CPanel
+{
+public:
+    CShared(CVisualElement* parent, size<int> const& extent, Alignment alignment)
+        : CPanel(parent, extent, alignment), m_Third(new CPanel(this, {100, 0}, alLeft)), m_Resizer(m_Third, 1.0 / 3)
+    {
+        m_Third->SetText("a third");
+        m_Third->SetBkColor(color_table[24]);
+        m_Third->SetFrame(true);
+        auto* const rest = new CPanel(this, {0, 0}, alClient);
+        rest->SetText("CHorzProportionalResizer leaves the rest");
+        rest->SetFrame(true);
+        m_SigSize.connect(&m_Resizer, &CResizer::ProcessResize);
+    }
+
+private:
+    CPanel* const m_Third;
+    CHorzProportionalResizer m_Resizer;
+};
+
+/// Four panels with equal gaps.
+class CSpread : public CPanel
+{
+public:
+    CSpread(CVisualElement* parent, size<int> const& extent, Alignment alignment) : CPanel(parent, extent, alignment)
+    {
+        for (int i = 0; i < 4; ++i)
+            (new CBoxItem(this, {0, 30}, alNone, i))->SetText("spread");
+        m_SigSize.connect(&m_Resizer, &CResizer::ProcessResize);
+    }
+
+private:
+    CUniformVertResizer m_Resizer;
+};
+
+}  // namespace
+
+void CBoxesPage::Build(CVisualElement* parent)
+{
+    new CLabel(parent, {0, 24}, alTop,
+               "Click an item to make it larger (Control: smaller); keys scroll the clicked box.");
+    auto* const column = new CView(parent, {0, 0}, alClient);  // first, so that the others are painted over its end
+    auto* const shared = new CShared(parent, {0, 44}, alBottom);
+    auto* const row = new CView(parent, {0, 64}, alBottom);
+    auto* const horizontal = new CKeyBox<CHorzBox>(row, {0, 60});
+    for (int i = 0; i < 14; ++i)
+        new CBoxItem(horizontal, {90, 0}, alLeft, i);
+    auto* const spread = new CSpread(parent, {120, 0}, alRight);
+    auto* const vertical = new CKeyBox<CVertBox>(column, {360, 0});
+    for (int i = 0; i < 20; ++i)
+        new CBoxItem(vertical, {0, 34}, alTop, i);
+    vertical->SetBottomPadSize(10);
+    Report(horizontal->m_SigSize, "row.size");
+    Report(vertical->m_SigSize, "column.size");
+    Report(shared->m_SigSize, "shared.size");
+    Report(spread->m_SigSize, "spread.size");
+}
+
+}  // namespace gallery
