@@ -505,6 +505,19 @@ TEST_F(ScrolledPaint, ChildrenOutsideOfTheViewAreNotPainted)
     EXPECT_EQ(m_Host.FullPaint().Elements(), "CContent CScrolled seen unseen");
 }
 
+TEST_F(ScrolledPaint, AChildThatTouchesTheViewByOneLineIsPaintedByItsOwnRepaintAlone)
+{
+    auto* const child = new CVisualElement(m_Element, {10, 10}, alNone);
+    child->SetPos({99, 0, 109, 10}, true);
+    m_Host.Name(*child, "child");
+    m_Element->SetPos({0, 0, 200, 300}, false);
+    EXPECT_EQ(m_Host.FullPaint().Elements(), "CContent CScrolled");
+    child->Update(utElement);
+    EXPECT_EQ(m_Host.Paint().Elements(), "child");
+    m_Element->SetPos({-1, 0, 199, 300}, false);
+    EXPECT_EQ(m_Host.FullPaint().Elements(), "CContent CScrolled child");
+}
+
 TEST_F(ScrolledPaint, LearningOfTheViewRepaintsIt)
 {
     PaintAt({0, 0, 200, 300});
