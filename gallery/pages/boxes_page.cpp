@@ -1,10 +1,11 @@
 #include "gallery/pages/boxes_page.h"
 
 #include "gallery/frame/panel.h"
-#include "gallery/frame/toggle.h"
+#include "vexel/core/dpi.h"
 #include "vexel/layout/box.h"
 #include "vexel/layout/resizer.h"
 
+#include <algorithm>
 #include <string>
 
 namespace gallery
@@ -26,15 +27,22 @@ public:
         SetFgColor(color_table[1]);
         SetText("item " + std::to_string(number + 1));
         SetFrame(true);
+        ApplyDPIScale(m_Largest);
     }
 
 protected:
     bool HandleClick(int, int, int keys, MouseButton) override
     {
         int const change = keys & ksControl ? -8 : 8;
-        SetSize({std::max(GetSize().width + change, 16), std::max(GetSize().height + change, 16)}, false);
+        // Not larger than what covers the ends of the boxes.
+        SetSize({std::clamp(GetSize().width + change, 16, m_Largest.width),
+                 std::clamp(GetSize().height + change, 16, m_Largest.height)},
+                false);
         return true;
     }
+
+private:
+    size<int> m_Largest{100, 40};
 };
 
 /// A part of the window through which a box is seen. The box sticks out of it and its neighbours lie over what does, so
@@ -91,11 +99,11 @@ private:
     CHorzProportionalResizer m_Resizer;
 };
 
-/// Four panels with equal gaps.
-class CSpread : public CPanel
+/// Four panels with equal gaps. These leave no room for the lines of the edges, so that the last one sticks out.
+class CSpread : public CView
 {
 public:
-    CSpread(CVisualElement* parent, size<int> const& extent, Alignment alignment) : CPanel(parent, extent, alignment)
+    CSpread(CVisualElement* parent, size<int> const& extent, Alignment alignment) : CView(parent, extent, alignment)
     {
         for (int i = 0; i < 4; ++i)
             (new CBoxItem(this, {0, 30}, alNone, i))->SetText("spread");
@@ -114,7 +122,9 @@ void CBoxesPage::Build(CVisualElement* parent)
     new CLabel(parent, {0, 40}, alTop,
                "Click an item to make it larger (Control: smaller); keys scroll the clicked box.");
     auto* const shared = new CShared(parent, {0, 44}, alBottom);
-    auto* const row = new CView(parent, {0, 64}, alBottom);
+    auto* const strip = new CPanel(parent, {0, 64}, alBottom);
+    auto* const row = new CView(strip, {0, 0}, alClient);
+    (new CPanel(strip, {104, 0}, alLeft))->SetText("CHorzBox");
     auto* const horizontal = new CKeyBox<CHorzBox>(row, {0, 60});
     for (int i = 0; i < 14; ++i)
         new CBoxItem(horizontal, {90, 0}, alLeft, i);
