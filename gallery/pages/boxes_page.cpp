@@ -51,7 +51,11 @@ class CView : public CPanel
 {
 public:
     CView(CVisualElement* parent, size<int> const& extent, Alignment alignment) : CPanel(parent, extent, alignment) {}
-    void ProcessChange(CVisualElement** element) override { *element = GetParent(); }
+    void SetGround(CVisualElement* ground) { m_Ground = ground; }  // what is repainted; the parent if not set
+    void ProcessChange(CVisualElement** element) override { *element = m_Ground ? m_Ground : GetParent(); }
+
+private:
+    CVisualElement* m_Ground = nullptr;
 };
 
 /// Keeps the box as large as it asks for, and takes the focus, so that the navigation keys scroll it.
@@ -124,6 +128,7 @@ void CBoxesPage::Build(CVisualElement* parent)
     auto* const shared = new CShared(parent, {0, 44}, alBottom);
     auto* const strip = new CPanel(parent, {0, 64}, alBottom);
     auto* const row = new CView(strip, {0, 0}, alClient);
+    row->SetGround(parent);
     (new CPanel(strip, {104, 0}, alLeft))->SetText("CHorzBox");
     auto* const horizontal = new CKeyBox<CHorzBox>(row, {0, 60});
     for (int i = 0; i < 14; ++i)

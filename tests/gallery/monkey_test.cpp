@@ -43,7 +43,10 @@ protected:
     void UseKeys();
     void UseDesktop();
     MouseButton AnyButton() { return m_Random.Pick(std::array{mbLeft, mbLeft, mbLeft, mbRight, mbMiddle}); }
-    bool IsRemembered(CVisualElement* element) { return !element || element->GetControl() == m_Host.Control().GetControl(); }
+    bool IsRemembered(CVisualElement* element)
+    {
+        return !element || element->GetControl() == m_Host.Control().GetControl();
+    }
     void ExpectOrder();
 
     CTestHost m_Host{1000, 700};
