@@ -1,7 +1,7 @@
 // Animations that Qt reads.
 
 #include "tests/platform/qt/qt_test_kit.h"
-#include "vexel/platform/qt/movie_animation.h"
+#include "vexel/platform/qt/load_animation.h"
 
 #include "tests/support/canvas.h"
 
@@ -52,7 +52,7 @@ void ExpectTwoFrames(vexel_ptr<IAnimation> const& animation)
 
 }  // namespace
 
-TEST(QtMovie, IsReadFromADevice)
+TEST(QtAnimation, IsReadFromADevice)
 {
     QByteArray data = TwoFrames();
     QBuffer buffer(&data);
@@ -61,7 +61,7 @@ TEST(QtMovie, IsReadFromADevice)
     ExpectTwoFrames(LoadAnimation(&buffer));
 }
 
-TEST(QtMovie, IsReadFromAFile)
+TEST(QtAnimation, IsReadFromAFile)
 {
     QTemporaryDir folder;
     QString const path = folder.filePath("two frames.gif");
@@ -73,7 +73,7 @@ TEST(QtMovie, IsReadFromAFile)
     ExpectTwoFrames(LoadAnimation(path.toStdString()));
 }
 
-TEST(QtMovie, ThatIsCutShortHasTheFramesBeforeTheCut)
+TEST(QtAnimation, ThatIsCutShortHasTheFramesBeforeTheCut)
 {
     QByteArray data = TwoFrames().left(70);
     QBuffer buffer(&data);
@@ -86,7 +86,7 @@ TEST(QtMovie, ThatIsCutShortHasTheFramesBeforeTheCut)
     EXPECT_EQ(animation->GetDelay(), 200) << "there is no other frame";
 }
 
-TEST(QtMovie, ThatCantBeReadGivesNullAndTheReason)
+TEST(QtAnimation, ThatCantBeReadGivesNullAndTheReason)
 {
     std::string error;
     EXPECT_FALSE(LoadAnimation("/nowhere/at all.gif", &error));

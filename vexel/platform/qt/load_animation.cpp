@@ -1,11 +1,11 @@
-#include "vexel/platform/qt/movie_animation.h"
+#include "vexel/platform/qt/load_animation.h"
 
 #include "vexel/platform/picture_animation.h"
 #include "vexel/platform/pixel_buffer.h"
 #include "vexel/platform/system.h"
 
 #include <QImage>
-#include <QMovie>
+#include <QImageReader>
 
 namespace vexelbase::qt
 {
@@ -42,27 +42,17 @@ void AddFrame(CPictureAnimation& animation, ISystem& system, QImage const& sourc
     animation.AddFrame(picture, delay < 1 ? s_DefaultDelay : delay, transparent ? mask : vexel_ptr<IRasterPicture>());
 }
 
-vexel_ptr<IAnimation> Read(QMovie& movie, std::string* error)
+vexel_ptr<IAnimation> Read(QImageReader& reader, std::string* error)
 {
     ISystem* const system = GetCurrentSystem();
     auto animation = MakeRef<CPictureAnimation>();
-    // The first frame comes again when the last one has been read, unless the file tells their number.
-    bool const readable = system && movie.isValid();
-    for (int number = 0; readable && number < s_MaxFrames && movie.jumpToFrame(number); ++number)
-    {
-        if (movie.currentImage().isNull())
-            break;
-        AddFrame(*animation, *system, movie.currentImage(), movie.nextFrameDelay());
-        if (movie.frameCount() > 0 && number + 1 >= movie.frameCount())
-            break;
-    }
+    QImage image;
+    while (system && animation->GetFrameCount() < s_MaxFrames && reader.canRead() && reader.read(&image))
+        AddFrame(*animation, *system, image, reader.nextImageDelay());
     if (animation->GetFrameCount() > 0)
         return animation;
     if (error)
-    {
-        std::string const reason = movie.lastErrorString().toStdString();
-        *error = !system ? "there is no system" : reason.empty() ? "no picture that can be read" : reason;
-    }
+        *error = system ? reader.errorString().toStdString() : "there is no system";
     return nullptr;
 }
 
@@ -70,14 +60,14 @@ vexel_ptr<IAnimation> Read(QMovie& movie, std::string* error)
 
 vexel_ptr<IAnimation> LoadAnimation(std::string const& path, std::string* error)
 {
-    QMovie movie(QString::fromStdString(path));
-    return Read(movie, error);
+    QImageReader reader(QString::fromStdString(path));
+    return Read(reader, error);
 }
 
 vexel_ptr<IAnimation> LoadAnimation(QIODevice* device, std::string* error)
 {
-    QMovie movie(device);
-    return Read(movie, error);
+    QImageReader reader(device);
+    return Read(reader, error);
 }
 
 }  // namespace vexelbase::qt
