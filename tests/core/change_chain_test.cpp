@@ -23,6 +23,16 @@ protected:
         m_Log.Clear();
     }
 
+    // What a test hung onto them ends with its body; the elements still change when they die.
+    void TearDown() override
+    {
+        for (CRecordingElement* const element : {&m_Root, &m_Middle, &m_Child, &m_Aunt})
+        {
+            element->m_OnChange = nullptr;
+            element->m_BeforeChange = nullptr;
+        }
+    }
+
     std::string TakeChain() { return m_Log.Take({"BeforeProcessChange", "ProcessChange", "UpdateElement"}); }
 
     CScriptedSystem m_System;
@@ -251,6 +261,34 @@ TEST_F(ChangeChain, TheControlOfTheReportingElementIsTold)
 }
 
 // The picture that stands -------------------------------------------------------------------------------------------------
+
+TEST_F(ChangeChain, WhatAnElementDeletesInsteadOfReportingItGoesNoFurther)
+{
+    auto* const victim = new CRecordingElement(m_Log, "victim", &m_Aunt);
+    m_Child.m_OnChange = [&](CVisualElement**) { delete victim; };
+    m_Log.Clear();
+
+    m_Child.OnChange(victim, utElement);
+
+    EXPECT_EQ(m_Log.Take({"UpdateElement"}), "control.UpdateElement(victim, 16) control.UpdateElement(victim, 16)");
+}
+
+TEST_F(ChangeChain, ATransparentElementThatDiesOfItsParentsRequestGoesNoFurther)
+{
+    auto* const victim = new CRecordingElement(m_Log, "victim", &m_Middle);
+    victim->m_Transparent = true;
+    auto* doomed = victim;
+    m_Middle.m_OnChange = [&](CVisualElement**) { delete std::exchange(doomed, nullptr); };
+    int asked = 0;
+    m_Middle.m_BeforeChange = [&](CVisualElement*, UpdateType type) {
+        asked += type == utElement;
+        return true;
+    };
+
+    victim->Update(utElement);
+
+    EXPECT_EQ(asked, 1);
+}
 
 TEST_F(ChangeChain, AChangeEmptiesTheValidRectangleOfTheReportingElement)
 {

@@ -166,6 +166,20 @@ TEST_F(Children, ClearingAnEmptyListDoesNothing)
     EXPECT_EQ(empty.GetChildren()->GetCount(), 0);
 }
 
+TEST(ChildrenOfAnElement, ClearingLetsGoOfAStrangerThatHasAnotherParent)
+{
+    CScriptedSystem system;
+    CVisualElement owner(nullptr, {0, 0}, alNone);
+    CVisualElement parent(nullptr, {0, 0}, alNone);
+    CVisualElement child(&parent, {0, 0}, alNone);
+    owner.GetChildren()->AddItem(&child);
+
+    owner.GetChildren()->Clear();
+
+    EXPECT_EQ(owner.GetChildren()->GetCount(), 0);
+    EXPECT_EQ(child.GetParent(), &parent);
+}
+
 TEST(ChildrenOfAnElement, AChildIsNotAddedASecondTime)
 {
     CScriptedSystem system;

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 using namespace vexel;
 
 namespace
@@ -94,6 +96,56 @@ TEST_F(Conversions, NoControlIsNeeded)
     child.ElementToControl(&position);
 
     EXPECT_EQ(position, (point<int>{-6, 10}));
+}
+
+TEST_F(Conversions, AnElementThatHasLeftItsParentCountsFromItsOwnLeftTop)
+{
+    CVisualElement parent(nullptr, {0, 0}, alNone);
+    CVisualElement child(&parent, {0, 0}, alNone);
+    parent.SetPos({10, 20, 110, 120}, false);
+    child.SetPos({3, 4, 13, 14}, false);
+    point<int> position;
+    child.ElementToControl(&position);
+    ASSERT_EQ(position, (point<int>{13, 24}));
+
+    child.ReParent(nullptr, false);
+
+    position = {};
+    child.ElementToControl(&position);
+    EXPECT_EQ(position, (point<int>{3, 4}));
+}
+
+TEST_F(Conversions, AnElementThatWasClearedAwayCountsFromItsOwnLeftTop)
+{
+    CVisualElement parent(nullptr, {0, 0}, alNone);
+    CVisualElement child(&parent, {0, 0}, alNone);
+    parent.SetPos({10, 20, 110, 120}, false);
+    child.SetPos({3, 4, 13, 14}, false);
+    point<int> position;
+    child.ElementToControl(&position);
+    ASSERT_EQ(position, (point<int>{13, 24}));
+
+    parent.GetChildren()->Clear();
+
+    position = {};
+    child.ElementToControl(&position);
+    EXPECT_EQ(position, (point<int>{3, 4}));
+}
+
+TEST_F(Conversions, AnElementInThePlaceOfADeadOneCountsAnew)
+{
+    std::optional<CVisualElement> element;
+    element.emplace(nullptr, size<int>(), alNone);
+    element->SetPos({10, 20, 110, 120}, false);
+    point<int> position;
+    element->ElementToControl(&position);
+    ASSERT_EQ(position, (point<int>{10, 20}));
+
+    element.emplace(nullptr, size<int>(), alNone);
+
+    position = {};
+    element->ElementToControl(&position);
+    EXPECT_EQ(position, (point<int>{0, 0}));
 }
 
 TEST_F(Conversions, TheBoundsStartAtZero)

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 using namespace vexel;
 
 namespace
@@ -321,6 +323,17 @@ TEST(DynamicMark, AMemberOfAnObjectOnTheHeapHasItNot)
 
     EXPECT_TRUE(holder->IsDynamic());
     EXPECT_FALSE(holder->m_Member.IsDynamic());
+}
+
+TEST(DynamicMark, OfANewWhoseArgumentThrowsDoesNotReachTheNextObject)
+{
+    CScriptedSystem system;
+    auto const extent = []() -> size<int> { throw std::runtime_error("extent"); };
+    EXPECT_THROW(delete new CVisualElement(nullptr, extent(), alNone), std::runtime_error);
+
+    CVisualElement byValue(nullptr, {0, 0}, alNone);
+
+    EXPECT_FALSE(byValue.IsDynamic());
 }
 
 TEST(DynamicMark, CanBeOverruled)

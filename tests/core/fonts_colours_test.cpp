@@ -120,6 +120,19 @@ TEST_F(Fonts, WithoutASizeTheFactorMultipliesTheDefaultSizeTruncated)
     EXPECT_EQ(effective.name, "Default");
 }
 
+TEST_F(Fonts, TheFactorMultipliesADefaultSizeOfOneToo)
+{
+    font base = m_System.GetDefaultFont();
+    base.size = 1;
+    m_System.SetDefaultFont(base);
+    font value;
+    value.factor = 3.5;
+    m_Element.SetFont(value);
+
+    EXPECT_EQ(m_Element.GetFont().size, 3);
+    EXPECT_EQ(m_Element.GetFont().factor, 1.0);
+}
+
 TEST_F(Fonts, ANegativeSizeCountsAsNotSet)
 {
     font value;

@@ -338,4 +338,199 @@ TEST_F(HostLifetime, EventsDuringTheEndOfTheControlReachNobody)
               "");
 }
 
+// The end of the root ---------------------------------------------------------------------------------------------------------------
+
+TEST_F(HostLifetime, ADyingRootMayTakeItsControlAlong)
+{
+    auto* const root = new CRecordingElement(m_Log, "last", nullptr, {0, 0}, alClient);
+    auto* const child = new CRecordingElement(m_Log, "child", root);
+    // Connected before the control is, so that the control still has its root.
+    auto const slot = Listen(root->m_SigDestroy, [&](CVisualElement*) { m_Control.reset(); });
+    int deaths = 0;
+    auto const count = Listen(child->m_SigDestroy, [&](CVisualElement*) { ++deaths; });
+    m_Control->SetContent(root);
+
+    delete root;
+
+    EXPECT_EQ(m_Control, nullptr);
+    EXPECT_EQ(deaths, 1);
+}
+
+TEST_F(HostLifetime, ADyingRootMayBringTheNextOne)
+{
+    auto* const root = new CRecordingElement(m_Log, "first", nullptr, {0, 0}, alClient);
+    auto* const next = new CRecordingElement(m_Log, "next", nullptr, {0, 0}, alClient);
+    auto const slot = Listen(root->m_SigDestroy, [&](CVisualElement*) { m_Control->SetContent(next); });
+    m_Control->SetContent(root);
+
+    delete root;
+
+    EXPECT_EQ(m_Control->GetContent(), next);
+    EXPECT_EQ(next->GetControl(), &Host());
+    EXPECT_EQ(Paint(), "next.DrawContent()");
+}
+
+TEST_F(HostLifetime, ARootThatIsBroughtWhileTheOldOneDiesGivesWayToTheOneThatWasAskedFor)
+{
+    CRecordingElement meanwhile(m_Log, "meanwhile", nullptr, {0, 0}, alClient);
+    auto* const wanted = new CRecordingElement(m_Log, "wanted", nullptr, {0, 0}, alClient);
+    auto const slot = Listen(m_Root->m_SigDestroy, [&](CVisualElement*) { m_Control->SetContent(&meanwhile); });
+
+    m_Control->SetContent(wanted);
+
+    EXPECT_EQ(m_Control->GetContent(), wanted);
+    EXPECT_EQ(meanwhile.GetControl(), nullptr);
+}
+
+TEST_F(HostLifetime, ARootThatIsBroughtWhileTheOldOneDiesGivesWayToNoneToo)
+{
+    CRecordingElement meanwhile(m_Log, "meanwhile", nullptr, {0, 0}, alClient);
+    auto const slot = Listen(m_Root->m_SigDestroy, [&](CVisualElement*) { m_Control->SetContent(&meanwhile); });
+
+    m_Control->SetContent(nullptr);
+
+    EXPECT_EQ(m_Control->GetContent(), nullptr);
+    EXPECT_EQ(meanwhile.GetControl(), nullptr);
+}
+
+TEST_F(HostLifetime, TheWantedRootMayBeBroughtWhileTheOldOneDies)
+{
+    auto* const wanted = new CRecordingElement(m_Log, "wanted", nullptr, {0, 0}, alClient);
+    auto const slot = Listen(m_Root->m_SigDestroy, [&](CVisualElement*) { m_Control->SetContent(wanted); });
+    m_Log.Clear();
+
+    m_Control->SetContent(wanted);
+
+    EXPECT_EQ(m_Control->GetContent(), wanted);
+    EXPECT_EQ(m_Log.Take({"AfterSetControl"}), "wanted.AfterSetControl()");
+}
+
+// Deletes the control that it is given to.
+class CRefusingRoot : public CVisualElement
+{
+public:
+    explicit CRefusingRoot(std::unique_ptr<CBaseControl>& control)
+        : CVisualElement(nullptr, {0, 0}, alClient), m_ControlToDelete(control)
+    {}
+    void ProcessSetControl(IControl*) override { m_ControlToDelete.reset(); }
+
+private:
+    std::unique_ptr<CBaseControl>& m_ControlToDelete;
+};
+
+TEST_F(HostLifetime, ARootByValueMayDeleteTheControlThatItIsGivenTo)
+{
+    CRefusingRoot root(m_Control);
+    CRecordingElement child(m_Log, "child", &root);
+
+    m_Control->SetContent(&root);
+
+    EXPECT_EQ(m_Control, nullptr);
+    EXPECT_EQ(root.GetControl(), nullptr);
+    EXPECT_EQ(child.GetControl(), nullptr);
+}
+
+TEST_F(HostLifetime, ADyingRootThatItsChildrenAskForSomethingLeavesNothingBehind)
+{
+    auto* const first = new CRecordingElement(m_Log, "first", m_Root, {10, 10}, alLeft);
+    CRecordingElement second(m_Log, "second", m_Root, {10, 10}, alLeft);
+    m_Root->SetCanHaveFocus(true);
+    Paint();
+    CRecordingElement* const root = m_Root;
+    auto const slot = Listen(first->m_SigDestroy, [&](CVisualElement*) {
+        root->Update(utElement);
+        root->SetFocus(false);
+        root->CaptureMouse();
+        second.SetSize({20, 10}, false);
+    });
+
+    m_Control->SetContent(nullptr);
+
+    EXPECT_EQ(Host().GetUpdatesLastPos(), 0);
+    EXPECT_EQ(Host().GetFocusedElement(), nullptr);
+    EXPECT_EQ(Host().GetCapture(), nullptr);
+    EXPECT_FALSE(Host().IsRearrangeNeeded());
+}
+
+TEST_F(HostLifetime, WhereASlotThrowsWhileABranchLeavesNothingOfItIsRemembered)
+{
+    CRecordingElement branch(m_Log, "branch", m_Root);
+    CRecordingElement child(m_Log, "child", &branch);
+    branch.SetCanHaveFocus(true);
+    branch.SetFocus(false);
+    Host().SetMouseElement(&child);
+    child.CaptureMouse();
+    ASSERT_EQ(Host().GetFocusedElement(), &branch);
+    branch.m_BeforeChange = [](CVisualElement*, UpdateType type) {
+        if (type == utRemoved)
+            throw vexel::cancel_processing();
+        return true;
+    };
+
+    EXPECT_THROW(branch.ReParent(nullptr, false), vexel::cancel_processing);
+
+    EXPECT_EQ(branch.GetControl(), nullptr);
+    EXPECT_EQ(child.GetControl(), nullptr);
+    EXPECT_EQ(Host().GetFocusedElement(), nullptr);
+    EXPECT_EQ(Host().GetMouseElement(), nullptr);
+    EXPECT_EQ(Host().GetCapture(), nullptr);
+    branch.m_BeforeChange = nullptr;
+}
+
+TEST_F(HostLifetime, AnElementThatLeavesWhileThePointerComesToItIsNotUnderTheMouse)
+{
+    CRecordingElement from(m_Log, "from", m_Root);
+    CRecordingElement to(m_Log, "to", m_Root);
+    Host().SetMouseElement(&from);
+    int hovers = 0;
+    auto const leave = Listen(from.m_SigMouseLeave, [&](CVisualElement*) { to.ReParent(nullptr, false); });
+    auto const hover = Listen(to.m_SigMouseHover, [&](CVisualElement*) { ++hovers; });
+
+    Host().SetMouseElement(&to);
+
+    EXPECT_EQ(Host().GetMouseElement(), nullptr);
+    EXPECT_EQ(hovers, 0);
+}
+
+TEST_F(HostLifetime, AnElementThatDiesAfterTheWindowIsForgottenToo)
+{
+    auto* const child = new CRecordingElement(m_Log, "child", m_Root);
+    child->SetCanHaveFocus(true);
+    child->SetFocus(false);
+    child->CaptureMouse();
+    ASSERT_EQ(Host().GetFocusedElement(), child);
+    m_Control->SetSysWindow(nullptr);
+
+    delete child;
+
+    EXPECT_EQ(Host().GetFocusedElement(), nullptr);
+    EXPECT_EQ(Host().GetCapture(), nullptr);
+}
+
+TEST_F(HostLifetime, AnElementThatLeavesIsForgottenEvenIfItsBranchSwallowsTheChange)
+{
+    CRecordingElement branch(m_Log, "branch", m_Root);
+    CRecordingElement child(m_Log, "child", &branch);
+    child.SetCanHaveFocus(true);
+    child.SetFocus(false);
+    branch.CaptureMouse();
+    ASSERT_EQ(Host().GetFocusedElement(), &child);
+    branch.m_OnChange = [](CVisualElement** element) { *element = nullptr; };
+
+    branch.ReParent(nullptr, false);
+
+    EXPECT_EQ(Host().GetFocusedElement(), nullptr);
+    EXPECT_EQ(Host().GetCapture(), nullptr);
+}
+
+TEST_F(HostLifetime, AnElementWhoseConstructionIsCancelledIsNoChild)
+{
+    m_Root->m_OnRearrange = [](CVisualElement**) { throw vexel::cancel_processing(); };
+
+    EXPECT_THROW(delete new CVisualElement(m_Root, {10, 10}, alLeft), vexel::cancel_processing);
+
+    m_Root->m_OnRearrange = nullptr;
+    EXPECT_EQ(m_Root->GetChildren()->GetCount(), 0);
+}
+
 }  // namespace

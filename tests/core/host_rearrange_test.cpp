@@ -205,6 +205,39 @@ TEST_F(HostRearrange, AParentThatIsDeletedBeforeTheLayoutIsForgotten)
                             "other.SetPos(0 21 30 31, true) host.after()");
 }
 
+TEST_F(HostRearrange, AnElementThatAsksWhileItsBranchLeavesLeavesNothingWaiting)
+{
+    CRecordingElement branch(m_Log, "branch", m_Root, {30, 10}, alLeft);
+    CRecordingElement child(m_Log, "child", &branch, {10, 10}, alTop);
+    Host().ForceRearrange();
+    child.m_BeforeChange = [&](CVisualElement*, UpdateType type) {
+        if (type == utRemoved)
+            child.SetSize({10, 20}, false);  // the branch has lost its control already
+        return true;
+    };
+    branch.ReParent(nullptr, false);
+    m_Left.SetSize({40, 10}, false);
+    m_Log.Clear();
+
+    Host().ForceRearrange();
+
+    EXPECT_EQ(m_Log.Take({"SetPos"}).find("branch"), std::string::npos);
+}
+
+TEST_F(HostRearrange, AnElementOfAnotherTreeAsksForNothing)
+{
+    CRecordingElement stranger(m_Log, "stranger");
+    CRecordingElement child(m_Log, "child", &stranger, {10, 10}, alTop);
+    m_Log.Clear();
+
+    m_Leaf.OnRearrange(&child);
+
+    EXPECT_FALSE(Host().IsRearrangeNeeded());
+    EXPECT_EQ(m_Log.Take({"InvalidateRect"}), "");
+    Host().ForceRearrange();
+    EXPECT_EQ(TakeLayout(), "");
+}
+
 TEST_F(HostRearrange, ATargetWithReversedEdgesIsLaidOutWithThemInOrder)
 {
     CRecordingElement extra(m_Log, "extra", m_Root);
@@ -349,6 +382,23 @@ TEST_F(HostRearrange, ARequestInTheAfterSignalWaitsForTheNextLayout)
     EXPECT_TRUE(Host().IsRearrangeNeeded());
     Host().ForceRearrange();
     EXPECT_EQ(m_Leaf.GetPos(), (rectangle<int>{0, 0, 30, 21}));
+}
+
+TEST_F(HostRearrange, ALayoutThatForcesAndAsksForTheNextOneEachTimeEnds)
+{
+    int passes = 0;
+    auto const slot = Listen(Host().m_SigBeforeRearrange, [&] {
+        ++passes;
+        m_Leaf.SetSize({10, 100 + passes}, false);
+        Host().ForceRearrange();  // remembered
+        m_Other.SetSize({10, 100 + passes}, false);
+    });
+    m_Leaf.SetSize({10, 20}, false);
+
+    Host().ForceRearrange();
+
+    EXPECT_EQ(passes, 64);
+    EXPECT_FALSE(Host().IsRearrangeNeeded());
 }
 
 TEST_F(HostRearrange, AnExceptionInALayoutLeavesNoLayoutOpen)

@@ -225,6 +225,27 @@ TEST_F(HostState, AChildOfTheOldContentCanBecomeTheContent)
     EXPECT_EQ(child->GetControl(), &Host());
 }
 
+TEST_F(HostState, TheContentOfAnotherControlIsGivenUpByThatOne)
+{
+    CBaseControl other(nullptr);
+
+    other.SetContent(m_Root);
+
+    EXPECT_EQ(other.GetContent(), m_Root);
+    EXPECT_EQ(m_Root->GetControl(), other.GetControl());
+    EXPECT_EQ(m_Control->GetContent(), nullptr);
+}
+
+TEST_F(HostState, AContentThatMovesIntoAnotherTreeIsGivenUp)
+{
+    CBaseControl other(nullptr);
+
+    m_Root->ReParent(other.GetContent(), false);
+
+    EXPECT_EQ(m_Control->GetContent(), nullptr);
+    EXPECT_EQ(m_Root->GetControl(), other.GetControl());
+}
+
 TEST_F(HostState, AnOldContentByValueIsNotDeletedAndForgetsTheControl)
 {
     CRecordingElement byValue(m_Log, "byValue", nullptr, {0, 0}, alClient);

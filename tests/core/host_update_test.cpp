@@ -254,6 +254,17 @@ TEST_F(HostUpdate, ARemovedElementThatAsksDuringItsGlobalUpdateIsForgottenAllThe
     EXPECT_EQ(Paint(), "");
 }
 
+TEST_F(HostUpdate, AnElementOfAnotherTreeAsksForNoRepaint)
+{
+    CRecordingElement stranger(m_Log, "stranger");
+    m_Log.Clear();
+
+    Host().UpdateElement(&stranger, utElement);
+
+    EXPECT_EQ(Host().GetUpdatesLastPos(), 0);
+    EXPECT_EQ(m_Log.Take({"InvalidateRect"}), "");
+}
+
 TEST_F(HostUpdate, NothingIsAskedForANullElement)
 {
     Host().UpdateElement(nullptr, utElement);
@@ -463,6 +474,33 @@ TEST_F(HostForget, ADyingElementIsNotDragged)
     delete m_Extra;
 
     EXPECT_EQ(Host().GetDraggedElement(), nullptr);
+}
+
+TEST_F(HostForget, AfterADraggedElementDiedEverythingIsPaintedSoThatItsItemGoes)
+{
+    DragInfo info;
+    info.m_UseBackground = false;
+    Host().StartDragging(m_Extra, info);
+    auto* const other = new CRecordingElement(m_Log, "other", m_Root);
+    other->SetPos({70, 0, 80, 20}, false);
+    Paint();
+
+    delete m_Extra;
+    other->Update(utElement);
+
+    EXPECT_NE(Paint().find("root.DrawContent()"), std::string::npos);
+}
+
+TEST_F(HostForget, ADyingDraggedElementLeavesTheNativeCaptureToTheElementThatHasIt)
+{
+    Host().StartDragging(m_Extra, DragInfo());
+    m_Root->CaptureMouse();
+    m_Log.Clear();
+
+    delete m_Extra;
+
+    EXPECT_EQ(m_Log.Take({"ReleaseMouse"}), "");
+    EXPECT_EQ(Host().GetCapture(), m_Root);
 }
 
 TEST_F(HostForget, ADyingPressedElementStartsNoDrag)

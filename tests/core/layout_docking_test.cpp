@@ -228,6 +228,18 @@ TEST_F(Docking, AWidthNearTheEndOfIntIsCutToo)
     EXPECT_EQ(hugeRight.GetPos(), (rectangle<int>{101, 0, 100, 50}));
 }
 
+TEST_F(Docking, AnExtentNearTheEndOfIntIsCutInANegativeAreaToo)
+{
+    m_Parent.m_ContentRect = rectangle<int>{-100, -50, -10, -5};
+    CVisualElement right(&m_Parent, {2147483647, 0}, alRight);
+    LayOut();
+    EXPECT_EQ(right.GetPos(), (rectangle<int>{-100, -50, -10, -5}));
+    right.SetVisible(false);
+    CVisualElement bottom(&m_Parent, {0, 2147483647}, alBottom);
+    LayOut();
+    EXPECT_EQ(bottom.GetPos(), (rectangle<int>{-100, -50, -10, -5}));
+}
+
 // Too small ---------------------------------------------------------------------------------------------------------------
 
 TEST_F(Docking, AChildOfSizeZeroTakesOneStep)

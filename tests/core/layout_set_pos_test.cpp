@@ -463,6 +463,43 @@ TEST_F(SetPos, GrowthInPlaceKeepsTheValidRectangleOfAnElementThatCannotBeScrolle
     EXPECT_EQ(loose.GetValidRect(), (rectangle<int>{0, 0, 30, 10}));
 }
 
+TEST_F(SetPos, AValidRectangleIsEmptyOnlyIfBothPairsOfEndsAreEqual)
+{
+    CRecordingElement loose(m_Log, "loose", &m_Root, {0, 0}, alNone);
+    loose.m_ScrollableOnSetPos = false;
+    loose.SetPos({1, 2, 31, 12}, false);
+    loose.SetValidRect({6, 2, 6, 12});
+
+    loose.SetPos({1, 2, 51, 22}, false);
+
+    EXPECT_EQ(loose.GetValidRect(), (rectangle<int>{5, 0, 5, 10}));
+}
+
+TEST_F(SetPos, AnElementThatLeavesInItsLayoutDropsNothingOfItsFormerControl)
+{
+    CRecordingElement child(m_Log, "child", &m_Box, {10, 10}, alTop);
+    auto const slot = Listen(child.m_SigSize, [&](CVisualElement*) { m_Box.ReParent(nullptr, false); });
+    m_Log.Clear();
+
+    m_Box.SetPos({0, 0, 30, 20}, false);
+
+    EXPECT_EQ(m_Log.Take({"ClearUpdates"}), "control.ClearUpdates(1)");  // the child's own
+    EXPECT_EQ(m_Box.GetControl(), nullptr);
+}
+
+TEST_F(SetPos, AClientThatLeavesDuringTheLayoutIsNotPlaced)
+{
+    CRecordingElement client(m_Log, "client", &m_Box, {0, 0}, alClient);
+    CRecordingElement child(m_Log, "child", &m_Box, {10, 10}, alTop);
+    auto const slot = Listen(child.m_SigSize, [&](CVisualElement*) { client.ReParent(&m_Root, false); });
+    m_Log.Clear();
+
+    m_Box.SetPos({0, 0, 30, 20}, false);
+
+    EXPECT_EQ(client.GetParent(), &m_Root);
+    EXPECT_EQ(client.GetPos(), (rectangle<int>{0, 0, 0, 0}));
+}
+
 TEST_F(SetPos, GrowthInPlaceKeepsTheValidRectangleWhenAClientFillsEverything)
 {
     CRecordingElement client(m_Log, "client", &m_Box, {0, 0}, alClient);

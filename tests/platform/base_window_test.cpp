@@ -246,7 +246,26 @@ TEST_F(CBaseWindowTest, DoesNotPaintWithinAPaint)
     m_Window->UpdateNow();
     EXPECT_EQ(m_Control.m_Log, "part [] ");
     EXPECT_TRUE(m_Window->IsFramePending());
-    EXPECT_EQ(m_Window->m_Frames, 1);
+    EXPECT_EQ(m_Window->m_Frames, 2);  // the one that came within the paint, and another
+}
+
+TEST_F(CBaseWindowTest, AsksAgainForAFrameThatCameDuringAPaint)
+{
+    int draws = 0;
+    m_Control.m_Draw = [&](IPainter*) {
+        if (++draws > 1)
+            return;
+        m_Window->InvalidateRect(0, 0, 1, 1);
+        m_Window->PaintFrame();  // from a native loop of the handler
+    };
+    m_Window->UpdateNow();
+    EXPECT_EQ(draws, 1);
+    EXPECT_TRUE(m_Window->IsFramePending());
+    EXPECT_EQ(m_Window->m_Frames, 2);  // the one that came too early, and another
+    m_Window->PaintFrame();
+    EXPECT_EQ(draws, 2);
+    EXPECT_FALSE(m_Window->IsFramePending());
+    EXPECT_EQ(m_Window->m_Frames, 2);
 }
 
 TEST_F(CBaseWindowTest, OnlyInvalidatesWhileSomebodyMeasures)

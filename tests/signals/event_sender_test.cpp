@@ -34,6 +34,8 @@ public:
     {
         m_Log += "+" + m_Name;
         m_Sender = sender;
+        if (m_OnStarted)
+            m_OnStarted();
     }
     void NoticeStopped(IEventSender* sender) override
     {
@@ -51,6 +53,7 @@ public:
     }
 
     std::function<void()> m_Action;
+    std::function<void()> m_OnStarted;
     std::function<void()> m_OnStopped;
     IEventSender* m_Sender = nullptr;
     CTimerEvent* m_Event = nullptr;
@@ -127,6 +130,17 @@ TEST_F(EventSender, SubscribeToFrontPutsBeforeAllOthersAndGivesNoticeIfAsked)
     EXPECT_TRUE(sender.SubscribeToFront(&c, timer, true));
     EXPECT_EQ(log, "+c");
     EXPECT_EQ(FireTimer(), "cba");
+}
+
+TEST_F(EventSender, ANoticeThatThrowsUndoesTheSubscription)
+{
+    sender.Subscribe(&b, timer, false);
+    a.m_OnStarted = [] { throw std::runtime_error("notice"); };
+    EXPECT_THROW(sender.Subscribe(&a, timer, true), std::runtime_error);
+    EXPECT_THROW(sender.SubscribeToFront(&a, timer, true), std::runtime_error);
+    EXPECT_EQ(sender.GetSubscribersCount(timer), 1);
+    log.clear();
+    EXPECT_EQ(FireTimer(), "b");
 }
 
 TEST_F(EventSender, RefusesSubscribersToAnUnsupportedType)
@@ -387,6 +401,23 @@ TEST_F(EventSender, AHandlerMayDeleteTheSenderAndThrow)
     };
     dying->FireEvent(timer, &INotify::Handle<&ITimerNotify::OnTimer>, nullptr, true);
     EXPECT_EQ(log, "a-a-b");
+}
+
+TEST_F(EventSender, ANoticeMayDeleteTheSenderThatIsBeingLeft)
+{
+    auto dying = std::make_unique<Sender>();
+    dying->SetSupportedEvent(timer);
+    dying->SetSupportedEvent(click);
+    dying->Subscribe(&a, timer, false);
+    dying->Subscribe(&a, click, false);
+    dying->Subscribe(&b, click, false);
+    a.m_OnStopped = [&] { dying.reset(); };
+
+    EXPECT_TRUE(dying->Unsubscribe(&a, true));
+
+    EXPECT_FALSE(dying);
+    EXPECT_EQ(log, "-a-a-b");
+    a.m_OnStopped = nullptr;
 }
 
 TEST_F(EventSender, ThatDiesGivesNoticeToAllWhoRemain)

@@ -386,6 +386,24 @@ TEST(SignalReceiver, WithTwoConnectionsThatDisconnectsOneNoLongerListsTheSignal)
     signal.disconnect(&a, &CReceiver::OtherSlot);
 }
 
+TEST(SignalReceiver, OfManySignalsWithTwoConnectionsToOneForgetsBothNotesOfItToo)
+{
+    std::string log;
+    CReceiver a(log, "a");
+    signal_t<> signals[40];
+    for (signal_t<>& signal : signals)
+    {
+        signal.connect(&a, &CReceiver::Slot);
+        signal.connect(&a, &CReceiver::OtherSlot);
+    }
+
+    signals[20].disconnect(&a, &CReceiver::Slot);
+
+    EXPECT_EQ(a.count_signal(&signals[20]), 0u);
+    EXPECT_EQ(a.signal_count(), 78u);
+    signals[20].disconnect(&a, &CReceiver::OtherSlot);
+}
+
 TEST(SignalReceiver, ThatForgotTheSignalAndConnectsAgainLeavesWithAllItsConnections)
 {
     std::string log;

@@ -446,7 +446,7 @@ TEST(MemorySystem, PaletteColoursAreFixedUntilSet)
     CMemorySystem system;
     EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scFace), _color(0xFFC0C0C0));
     EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scHighlight), _color(0xFFC06030));  // 30 60 C0
-    EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scLiteral), color_table[1]);
+    EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scLiteral), color_table[0]);
     system.GetMemoryPalette().SetColor(ISysPalette::scFace, color_table[6]);
     EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scFace), color_table[6]);
     system.Reset();

@@ -89,8 +89,8 @@ class Display:
         self.tool("xdotool", "key", name)
 
     def picture(self, window, path):
-        """The window as a PNG file."""
-        self.tool("import", "-window", window, path)
+        """The window as a picture file of the kind that its name says, with 8 bits a channel."""
+        self.tool("import", "-window", window, "-depth", "8", path)
 
     def pixel(self, window, x, y):
         """(red, green, blue) of a point of the window."""

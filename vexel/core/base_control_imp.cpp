@@ -100,8 +100,13 @@ void CBaseControlImp::SetContent(CVisualElement* root)
                 return;
         }
     }
-    ReleaseRoot();
-    if (!alive || !fresh)
+    while (m_Root && m_Root != root)  // a slot may bring another one while the old one goes
+    {
+        ReleaseRoot();
+        if (!alive || (root && !fresh))
+            return;
+    }
+    if (!fresh || m_Root == root)
         return;
     if (auto* const other = dynamic_cast<CBaseControlImp*>(root->GetControl()); other && other->m_Root == root)
         other->GiveUpRoot();
@@ -110,13 +115,13 @@ void CBaseControlImp::SetContent(CVisualElement* root)
     root->SetControl(this);
 }
 
-// Deletes the root if it is dynamic; another one goes its own way.
+// Deletes the root if it is dynamic; another one, and one that is being deleted already, goes its own way.
 void CBaseControlImp::ReleaseRoot()
 {
     CVisualElement* const root = GiveUpRoot();
     if (!root)
         return;
-    if (root->IsDynamic())
+    if (root->IsDynamic() && !root->m_Destroying)
         delete root;
     else if (root->GetControl() == this)
         root->LeaveControl();

@@ -122,6 +122,7 @@ private:
     void ReleaseRoot();
     CVisualElement* GiveUpRoot();
 
+    void RunPass();
     void LayOutForPaint();
     void PaintTree(IPainter* painter);
     void PaintDragBackground(IPainter* painter);

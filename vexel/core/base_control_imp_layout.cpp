@@ -6,6 +6,8 @@
 #include "vexel/platform/convert.h"
 #include "vexel/platform/sys_window.h"
 
+#include <utility>
+
 namespace vexel
 {
 
@@ -22,7 +24,8 @@ void CBaseControlImp::RearrangeElement(CVisualElement* element)
     if (!element || !FindWindow())
         return;
     CVisualElement* const parent = element->GetParent();
-    if (parent && !parent->IsDisplayable())
+    // An element whose branch is leaving may still ask; nobody would tell this control when the parent dies.
+    if (parent && (parent->GetControl() != this || !parent->IsDisplayable()))
         return;
     if (parent)
         m_Rearranges.AddElement(parent);
@@ -43,33 +46,40 @@ void CBaseControlImp::ForceRearrange()
         return;
     }
     CAlivePtr<CBaseControlImp> const alive(this);
+    for (int round = 0; round < s_MaxRounds; ++round)
     {
-        CLayoutDebt const debt(this);
-        CFlagScope const inRearrange(this, &CBaseControlImp::m_InRearrange);
-        if (m_Rearranges.GetCount() > 0)
-        {
-            m_SigBeforeRearrange();
-            if (!alive)
-                return;
-            RearrangeInt();
-            if (!alive)
-                return;
-            if (m_Root)
-                m_Root->RefreshPos();
-            if (!alive)
-                return;
-            m_SigAfterRearrange();
-        }
-        else
-        {
-            DoRearrange(true);
-        }
+        RunPass();
+        if (!alive || !m_RearrangeAgain)
+            return;
+        // Only what was asked for meanwhile has an effect: the flag is as the first step left it.
+        m_RearrangeAgain = false;
+        if (!std::exchange(m_RearrangeNeeded, false))
+            return;
     }
-    if (!alive || !m_RearrangeAgain)
+    m_Rearranges.Clear(0);
+}
+
+// What waits, or everything if nothing does.
+void CBaseControlImp::RunPass()
+{
+    CAlivePtr<CBaseControlImp> const alive(this);
+    CLayoutDebt const debt(this);
+    CFlagScope const inRearrange(this, &CBaseControlImp::m_InRearrange);
+    if (m_Rearranges.GetCount() == 0)
+    {
+        DoRearrange(true);
         return;
-    // Only what was asked for meanwhile has an effect: the flag is as the first step left it.
-    m_RearrangeAgain = false;
-    ForceRearrange();
+    }
+    m_SigBeforeRearrange();
+    if (!alive)
+        return;
+    RearrangeInt();
+    if (!alive)
+        return;
+    if (m_Root)
+        m_Root->RefreshPos();
+    if (alive)
+        m_SigAfterRearrange();
 }
 
 void CBaseControlImp::RearrangeInt()

@@ -44,6 +44,8 @@ CVisualElement::~CVisualElement()
     CTransit const transit(this, nullptr);
     m_SigDestroy(this);
     OnChange(this, utRemoved);
+    if (!m_Parent)
+        m_Control = nullptr;  // it has forgotten this root; what slots ask of it from here on must not get there
     m_Children.Clear();
     Withdraw();
 }

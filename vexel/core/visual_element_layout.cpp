@@ -194,7 +194,7 @@ void CVisualElement::LayOutChildren(bool force)
         if (!alive)
             return;
     }
-    if (client)
+    if (client && client->m_Parent == this)  // it may have left meanwhile
     {
         client->SetPos(area, force);
         if (!alive)

@@ -122,11 +122,16 @@ void CBaseWindow::ResizeSurface(size<int> const& extent)
 
 void CBaseWindow::PaintFrame()
 {
+    if (m_InPaint)
+        m_FrameMissed = true;
     if (m_InPaint || m_DrawingLock > 0 || m_Destroying || !m_Device)
         return;
     m_FramePending = false;
     if (std::exchange(m_PaintDue, false) && !PaintTarget())
         return;
+    // A frame that came during the paint, from a native loop of some handler, has brought nothing.
+    if (std::exchange(m_FrameMissed, false) && m_FramePending && m_DrawingLock == 0)
+        RequestFrame();
     if (m_Device->GetDamage().GetCount() == 0)
         return;
     if (m_DrawingLock == 0)

@@ -65,7 +65,7 @@ protected:
     /// The surface takes a new size, keeping what fits; the next paint is a full one. Then OnResize is delivered.
     void ResizeSurface(size<int> const& extent);
     /// Runs the control's paint if one is due, then PresentDamage. Does nothing during a paint or while drawing is
-    /// locked; the frame then comes later. A paint that an exception has ended is repeated once, as a full one.
+    /// locked; the frame is then asked for again, and comes later. A paint that an exception has ended is repeated once, as a full one.
     /// The window may be gone afterwards.
     void PaintFrame();
     /// Runs what is queued now, in order; what is posted meanwhile waits for the next call. Deletes each. A runnable
@@ -110,6 +110,7 @@ private:
     CVexelControl* m_Target = nullptr;
     bool m_Destroying = false;
     bool m_FramePending = false;
+    bool m_FrameMissed = false;  // a frame came while one was under way
     bool m_PaintDue = false;
     bool m_InPaint = false;
     bool m_Retrying = false;  // the last paint was ended by an exception

@@ -30,7 +30,7 @@ public:
     };
 
     virtual ~ISysPalette();
-    virtual _color GetColor(SysColor number) const = 0;
+    virtual _color GetColor(SysColor number) const = 0;  ///< None for numbers that name no colour.
 };
 
 /// A palette whose colours an application sets.

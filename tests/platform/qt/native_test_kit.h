@@ -32,7 +32,8 @@ public:
     void EditOnChangeText(CChangeTextEvent*) override { Note("change"); }
     void EditOnChar(CEditKeyDownEvent* event) override
     {
-        Refuse(*event, "char(" + std::to_string(static_cast<int>(static_cast<unsigned char>(event->m_Character))) + ")");
+        Refuse(*event,
+               "char(" + std::to_string(static_cast<int>(static_cast<unsigned char>(event->m_Character))) + ")");
     }
     void EditOnKeyDown(CEditKeyDownEvent* event) override
     {
@@ -111,7 +112,8 @@ public:
     std::function<void()> m_Do;
 };
 
-inline void PressKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, QString const& text = {})
+inline void PressKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+                     QString const& text = {})
 {
     QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
     QCoreApplication::sendEvent(widget, &event);

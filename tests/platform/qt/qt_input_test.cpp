@@ -122,6 +122,39 @@ TEST(QtMouse, CaptureIsTakenOnceAndGivenUpHoweverOften)
     EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
 }
 
+TEST(QtMouse, TheCapturedPointerLeavesWhenTheCaptureEndsElsewhere)
+{
+    CHosted hosted;
+    hosted.Window().CaptureMouse();
+    hosted.Send(QEvent(QEvent::Leave));
+    EXPECT_EQ(hosted.Control().Take(), "");
+    hosted.Window().ReleaseMouse();
+    EXPECT_EQ(hosted.Control().Take(), "");  // not within the call
+    Settle();
+    EXPECT_EQ(hosted.Control().Take(), "leave");
+    Settle();
+    EXPECT_EQ(hosted.Control().Take(), "");
+
+    // It came back before.
+    hosted.Window().CaptureMouse();
+    hosted.Send(QEvent(QEvent::Leave));
+    hosted.Send(QEnterEvent(QPointF(5, 6), QPointF(5, 6), QPointF(5, 6)));
+    hosted.Window().ReleaseMouse();
+    Settle();
+    EXPECT_EQ(hosted.Control().Take(), "move(5,6,0x0,0)");
+
+    // Captured once more before the end was told.
+    hosted.Window().CaptureMouse();
+    hosted.Send(QEvent(QEvent::Leave));
+    hosted.Window().ReleaseMouse();
+    hosted.Window().CaptureMouse();
+    Settle();
+    EXPECT_EQ(hosted.Control().Take(), "");
+    hosted.Window().ReleaseMouse();
+    Settle();
+    EXPECT_EQ(hosted.Control().Take(), "leave");
+}
+
 TEST(QtMouse, HidingGivesUpTheCapture)
 {
     CHosted hosted;

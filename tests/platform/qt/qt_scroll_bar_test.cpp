@@ -195,7 +195,7 @@ TEST_F(QtScrollBar, ALongRangeIsSteppedExactly)
     EXPECT_EQ(m_Words.Take(), "1027/2");
     Native().triggerAction(QAbstractSlider::SliderPageStepAdd);
     EXPECT_EQ(m_Words.Take(), "5e+17/3");  // cut to the end
-    Native().setValue(0);  // as the bar's own menu does
+    Native().setValue(0);                  // as the bar's own menu does
     EXPECT_EQ(m_Words.Take(), "0/0");
 }
 

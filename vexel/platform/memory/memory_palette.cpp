@@ -7,7 +7,7 @@ _color CMemoryPalette::GetColor(SysColor number) const
 {
     int const index = number;
     return index >= 1 && index < static_cast<int>(m_Colors.size()) ? m_Colors[static_cast<std::size_t>(index)]
-                                                                   : color_table[1];
+                                                                   : color_table[0];
 }
 
 void CMemoryPalette::SetColor(SysColor number, _color const& color)

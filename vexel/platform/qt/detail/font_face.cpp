@@ -61,12 +61,13 @@ QFont MakeQtFont(font const& value, double ratio)
 
     constexpr double smallest = 1.0;
     constexpr double largest = 2000.0;
+    double const scale = value.factor > 0 ? value.factor * ratio : ratio;
     if (value.size > 0)
-        result.setPointSizeF(std::clamp(value.size * ratio, smallest, largest));
+        result.setPointSizeF(std::clamp(value.size * scale, smallest, largest));
     else if (result.pointSizeF() > 0)
-        result.setPointSizeF(std::clamp(result.pointSizeF() * ratio, smallest, largest));
+        result.setPointSizeF(std::clamp(result.pointSizeF() * scale, smallest, largest));
     else
-        result.setPixelSize(std::max(1, ToInt(result.pixelSize() * ratio)));
+        result.setPixelSize(ToInt(std::clamp(result.pixelSize() * scale, smallest, largest)));
 
     result.setBold((value.style & font::fsBold) != 0);
     result.setItalic((value.style & font::fsItalic) != 0);

@@ -104,8 +104,8 @@ private:
     std::size_t m_BlockSize = 0;
 };
 
-/// The Qt font for one of the framework's, whose factor does not count; a font without size or name takes them from the
-/// application's font. `ratio`: multiplies the size. Letters are hinted to whole pixels.
+/// The Qt font for one of the framework's; one without size or name takes them from the application's font. `ratio`:
+/// multiplies the size, as the font's own factor does. Letters are hinted to whole pixels.
 QFont MakeQtFont(font const& value, double ratio);
 
 /// The quarter turns of a font's rotation; false if it stands at another angle.

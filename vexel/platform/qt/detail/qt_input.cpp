@@ -18,7 +18,6 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
-#include <algorithm>
 #include <utility>
 
 namespace vexelbase::qt
@@ -50,9 +49,7 @@ QString ToTipText(CTooltipEvent const& event)
     QString style = event.m_Multiline ? QStringLiteral("white-space:pre-wrap") : QStringLiteral("white-space:pre");
     if (ownFont)
     {
-        font sized = event.m_Font;
-        sized.size = std::max(1, ToInt(sized.size * sized.factor));
-        QFont const native = MakeQtFont(sized, 1.0);
+        QFont const native = MakeQtFont(event.m_Font, 1.0);
         style += QStringLiteral(";font-family:'%1';font-size:%2pt;font-weight:%3;font-style:%4")
                      .arg(native.family().remove(u'\'').remove(u'"'))
                      .arg(native.pointSizeF())
@@ -123,6 +120,7 @@ bool CQtInput::Move(QMouseEvent const& event)
 bool CQtInput::Enter(QEnterEvent const& event)
 {
     m_JustEntered = true;
+    m_LeaveDue = false;
     return SendMove(event.position(), QGuiApplication::keyboardModifiers(), event.buttons());
 }
 
@@ -147,9 +145,17 @@ bool CQtInput::SendMove(QPointF const& position, Qt::KeyboardModifiers modifiers
     return true;
 }
 
+bool CQtInput::LeaveIfStillDue()
+{
+    return m_LeaveDue ? Leave() : true;
+}
+
 bool CQtInput::Leave()
 {
     m_JustEntered = false;
+    m_LeaveDue = QWidget::mouseGrabber() == m_Window.GetWidget();
+    if (m_LeaveDue)
+        return true;
     point<int> const at = ToPixels(m_Window.GetWidget()->mapFromGlobal(QPointF(QCursor::pos())));
     Qt::MouseButtons const buttons = QGuiApplication::mouseButtons();
     CMouseEvent sent(at.x, at.y, ToKeyState(QGuiApplication::keyboardModifiers(), buttons), ToHeldButton(buttons));

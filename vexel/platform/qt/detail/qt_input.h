@@ -34,7 +34,9 @@ public:
     bool Move(QMouseEvent const& event);
     bool DoubleClick(QMouseEvent const& event);
     bool Enter(QEnterEvent const& event);
-    bool Leave();
+    bool Leave();            ///< While the window has captured the pointer it waits for the end of that.
+    bool LeaveIfStillDue();  ///< To be called when the capture has ended.
+    bool IsLeaveDue() const { return m_LeaveDue; }
     bool Wheel(QWheelEvent const& event);  ///< Sideways movements are left to others.
     bool ContextMenu(QContextMenuEvent const& event);
 
@@ -72,6 +74,7 @@ private:
     int m_WheelRest = 0;  // 120ths of a notch
     bool m_TooltipShown = false;
     bool m_JustEntered = false;  // the last move was the pointer's entering
+    bool m_LeaveDue = false;     // it left while it was captured
     SMove m_LastMove;
 };
 

@@ -67,7 +67,7 @@ void CQtPopup::Show(point<int> const& screen)
     if (!widget || !m_Owner)
         return;
     vexel_ptr<IPopup> const alive(this);
-    double const scale = CQtSystem::Get().GetScale();
+    double const scale = CQtSystem::GetScreenRatio();
     widget->move(ToInt(std::round(screen.x / scale)), ToInt(std::round(screen.y / scale)));
     if (m_Visible || !m_Window->GetWidget())
         return;

@@ -167,10 +167,15 @@ int CQtSystem::GetSystemMetric(int metric)
     return CeilToInt(QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent) * GetScale());
 }
 
-double CQtSystem::GetScale()
+double CQtSystem::GetScreenRatio()
 {
     QScreen const* const screen = qApp ? QGuiApplication::primaryScreen() : nullptr;
-    return (screen ? screen->devicePixelRatio() : 1.0) * m_Zoom;
+    return screen ? screen->devicePixelRatio() : 1.0;
+}
+
+double CQtSystem::GetScale()
+{
+    return GetScreenRatio() * m_Zoom;
 }
 
 vexel_ptr<ISysTimer> CQtSystem::CreateTimer(int period, int)
@@ -214,7 +219,7 @@ rectangle<int> CQtSystem::GetWorkArea(point<int> const& screen)
 {
     if (!qApp)
         return {};
-    double const scale = GetScale();
+    double const scale = GetScreenRatio();
     QScreen const* found =
         QGuiApplication::screenAt(QPoint(FloorToInt(screen.x / scale), FloorToInt(screen.y / scale)));
     if (!found)
@@ -242,7 +247,7 @@ point<int> CQtSystem::CPointer::GetPos() const
 {
     if (!qApp)
         return {};
-    double const scale = Get().GetScale();
+    double const scale = GetScreenRatio();
     QPoint const position = QCursor::pos();
     return {FloorToInt(position.x() * scale), FloorToInt(position.y() * scale)};
 }

@@ -34,7 +34,7 @@ private:
 };
 
 /// The desktop as Qt sees it. Never destroyed: without an application object it answers with what is harmless.
-/// Screen pixels are Qt's global coordinates times the scale.
+/// Screen pixels are Qt's global coordinates times the ratio of the first screen, whatever the zoom.
 class CQtSystem final : public ISystem
 {
 public:
@@ -58,6 +58,8 @@ public:
     vexel_ptr<ILock> CreateLock() override;
     rectangle<int> GetWorkArea(point<int> const& screen) override;
 
+    /// Screen pixels for one of Qt's; the scale without the zoom.
+    static double GetScreenRatio();
     /// A factor on top of the desktop's scale; not-a-number counts as 1.
     void SetZoom(double factor);
     /// The desktop's look may have changed: font, scale, colours, style.

@@ -65,6 +65,12 @@ int CQtWidget::RatioEvent()
     return type;
 }
 
+int CQtWidget::ReleaseEvent()
+{
+    static int const type = QEvent::registerEventType();
+    return type;
+}
+
 bool CQtWidget::event(QEvent* event)
 {
     CInQt const inside;

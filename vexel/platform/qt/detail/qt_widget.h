@@ -26,6 +26,7 @@ public:
     static int FrameEvent();  ///< Types of the events that a window posts to its widget.
     static int QueueEvent();
     static int RatioEvent();
+    static int ReleaseEvent();  ///< The capture has ended.
 
 protected:
     bool event(QEvent* event) override;

@@ -324,8 +324,15 @@ void CQtWindow::WakeQueue()
 void CQtWindow::SetFocus()
 {
     m_FocusWhenShown = nullptr;
-    if (m_Widget && !m_Widget->hasFocus())
-        m_Widget->setFocus(Qt::OtherFocusReason);
+    if (!m_Widget || m_Widget->hasFocus())
+        return;
+    // From another window of this program the focus is taken along. Where the program is not in front it is taken when
+    // the user turns to it.
+    QWidget* const top = m_Widget->window();
+    if (m_Widget->isVisible() && QApplication::activeWindow() && QApplication::activeWindow() != top &&
+        !QApplication::activePopupWidget())
+        top->activateWindow();
+    m_Widget->setFocus(Qt::OtherFocusReason);
 }
 
 bool CQtWindow::HasFocus() const
@@ -349,8 +356,11 @@ void CQtWindow::CaptureMouse()
 
 void CQtWindow::ReleaseMouse()
 {
-    if (m_Widget && QWidget::mouseGrabber() == m_Widget)
-        m_Widget->releaseMouse();
+    if (!m_Widget || QWidget::mouseGrabber() != m_Widget)
+        return;
+    m_Widget->releaseMouse();
+    if (m_Input.IsLeaveDue())
+        QCoreApplication::postEvent(m_Widget, new QEvent(static_cast<QEvent::Type>(CQtWidget::ReleaseEvent())));
 }
 
 void CQtWindow::ScreenToClient(point<int>* position) const
@@ -358,7 +368,7 @@ void CQtWindow::ScreenToClient(point<int>* position) const
     if (!m_Widget)
         return;
     // The widget's corner is rounded once, so that both ways agree to the pixel.
-    double const scale = CQtSystem::Get().GetScale();
+    double const scale = CQtSystem::GetScreenRatio();
     QPointF const corner = m_Widget->mapToGlobal(QPointF(0, 0)) * scale;
     double const factor = m_Ratio / scale;
     position->x = FloorToInt((position->x - std::round(corner.x())) * factor);
@@ -369,7 +379,7 @@ void CQtWindow::ClientToScreen(point<int>* position) const
 {
     if (!m_Widget)
         return;
-    double const scale = CQtSystem::Get().GetScale();
+    double const scale = CQtSystem::GetScreenRatio();
     QPointF const corner = m_Widget->mapToGlobal(QPointF(0, 0)) * scale;
     double const factor = scale / m_Ratio;
     position->x = FloorToInt(std::round(corner.x()) + position->x * factor);
@@ -492,7 +502,8 @@ bool CQtWindow::IsForWindow(QEvent const& event) const
         return m_Widget && m_Widget->isEnabled() && !IsNativeFocused();
     default:
         return NeedsQtFirst(event) || event.type() == CQtWidget::FrameEvent() ||
-               event.type() == CQtWidget::QueueEvent() || event.type() == CQtWidget::RatioEvent();
+               event.type() == CQtWidget::QueueEvent() || event.type() == CQtWidget::RatioEvent() ||
+               event.type() == CQtWidget::ReleaseEvent();
     }
 }
 
@@ -611,6 +622,10 @@ bool CQtWindow::HandleEvent(QEvent& event)
     else if (event.type() == CQtWidget::QueueEvent())
     {
         RunQueue();
+    }
+    else if (event.type() == CQtWidget::ReleaseEvent())
+    {
+        m_Input.LeaveIfStillDue();
     }
     else if (event.type() == CQtWidget::RatioEvent())
     {

@@ -122,10 +122,10 @@ private:
     int m_Cursor = 0;
     std::vector<CQtNativeNode*> m_Natives;  // in the order of their making
     std::vector<CQtPopup*> m_Popups;
-    CQtPopup* m_OwnPopup = nullptr;               // whose window it is
-    CQtNativeNode* m_FocusWhenShown = nullptr;    // unless somebody else takes it before
-    bool m_ToldOfFocus = false;                   // the control believes that the window has it
-    int m_FocusHeld = 0;                          // while above 0 the control is told nothing of it
+    CQtPopup* m_OwnPopup = nullptr;             // whose window it is
+    CQtNativeNode* m_FocusWhenShown = nullptr;  // unless somebody else takes it before
+    bool m_ToldOfFocus = false;                 // the control believes that the window has it
+    int m_FocusHeld = 0;                        // while above 0 the control is told nothing of it
     CQtInput m_Input{*this};
 };
 

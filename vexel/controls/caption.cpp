@@ -1,0 +1,367 @@
+#include "vexel/controls/caption.h"
+
+#include "vexel/controls/detail/scaled.h"
+#include "vexel/core/control.h"
+#include "vexel/platform/native_controls.h"
+#include "vexel/platform/sys_window.h"
+
+#include <algorithm>
+
+namespace vexel
+{
+
+namespace
+{
+
+double const g_Unlimited = 100000.0;
+
+int GetDefaultImageSpace()
+{
+    return detail::Scaled(4.0);
+}
+
+/// A bracket for measuring in a font. Inside a paint only the font is put back.
+class CMeasureBracket
+{
+public:
+    CMeasureBracket(IPainter* painter, font const& value)
+        : m_Painter(painter), m_Own(!painter->m_Painting), m_Before(m_Own ? font() : painter->GetFont())
+    {
+        if (m_Own)
+            m_Painter->BeginPaint(IPainter::ssMeasure);
+        m_Painter->SetFont(value);
+    }
+    ~CMeasureBracket()
+    {
+        if (m_Own)
+            m_Painter->EndPaint();
+        else
+            m_Painter->SetFont(m_Before);
+    }
+    CMeasureBracket(CMeasureBracket const&) = delete;
+    CMeasureBracket& operator=(CMeasureBracket const&) = delete;
+
+private:
+    IPainter* const m_Painter;
+    bool const m_Own;
+    font const m_Before;
+};
+
+}  // namespace
+
+// Links -------------------------------------------------------------------------------------------------------------------
+
+void CCaption::LinkHolder::AddLink(char const* target, int length, rectangle<int> const& rect)
+{
+    m_Links.push_back(
+        {target ? std::string(target, static_cast<std::size_t>(std::max(length, 0))) : std::string(), rect});
+}
+
+void CCaption::LinkHolder::SetValid(bool valid)
+{
+    m_Valid = valid;
+    if (valid)
+        std::sort(m_Links.begin(), m_Links.end(), SLinkComparer());
+    else
+        m_Links.clear();
+}
+
+bool CCaption::LinkHolder::IsLink(point<int> const& position) const
+{
+    return std::any_of(m_Links.begin(), m_Links.end(),
+                       [&](Link const& link) { return link.rect.Contains(position.x, position.y); });
+}
+
+std::string CCaption::LinkHolder::GetLink(point<int> const& position) const
+{
+    auto link = std::find_if(m_Links.begin(), m_Links.end(),
+                             [&](Link const& each) { return each.rect.Contains(position.x, position.y); });
+    link = std::find_if(link, m_Links.end(), [](Link const& each) { return !each.target.empty(); });
+    return link != m_Links.end() ? link->target : std::string();
+}
+
+// Construction and setters --------------------------------------------------------------------------------------------------
+
+CCaption::CCaption(CVisualElement* parent, size<int> const& extent, Alignment alignment)
+    : CTransparentFlavor<CVisualElement>(parent, extent, alignment), m_ImageSpace(GetDefaultImageSpace())
+{
+    CCaption::SetAlignment(alignment);
+}
+
+void CCaption::SetCaption(std::string const& text)
+{
+    if (text == m_Caption)
+        return;
+    CAliveGuard const alive(this);
+    m_Caption = text;
+    SetCursor(1);
+    RecalculateSize();
+    if (alive)
+        OnChange(this, utElement);
+}
+
+void CCaption::SetAutoSize(bool on)
+{
+    if (on == m_AutoSize)
+        return;
+    m_AutoSize = on;
+    RecalculateSize();
+}
+
+void CCaption::AdjustHeight(bool on)
+{
+    if (on == m_AdjustHeight)
+        return;
+    m_AdjustHeight = on;
+    RecalculateSize();
+}
+
+void CCaption::SetMaxTextWidth(int pixels)
+{
+    int const width = std::max(pixels, 0);
+    if (width == m_MaxTextWidth)
+        return;
+    m_MaxTextWidth = width;
+    RecalculateSize();
+}
+
+void CCaption::SetTextAlign(int flags)
+{
+    if (flags == m_TextAlign)
+        return;
+    m_TextAlign = flags;
+    OnChange(this, utElement);
+}
+
+void CCaption::UseHTML(bool use)
+{
+    if (use == m_UseHTML)
+        return;
+    m_UseHTML = use;
+    OnChange(this, utElement);
+}
+
+void CCaption::SetImageIndex(int index)
+{
+    if (index < -1 || index == m_ImageIndex)
+        return;
+    m_ImageIndex = index;
+    OnChange(this, utElement);
+}
+
+void CCaption::SetImageSpace(int pixels)
+{
+    int const space = pixels < 0 ? GetDefaultImageSpace() : pixels;
+    if (space == m_ImageSpace)
+        return;
+    m_ImageSpace = space;
+    OnChange(this, utElement);
+}
+
+void CCaption::SetTextLayout(bool turn)
+{
+    CAliveGuard const alive(this);
+    SetTextConversion(turn);
+    if (turn)
+        SetAlignment(GetAlignment());
+    else
+        ChangeLayout(alTop);
+    if (alive)
+        OnChange(this, utElement);
+}
+
+void CCaption::SetAlignment(Alignment alignment)
+{
+    if (ChangeLayout(alignment))
+        CVisualElement::SetAlignment(alignment);
+}
+
+void CCaption::SetPos(rectangle<int> const& rect, bool force)
+{
+    CAliveGuard const alive(this);
+    int const before = GetBounds().right;
+    CVisualElement::SetPos(rect, force);
+    if (alive && m_AdjustHeight && GetBounds().right != before)
+        RecalculateSize();
+}
+
+void CCaption::AttributeChanged()
+{
+    CAliveGuard const alive(this);
+    OnChange(this, utElement);
+    if (alive)
+        RecalculateSize();
+}
+
+std::string CCaption::HandleAsString() const
+{
+    return m_UseHTML ? RemoveLinks(m_Caption) : m_Caption;
+}
+
+// Size --------------------------------------------------------------------------------------------------------------------
+
+size<int> CCaption::GetAutoSizeExtent()
+{
+    return {detail::Scaled(2), detail::Scaled(2)};
+}
+
+size<int> CCaption::GetAutoSizeAdditionalExtent() const
+{
+    return GetAutoSizeExtent();
+}
+
+size<int> CCaption::GetDrawingAdditionalExtent() const
+{
+    return GetAutoSizeAdditionalExtent();
+}
+
+IImageList* CCaption::GetImages() const
+{
+    return GetControl() ? GetControl()->GetImageList() : nullptr;
+}
+
+size<int> CCaption::GetImageSize() const
+{
+    IImageList* const images = m_ImageIndex == -1 ? nullptr : GetImages();
+    if (!images)
+        return {};
+    size<int> extent = images->GetSize(m_ImageIndex);
+    if (!m_Caption.empty())
+        extent.width = AddSaturated(extent.width, m_ImageSpace);
+    return extent;
+}
+
+void CCaption::RecalculateSize()
+{
+    if (GetControl())
+        m_Links.SetValid(false);
+    if (!m_AutoSize)
+    {
+        OnChange(this, utElement);
+        return;
+    }
+    ISysWindow* const window = GetControl() ? GetControl()->GetWindow() : nullptr;
+    IPainter* const painter = window ? window->GetPainter() : nullptr;
+    if (!painter)
+        return;
+
+    size<int> extent;
+    {
+        CMeasureBracket const bracket(painter, GetFont());
+        size<int> const image = GetImageSize();
+        size<int> const extra = GetAutoSizeAdditionalExtent();
+        size<double> const text = MeasureText(painter, image, extra);
+        extent.width = AddSaturated(AddSaturated(ToInt(text.width), extra.width), image.width);
+        extent.height = AddSaturated(ToInt(std::max<double>(image.height, text.height)), extra.height);
+    }
+    if (IsTextConverted())
+        extent = {ToInt(GetAlong(extent.width, extent.height)), ToInt(GetAcross(extent.width, extent.height))};
+    SetSize(extent, false);
+}
+
+size<double> CCaption::MeasureText(IPainter* painter, size<int> const& image, size<int> const& extra)
+{
+    if (m_Caption.empty())
+        return {};
+    double width = g_Unlimited;
+    if (m_AdjustHeight)
+    {
+        rectangle<int> const bounds = GetBounds();
+        int const along = ToInt(GetAlong(extra.width, extra.height));
+        width = SubtractSaturated(bounds.right, AddSaturated(AddSaturated(bounds.left, image.width), along));
+    }
+    if (m_MaxTextWidth != 0 && m_MaxTextWidth < width)
+        width = m_MaxTextWidth;
+    return painter->DrawStringEx({0.0, 0.0, width, g_Unlimited}, m_Caption.c_str(),
+                                 IPainter::AlignMeasureOnly | IPainter::AlignLeft, -1, GetDelimiters(), GetFormatter());
+}
+
+// Drawing -----------------------------------------------------------------------------------------------------------------
+
+void CCaption::DrawBackground(IPainter* painter)
+{
+    if (IsTransparent())
+        return;
+    rectangle<int> const bounds = GetBounds();
+    painter->FillRect(bounds.left, bounds.top, bounds.right, bounds.bottom);
+}
+
+void CCaption::DrawContent(IPainter* painter)
+{
+    CAliveGuard const alive(this);
+    CHTMLTextFormatter::Clear();
+    DrawBackground(painter);
+    if (!alive)
+        return;
+
+    rectangle<int> rect = GetInternalRect();
+    int const flags = IsEnabled() ? m_TextAlign : m_TextAlign | IPainter::AlignDisabled;
+    bool const hasMargin = (m_TextAlign & IPainter::AlignHCenter) == 0 && !m_Caption.empty();
+    size<int> const extra = hasMargin ? GetDrawingAdditionalExtent() : size<int>();
+    int const margin = ToInt(ToInt(GetAlong(extra.width, extra.height)) * 0.5 + 0.5);
+    rect.left = AddSaturated(rect.left, margin);
+    rect.right = SubtractSaturated(rect.right, margin);
+    if (m_MaxTextWidth != 0)
+    {
+        int const limit = AddSaturated(m_MaxTextWidth, GetImageSize().width);
+        if (SubtractSaturated(rect.right, rect.left) > limit)
+            rect.right = AddSaturated(rect.left, limit);
+    }
+
+    m_Links.SetValid(false);
+    DrawLabel(painter, rect, m_Caption, flags, m_ImageSpace, GetImages(), m_ImageIndex, this, GetDelimiters(),
+              GetFormatter());
+    if (!alive)
+        return;
+    if (m_TooltipFromCaption)
+        FollowShortening(painter->m_TextShortened);
+    m_Links.SetValid(true);
+}
+
+// Never overwrites a tooltip that is not the caption.
+void CCaption::FollowShortening(bool shortened)
+{
+    if (shortened && GetTooltip().empty())
+        SetTooltip(m_Caption);
+    else if (!shortened && GetTooltip() == m_Caption)
+        SetTooltip({});
+}
+
+void CCaption::OnDrawLink(char const* target, int length, rectangle<int> const& rect)
+{
+    if (!m_Links.IsValid())
+        m_Links.AddLink(target, length, rect);
+}
+
+// Input -------------------------------------------------------------------------------------------------------------------
+
+bool CCaption::HandleMouseMove(int x, int y, int keys, MouseButton)
+{
+    if (keys != 0 || !m_UseHTML || m_Links.IsEmpty())
+        return false;
+    point<int> position{x, y};
+    ElementToControl(&position);
+    SetCursor(m_Links.IsLink(position) ? 12 : 1);
+    return true;
+}
+
+bool CCaption::HandleButtonDown(int x, int y, int, MouseButton button)
+{
+    if (button != mbLeft || !m_UseHTML || m_Links.IsEmpty())
+        return false;
+    point<int> position{x, y};
+    ElementToControl(&position);
+    std::string const link = m_Links.GetLink(position);
+    if (link.empty())
+        return false;
+
+    CAliveGuard const alive(this);
+    bool handled = false;
+    m_LinkClicked(link, handled);
+    alive.Check();
+    if (!handled && GetControl())
+        GetControl()->ActivateHelp(link);
+    return true;
+}
+
+}  // namespace vexel
