@@ -1,13 +1,17 @@
 #include "gallery/pages.h"
 
+#include "gallery/pages/boxes_page.h"
 #include "gallery/pages/docking_page.h"
 #include "gallery/pages/drag_drop_page.h"
+#include "gallery/pages/edges_page.h"
 #include "gallery/pages/flashing_page.h"
+#include "gallery/pages/flow_grid_page.h"
 #include "gallery/pages/focus_page.h"
 #include "gallery/pages/html_text_page.h"
 #include "gallery/pages/input_log_page.h"
 #include "gallery/pages/overlap_page.h"
 #include "gallery/pages/painter_page.h"
+#include "gallery/pages/panes_page.h"
 #include "gallery/pages/partial_repaint_page.h"
 #include "gallery/pages/parts_page.h"
 #include "gallery/pages/tooltip_page.h"
@@ -42,6 +46,13 @@ SPage const g_Pages[] = {
     {"parts", "Native parts and borders",
      "Each part plain, hot, pressed and disabled; each border flat, raised, sunken.", &Make<CPartsPage>},
     {"html", "Text with mark-up", "Links tell when they are clicked; narrow columns wrap.", &Make<CHtmlTextPage>},
+    {"edges", "Layouts on four edges",
+     "Click a ruler to dock it to the next edge: its code knows only along and across.", &Make<CEdgesPage>},
+    {"flow", "Flow and grid", "Two layouts for items that are no elements. Make the window narrower.",
+     &Make<CFlowGridPage>},
+    {"boxes", "Boxes and resizers", "Boxes as large as their items, seen through a view; sizes in step with others.",
+     &Make<CBoxesPage>},
+    {"panes", "Panes", "The frame shows where the focus is. Walk with Tab.", &Make<CPanesPage>},
 };
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include "vexel/platform/painter.h"
 #include "vexel/platform/system.h"
 
+#include <algorithm>
+
 namespace gallery
 {
 
@@ -56,8 +58,12 @@ protected:
     {
         if (!(keys & ksLeft) || GetControl()->GetCapture() != this)
             return false;
+        // It stays on its ground, which is what is repainted.
+        rectangle<int> const ground = GetParent()->GetBounds();
         rectangle<int> place = GetPos();
         place.Offset(x - m_Grip.x, y - m_Grip.y);
+        place.Offset(std::min(ground.right - place.right, 0), std::min(ground.bottom - place.bottom, 0));
+        place.Offset(std::max(ground.left - place.left, 0), std::max(ground.top - place.top, 0));
         SetPos(place, true);
         GetParent()->Update(utElement);
         return true;

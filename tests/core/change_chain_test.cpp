@@ -23,6 +23,16 @@ protected:
         m_Log.Clear();
     }
 
+    // What a test hung onto them ends with its body; the elements still change when they die.
+    void TearDown() override
+    {
+        for (CRecordingElement* const element : {&m_Root, &m_Middle, &m_Child, &m_Aunt})
+        {
+            element->m_OnChange = nullptr;
+            element->m_BeforeChange = nullptr;
+        }
+    }
+
     std::string TakeChain() { return m_Log.Take({"BeforeProcessChange", "ProcessChange", "UpdateElement"}); }
 
     CScriptedSystem m_System;

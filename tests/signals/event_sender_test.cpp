@@ -403,6 +403,23 @@ TEST_F(EventSender, AHandlerMayDeleteTheSenderAndThrow)
     EXPECT_EQ(log, "a-a-b");
 }
 
+TEST_F(EventSender, ANoticeMayDeleteTheSenderThatIsBeingLeft)
+{
+    auto dying = std::make_unique<Sender>();
+    dying->SetSupportedEvent(timer);
+    dying->SetSupportedEvent(click);
+    dying->Subscribe(&a, timer, false);
+    dying->Subscribe(&a, click, false);
+    dying->Subscribe(&b, click, false);
+    a.m_OnStopped = [&] { dying.reset(); };
+
+    EXPECT_TRUE(dying->Unsubscribe(&a, true));
+
+    EXPECT_FALSE(dying);
+    EXPECT_EQ(log, "-a-a-b");
+    a.m_OnStopped = nullptr;
+}
+
 TEST_F(EventSender, ThatDiesGivesNoticeToAllWhoRemain)
 {
     {

@@ -1,42 +1,20 @@
 // The order of virtual operations is binary interface: new ones go last.
 
+#include "tests/support/virtual_order.h"
 #include "vexel/platform/events.h"
 #include "vexel/signals/notify.h"
 
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cstddef>
-#include <cstdint>
 #include <typeinfo>
 #include <vector>
 
 using namespace vexelbase;
+using namespace vexel::test;
 
 namespace
 {
-
-struct SMemberWords
-{
-    std::uintptr_t function;
-    std::ptrdiff_t adjustment;
-};
-
-/// The place in the virtual table, as the C++ ABI of Linux writes it into a pointer to a member function. The
-/// destructor takes places 0 and 1.
-template <class Class, class Result, class... Args> std::size_t Place(Result (Class::*function)(Args...))
-{
-    auto const words = std::bit_cast<SMemberWords>(function);
-    EXPECT_EQ(words.function % 2, 1u) << "not virtual";
-    return words.function / sizeof(void*);
-}
-
-template <class... Members> void ExpectOrder(std::size_t first, Members... members)
-{
-    std::size_t place = first;
-    for (std::size_t const found : {Place(members)...})
-        EXPECT_EQ(found, place++);
-}
 
 TEST(VirtualOrder, OfNotifyInterfaces)
 {

@@ -9,7 +9,9 @@ namespace vexel
 class VEXEL_API CBoxBase : public CScrolled
 {
 public:
-    using CScrolled::CScrolled;
+    CBoxBase(CVisualElement* parent, size<int> const& extent, Alignment alignment)
+        : CScrolled(parent, extent, alignment), m_AutoSize(GetControl() != nullptr)
+    {}
 
     /// Takes the size that the visible children need. Without a control nothing happens.
     virtual void RecalculateSize() = 0;
@@ -24,7 +26,7 @@ public:
 protected:
     void PlaceBox(rectangle<int> const& rect, bool force, int (rectangle<int>::*across)() const);
 
-    bool m_AutoSize = false;  // from the time that there is a control
+    bool m_AutoSize;  // from the time that there is a control, which may be that of the parent it is made under
 };
 
 /// As high as its children at the top and bottom, and the one that fills the rest, ask for; each takes one pixel more

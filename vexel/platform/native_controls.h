@@ -29,6 +29,10 @@ public:
     virtual void SetEnabled(bool enabled) = 0;
     virtual void Refresh() = 0;  ///< Takes the natural size again (a bar its thickness), which GetRect then tells.
     virtual std::string GetText() const = 0;
+    /// On at first: Tab reaches the control behind the window that it stands in and leaves it for the next one. A host
+    /// that has it in an order of its own turns this off: then Tab does not go to it by itself, and one that leaves it is
+    /// the window's key (OnKeyDown), as if the window had the focus.
+    virtual void SetTabStop(bool stop) { static_cast<void>(stop); }
 };
 
 /// What a scroll bar shows. Positions run from minimum to maximum - page.

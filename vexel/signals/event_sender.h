@@ -149,7 +149,7 @@ private:
 
 // ---------------------------------------------------------------------------------------------------------------------
 
-/// Stands on the stack of a firing and learns of the sender's death.
+/// Stands on the stack of a firing, or of notices, and learns of the sender's death.
 template <class Sender> class CImplEventSender<Sender>::CFiring
 {
 public:
@@ -253,12 +253,15 @@ template <class Sender> bool CImplEventSender<Sender>::Unsubscribe(INotify* subs
     ISubscribersList* list = m_subscribers->FindFirstList(subscriber, true);
     if (!list)
         return false;
+    CFiring const notices(this);  // one of them may delete the sender
     while (list)
     {
         list->Remove(subscriber);
         if (notify)
         {
             subscriber->NoticeStopped(this);
+            if (!notices.IsSenderAlive())
+                return true;
             m_subscribers->FindFirstList(subscriber, true);  // the notice may have made somebody else leave
         }
         m_subscribers->FindNextList(&list);

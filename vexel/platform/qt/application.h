@@ -29,7 +29,7 @@ public:
 
     /// A top-level window with a client area of `extent` unscaled pixels. It is shown when the event loop runs next, so
     /// that what is put on it first shows from the start. Closing it hides it; when the last window is closed, Run
-    /// returns. Like HostWindow's it makes no native controls yet.
+    /// returns.
     std::unique_ptr<ISysWindow> CreateMainWindow(std::string const& title, size<int> const& extent);
 
     /// Makes everything larger or smaller than the desktop says: multiplies the scale of the system, from 0.25 to 8 (others

@@ -18,8 +18,6 @@ namespace vexelbase::qt
 /// tells the control (OnDestroy), which then has no window, and leaves an empty window behind. Handlers of input may
 /// delete any of the three at once; handlers of OnResize, OnMove, OnShow and OnHide, within which Qt still works on the
 /// widget, may delete window and control, but `host` only by deleteLater.
-///
-/// For the time being the window makes no native controls: its Create... operations give null.
 VEXEL_QT_API std::unique_ptr<ISysWindow> HostWindow(QWidget* host);
 
 /// The widget that a window of this backend is: null for windows of others and when its native side is gone. It belongs

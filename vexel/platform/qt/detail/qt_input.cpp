@@ -3,7 +3,6 @@
 #include "vexel/platform/convert.h"
 #include "vexel/platform/qt/detail/font_face.h"
 #include "vexel/platform/qt/detail/qt_keys.h"
-#include "vexel/platform/qt/detail/qt_widget.h"
 #include "vexel/platform/qt/detail/qt_window.h"
 #include "vexel/platform/system.h"
 
@@ -174,15 +173,19 @@ int CQtInput::TakeNotches(int& rest, int delta)
     return notches;
 }
 
-bool CQtInput::Wheel(QWheelEvent const& event)
+int CQtInput::GetWheelDelta(QWheelEvent const& event)
 {
     QPoint const angle = event.angleDelta();
-    QPoint const pixels = event.pixelDelta();
-    int delta = angle.y();
     if (angle.isNull())
-        delta = pixels.y() * NotchDelta / PixelsPerNotch;
-    else if (angle.y() == 0 && (event.modifiers() & Qt::AltModifier))
-        delta = angle.x();  // with this key Qt exchanges the directions
+        return event.pixelDelta().y() * NotchDelta / PixelsPerNotch;
+    if (angle.y() == 0 && (event.modifiers() & Qt::AltModifier))
+        return angle.x();  // with this key Qt exchanges the directions
+    return angle.y();
+}
+
+bool CQtInput::Wheel(QWheelEvent const& event)
+{
+    int const delta = GetWheelDelta(event);
     if (delta == 0)
         return false;
 
@@ -223,13 +226,7 @@ bool CQtInput::KeyDown(QKeyEvent const& event)
     {
         if (dealtWith || (keys & (ksControl | ksAlt)) != 0)
             return dealtWith;
-        bool const forward = (keys & ksShift) == 0;
-        auto* const widget = static_cast<CQtWidget*>(m_Window.GetWidget());
-        if (widget->MoveFocus(forward))
-            return true;
-        // Nobody else takes the focus: it comes back in from the other end.
-        m_Window.Send(&CVexelControl::OnCustomEvent,
-                      new CCustomEvent(forward ? CCustomEvent::ceFirstTabElement : CCustomEvent::ceLastTabElement));
+        m_Window.LeaveByTab((keys & ksShift) == 0);
         return true;
     }
 
@@ -258,12 +255,17 @@ bool CQtInput::InputMethod(QInputMethodEvent const& event)
     return true;
 }
 
-// False: the window is gone.
-bool CQtInput::SendCharacters(QString const& text, int keys)
+QString CQtInput::GetPrintable(QString const& text)
 {
     QString printable = text;
     printable.removeIf([](QChar character) { return !IsCharacter(character); });
-    QByteArray const bytes = printable.toUtf8();
+    return printable;
+}
+
+// False: the window is gone.
+bool CQtInput::SendCharacters(QString const& text, int keys)
+{
+    QByteArray const bytes = GetPrintable(text).toUtf8();
     for (char const byte : bytes)
     {
         CKeyboardEvent sent(keys, 0, byte);

@@ -49,6 +49,10 @@ public:
     bool Tooltip(QHelpEvent const& event);
     void HideTooltip();
 
+    /// Without what is no character, such as the control codes of keys.
+    static QString GetPrintable(QString const& text);
+    /// How far a wheel was turned, in parts of a notch; 0: sideways.
+    static int GetWheelDelta(QWheelEvent const& event);
     /// Whole notches of a wheel's movement (120 each), the rest being kept. A movement that turns round starts anew.
     static int TakeNotches(int& rest, int delta);
 

@@ -10,7 +10,8 @@
 namespace vexelbase::qt
 {
 
-CQtWidget::CQtWidget(CQtWindow& window, QWidget* parent) : QWidget(parent), m_Window(&window)
+CQtWidget::CQtWidget(CQtWindow& window, QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags), m_Window(&window)
 {
     // Every pixel comes from the window's surface.
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -18,7 +19,9 @@ CQtWidget::CQtWidget(CQtWindow& window, QWidget* parent) : QWidget(parent), m_Wi
     setAttribute(Qt::WA_InputMethodEnabled);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    if (parent)
+    if (isWindow())
+        setAttribute(Qt::WA_QuitOnClose, flags == Qt::WindowFlags());
+    if (parent && !isWindow())
     {
         FillParent();
         parent->installEventFilter(this);
@@ -34,7 +37,7 @@ CQtWidget::~CQtWidget()
 void CQtWidget::FillParent()
 {
     QWidget const* const parent = parentWidget();
-    if (!parent)
+    if (!parent || isWindow())
         return;
     QRect const area = parent->contentsRect();
     if (pos() == area.topLeft())

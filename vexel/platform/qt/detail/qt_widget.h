@@ -12,8 +12,8 @@ class CQtWindow;
 class CQtWidget final : public QWidget
 {
 public:
-    /// With a parent it fills the parent's contents and follows their size.
-    CQtWidget(CQtWindow& window, QWidget* parent);
+    /// With a parent it fills the parent's contents and follows their size, unless the flags make it a window.
+    CQtWidget(CQtWindow& window, QWidget* parent, Qt::WindowFlags flags = {});
     ~CQtWidget() override;
 
     void Detach() { m_Window = nullptr; }  ///< The window goes before the widget.

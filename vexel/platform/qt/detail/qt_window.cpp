@@ -1,7 +1,11 @@
 #include "vexel/platform/qt/detail/qt_window.h"
 
 #include "vexel/platform/convert.h"
+#include "vexel/platform/qt/detail/native_node.h"
 #include "vexel/platform/qt/detail/qt_device.h"
+#include "vexel/platform/qt/detail/qt_edit.h"
+#include "vexel/platform/qt/detail/qt_popup.h"
+#include "vexel/platform/qt/detail/qt_scroll_bar.h"
 #include "vexel/platform/qt/detail/qt_system.h"
 #include "vexel/platform/qt/detail/qt_widget.h"
 
@@ -16,6 +20,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -66,12 +71,21 @@ CQtWindow::CQtWindow(QWidget* parent)
     SyncSurface();
 }
 
+CQtWindow::CQtWindow(QWidget* owner, CQtPopup& popup) : m_OwnPopup(&popup)
+{
+    SetDevice(std::make_unique<CQtDevice>(GetPixels(), CQtSystem::Get().GetScale()));
+    AllWindows().push_back(this);
+    m_Widget = new CQtWidget(*this, owner, Qt::Popup);
+    SyncSurface();
+}
+
 CQtWindow::~CQtWindow()
 {
     std::vector<CQtWindow*>& all = AllWindows();
     all.erase(std::find(all.begin(), all.end(), this));
     if (!IsDestroying())
         StartDestroying();
+    GiveUpNatives();
 
     CQtWidget* widget = nullptr;
     {
@@ -113,8 +127,26 @@ void CQtWindow::WidgetGoes()
         std::lock_guard const lock(m_WidgetMutex);
         m_Widget = nullptr;
     }
+    std::weak_ptr<int> const life = GetLifeToken();
     if (!IsDestroying())
         StartDestroying();
+    if (!life.expired())
+        GiveUpNatives();
+}
+
+// Those that are still held lose their native side with the widget, whose children they are.
+void CQtWindow::GiveUpNatives()
+{
+    m_FocusWhenShown = nullptr;
+    std::vector<CQtNativeNode*> const natives = std::exchange(m_Natives, {});
+    for (CQtNativeNode* const native : natives)
+        native->WindowGoes();
+    while (!m_Popups.empty())
+    {
+        CQtPopup* const popup = m_Popups.back();
+        m_Popups.pop_back();
+        popup->OwnerGone();
+    }
 }
 
 QWidget* CQtWindow::GetWidget() const
@@ -139,7 +171,9 @@ void CQtWindow::SyncSurface()
 {
     if (!m_Widget || IsDestroying())
         return;
-    m_Ratio = m_Widget->devicePixelRatioF();
+    double const ratio = m_Widget->devicePixelRatioF();
+    if (std::exchange(m_Ratio, ratio) != ratio && !ForAllNatives([](CQtNativeNode& native) { native.LookChanged(); }))
+        return;
     size<int> const wanted = GetWantedSize();
     if (wanted == GetPixels().GetSize())
         return;
@@ -163,6 +197,8 @@ bool CQtWindow::SyncScale()
 bool CQtWindow::LookChanged()
 {
     CQtSystem::Get().RefreshLook();
+    if (!ForAllNatives([](CQtNativeNode& native) { native.LookChanged(); }))
+        return false;
     CEvent changed;
     return Send(&CVexelControl::OnSysColorChanged, &changed);
 }
@@ -286,6 +322,7 @@ void CQtWindow::WakeQueue()
 
 void CQtWindow::SetFocus()
 {
+    m_FocusWhenShown = nullptr;
     if (!m_Widget || m_Widget->hasFocus())
         return;
     // From another window of this program the focus is taken along. Where the program is not in front it is taken when
@@ -350,24 +387,75 @@ void CQtWindow::ClientToScreen(point<int>* position) const
 
 // Native children --------------------------------------------------------------------------------------------------
 
-vexel_ptr<IScrollBar> CQtWindow::CreateScrollBar(int)
+vexel_ptr<IScrollBar> CQtWindow::CreateScrollBar(int type)
 {
-    return {};
+    if (!m_Widget || IsDestroying())
+        return {};
+    return MakeRef<CQtScrollBar>(*this, type == stVertical);
 }
 
 vexel_ptr<IEdit> CQtWindow::CreateEdit(bool)
 {
-    return {};
+    if (!m_Widget || IsDestroying())
+        return {};
+    return MakeRef<CQtEdit>(*this);
 }
 
-vexel_ptr<IComboBox> CQtWindow::CreateComboBox(bool)
+vexel_ptr<IComboBox> CQtWindow::CreateComboBox(bool editable)
 {
-    return {};
+    if (!m_Widget || IsDestroying())
+        return {};
+    return MakeRef<CQtComboBox>(*this, editable);
 }
 
 vexel_ptr<IPopup> CQtWindow::CreatePopup()
 {
-    return {};
+    if (!m_Widget || IsDestroying())
+        return {};
+    return MakeRef<CQtPopup>(*this);
+}
+
+void CQtWindow::RemoveNative(CQtNativeNode& native)
+{
+    std::erase(m_Natives, &native);
+    if (m_FocusWhenShown == &native)
+        m_FocusWhenShown = nullptr;
+}
+
+void CQtWindow::RemovePopup(CQtPopup& popup)
+{
+    std::erase(m_Popups, &popup);
+}
+
+void CQtWindow::NativeShown(CQtNativeNode& native)
+{
+    if (m_FocusWhenShown != &native)
+        return;
+    m_FocusWhenShown = nullptr;
+    native.TakeFocus(Qt::OtherFocusReason);
+}
+
+// Each may delete others, or the window: then it answers false.
+template <class Work> bool CQtWindow::ForAllNatives(Work const& work)
+{
+    std::weak_ptr<int> const life = GetLifeToken();
+    std::vector<std::pair<CQtNativeNode*, std::weak_ptr<int>>> all;
+    for (CQtNativeNode* const native : m_Natives)
+        all.emplace_back(native, native->GetLife());
+    for (auto const& [native, nativeLife] : all)
+    {
+        if (nativeLife.expired())
+            continue;
+        work(*native);
+        if (life.expired())
+            return false;
+    }
+    return true;
+}
+
+void CQtWindow::AfterPaint()
+{
+    ForAllNatives([](CQtNativeNode& native) { native.Apply(); });
 }
 
 // Events -----------------------------------------------------------------------------------------------------------
@@ -403,12 +491,14 @@ bool CQtWindow::IsForWindow(QEvent const& event) const
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
     case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::InputMethod:
     case QEvent::ContextMenu:
     case QEvent::ToolTip:
         return m_Widget && m_Widget->isEnabled();
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+        // What a native control did not want is none of the window's.
+        return m_Widget && m_Widget->isEnabled() && !IsNativeFocused();
     default:
         return NeedsQtFirst(event) || event.type() == CQtWidget::FrameEvent() ||
                event.type() == CQtWidget::QueueEvent() || event.type() == CQtWidget::RatioEvent() ||
@@ -427,17 +517,28 @@ bool CQtWindow::HandleEvent(QEvent& event)
     switch (event.type())
     {
     case QEvent::MouseButtonPress:
+        if (PressOutside(event))
+            return true;
         return accept(m_Input.Press(static_cast<QMouseEvent&>(event)));
     case QEvent::MouseButtonRelease:
         return accept(m_Input.Release(static_cast<QMouseEvent&>(event)));
     case QEvent::MouseButtonDblClick:
+        if (PressOutside(event))
+            return true;
         return accept(m_Input.DoubleClick(static_cast<QMouseEvent&>(event)));
     case QEvent::MouseMove:
         return accept(m_Input.Move(static_cast<QMouseEvent&>(event)));
     case QEvent::Wheel:
         return accept(m_Input.Wheel(static_cast<QWheelEvent&>(event)));
     case QEvent::KeyPress:
-        return accept(m_Input.KeyDown(static_cast<QKeyEvent&>(event)));
+    {
+        std::weak_ptr<int> const life = GetLifeToken();
+        bool const dealtWith = m_Input.KeyDown(static_cast<QKeyEvent&>(event));
+        if (dealtWith || life.expired() || !m_OwnPopup || static_cast<QKeyEvent&>(event).key() != Qt::Key_Escape)
+            return accept(dealtWith);
+        m_OwnPopup->Close(0);
+        return accept(true);
+    }
     case QEvent::KeyRelease:
         return accept(m_Input.KeyUp(static_cast<QKeyEvent&>(event)));
     case QEvent::InputMethod:
@@ -455,6 +556,8 @@ bool CQtWindow::HandleEvent(QEvent& event)
         return true;
     case QEvent::FocusOut:
     {
+        if (m_FocusHeld > 0 || !std::exchange(m_ToldOfFocus, false))
+            return true;
         CFocusEvent sent;
         Send(&CVexelControl::OnLostFocus, &sent);
         return true;
@@ -480,6 +583,19 @@ bool CQtWindow::HandleEvent(QEvent& event)
     {
         ReleaseMouse();
         HideTooltip();
+        if (m_OwnPopup)
+            m_OwnPopup->Hidden();
+        std::weak_ptr<int> const life = GetLifeToken();
+        std::vector<CQtPopup*> const popups = m_Popups;
+        for (CQtPopup* const popup : popups)
+        {
+            if (life.expired())
+                return true;
+            if (std::find(m_Popups.begin(), m_Popups.end(), popup) != m_Popups.end())
+                popup->Close(0);
+        }
+        if (life.expired())
+            return true;
         CWindowEvent sent;
         Send(&CVexelControl::OnHide, &sent);
         return true;
@@ -518,19 +634,171 @@ bool CQtWindow::HandleEvent(QEvent& event)
     return true;
 }
 
+// A press beside a popup closes it. Where another popup lies below, the press is that one's; Qt gives it to all others.
+bool CQtWindow::PressOutside(QEvent& event)
+{
+    auto const& press = static_cast<QMouseEvent&>(event);
+    if (!m_OwnPopup || !m_Widget || QWidget::mouseGrabber() == m_Widget ||
+        m_Widget->rect().contains(press.position().toPoint()))
+        return false;
+    event.accept();
+    QPointF const at = press.globalPosition();
+    QMouseEvent const same(press.type(), at, at, press.button(), press.buttons(), press.modifiers());
+    m_OwnPopup->Close(0);
+    auto* const below = dynamic_cast<CQtWidget*>(QApplication::activePopupWidget());
+    if (!below)
+        return true;
+    QPointF const inside = below->mapFromGlobal(at);
+    QWidget* const child = below->childAt(inside.toPoint());
+    QWidget* const target = child ? child : below;
+    QMouseEvent passed(same.type(), target->mapFromGlobal(at), at, same.button(), same.buttons(), same.modifiers());
+    QCoreApplication::sendEvent(target, &passed);
+    return true;
+}
+
+// Focus ------------------------------------------------------------------------------------------------------------
+
+bool CQtWindow::IsNativeFocused() const
+{
+    return std::any_of(m_Natives.begin(), m_Natives.end(),
+                       [](CQtNativeNode const* native) { return native->HasFocus(); });
+}
+
 // False: the window is gone.
 bool CQtWindow::FocusEntered(int reason)
 {
+    m_FocusWhenShown = nullptr;
+    if (m_FocusHeld > 0)
+        return true;
+    if (reason == Qt::BacktabFocusReason && m_FocusHeld == 0)
+    {
+        // Its native controls stand behind the window itself.
+        if (CQtNativeNode* const last = FindTabStop(nullptr, false))
+        {
+            std::weak_ptr<int> const life = GetLifeToken();
+            last->TakeFocus(Qt::BacktabFocusReason);
+            return !life.expired();
+        }
+    }
+    m_ToldOfFocus = true;
     CFocusEvent sent;
     if (!Send(&CVexelControl::OnGetFocus, &sent))
         return false;
     bool const byTab = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
-    if (!byTab || !GetEventTarget())
+    return !byTab || EnterByTab(reason == Qt::TabFocusReason);
+}
+
+// False: the window is gone.
+bool CQtWindow::EnterByTab(bool forward)
+{
+    if (!GetEventTarget())
         return true;
     // The control frees the event.
     return Send(&CVexelControl::OnCustomEvent,
-                new CCustomEvent(reason == Qt::TabFocusReason ? CCustomEvent::ceFirstTabElement
-                                                              : CCustomEvent::ceLastTabElement));
+                new CCustomEvent(forward ? CCustomEvent::ceFirstTabElement : CCustomEvent::ceLastTabElement));
+}
+
+// Tells the control what was held back. False: the window is gone.
+bool CQtWindow::SettleFocus()
+{
+    if (m_FocusHeld > 0 || !m_Widget || m_Widget->hasFocus() == m_ToldOfFocus)
+        return true;
+    if (!m_ToldOfFocus)
+        return FocusEntered(Qt::OtherFocusReason);
+    m_ToldOfFocus = false;
+    CFocusEvent sent;
+    return Send(&CVexelControl::OnLostFocus, &sent);
+}
+
+// The native control that Tab goes to next; null for `from`: the window itself. Null: there is none.
+CQtNativeNode* CQtWindow::FindTabStop(CQtNativeNode const* from, bool forward) const
+{
+    CQtNativeNode* before = nullptr;
+    bool passed = from == nullptr;
+    for (CQtNativeNode* const native : m_Natives)
+    {
+        if (native == from)
+        {
+            if (!forward)
+                return before;
+            passed = true;
+        }
+        else if (native->TakesTab())
+        {
+            if (forward && passed)
+                return native;
+            before = native;
+        }
+    }
+    return forward ? nullptr : before;
+}
+
+// To another widget than the window's own.
+bool CQtWindow::MoveFocusOut(bool forward)
+{
+    QPointer<CQtWidget> const widget(m_Widget);
+    Qt::FocusPolicy const policy = widget->focusPolicy();
+    widget->setFocusPolicy(Qt::ClickFocus);
+    bool const moved = widget->MoveFocus(forward);
+    if (widget)
+        widget->setFocusPolicy(policy);
+    return moved;
+}
+
+void CQtWindow::LeaveByTab(bool forward)
+{
+    if (forward)
+    {
+        if (CQtNativeNode* const native = FindTabStop(nullptr, true))
+            return native->TakeFocus(Qt::TabFocusReason);
+    }
+    std::weak_ptr<int> const life = GetLifeToken();
+    if (MoveFocusOut(forward) || life.expired() || !m_Widget)
+        return;
+    CQtNativeNode* const last = forward ? nullptr : FindTabStop(nullptr, false);
+    if (last)
+        last->TakeFocus(Qt::BacktabFocusReason);
+    else if (SettleFocus())
+        EnterByTab(forward);
+}
+
+void CQtWindow::TabFromNative(CQtNativeNode& native, int keys)
+{
+    if (!m_Widget)
+        return;
+    bool const forward = (keys & ksShift) == 0;
+    std::weak_ptr<int> const life = GetLifeToken();
+    if (native.IsTabStop())
+    {
+        if (CQtNativeNode* const next = FindTabStop(&native, forward))
+            return next->TakeFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        if (forward && (MoveFocusOut(true) || life.expired() || !m_Widget))
+            return;
+        ++m_FocusHeld;
+        m_Widget->setFocus(Qt::OtherFocusReason);
+        if (life.expired())
+            return;
+        --m_FocusHeld;
+        if (SettleFocus())
+            EnterByTab(forward);
+        return;
+    }
+
+    // The control leads Tab through its own order, in which the native control stands. For that the window has the
+    // focus, without the control's being told: it would give it back to where it was.
+    ++m_FocusHeld;
+    m_Widget->setFocus(Qt::OtherFocusReason);
+    if (life.expired())
+        return;
+    CKeyboardEvent sent(keys, vkTab);
+    bool const lives = Send(&CVexelControl::OnKeyDown, &sent);
+    if (!lives)
+        return;
+    --m_FocusHeld;
+    if (m_Widget && m_Widget->hasFocus() && sent.m_PassOn && sent.IsContinue())
+        LeaveByTab(forward);
+    else
+        SettleFocus();
 }
 
 }  // namespace vexelbase::qt

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <mutex>
+#include <vector>
 
 class QEvent;
 class QWidget;
@@ -15,6 +16,8 @@ namespace vexelbase::qt
 {
 
 class CQtDevice;
+class CQtNativeNode;
+class CQtPopup;
 class CQtWidget;
 
 /// A window on a widget of its own: a top-level one, or one that fills another widget.
@@ -27,6 +30,8 @@ class CQtWindow final : public CBaseWindow
 public:
     /// `parent`: the widget to fill; null makes a top-level widget.
     explicit CQtWindow(QWidget* parent);
+    /// The hidden window of a popup, above the owner's widget.
+    CQtWindow(QWidget* owner, CQtPopup& popup);
     ~CQtWindow() override;
 
     static void DestroyAll();  ///< Deletes all widgets; to be called while the application object still lives.
@@ -60,6 +65,23 @@ public:
     void Show(QRegion const& region);  ///< Shows this part of the surface, in the widget's coordinates.
     void SyncSurface();                ///< The surface takes the widget's size and ratio.
     void WidgetGoes();
+    bool IsNativeFocused() const;  ///< A native control of the window has the focus.
+    /// Moves the focus out of the window: forward into the native controls that Tab goes to, then to other widgets.
+    /// Where there is nobody else it comes back in from the other end.
+    void LeaveByTab(bool forward);
+
+    // From the native controls ------------------------------------------------------------------------------------
+    void AddNative(CQtNativeNode& native) { m_Natives.push_back(&native); }
+    void RemoveNative(CQtNativeNode& native);
+    void AddPopup(CQtPopup& popup) { m_Popups.push_back(&popup); }
+    void RemovePopup(CQtPopup& popup);
+    bool IsInPaint() const { return IsPainting(); }
+    void FocusWhenShown(CQtNativeNode& native) { m_FocusWhenShown = &native; }
+    void NativeShown(CQtNativeNode& native);
+    void NativeGotFocus() { m_FocusWhenShown = nullptr; }
+    void PointerEnteredNative() { m_Input.Leave(); }
+    /// The Tab key in a native control. `keys`: the state word.
+    void TabFromNative(CQtNativeNode& native, int keys);
 
     /// Calls a handler of the control. False: the window is gone.
     template <class Event> bool Send(void (CVexelControl::*handler)(Event*), Event* event)
@@ -73,12 +95,20 @@ protected:
     void RequestFrame() override;
     void PresentDamage() override;
     void WakeQueue() override;
+    void AfterPaint() override;
 
 private:
     CQtDevice& GetQtDevice();
     bool SyncScale();
     bool LookChanged();
     bool FocusEntered(int reason);
+    bool SettleFocus();
+    bool EnterByTab(bool forward);
+    bool MoveFocusOut(bool forward);
+    CQtNativeNode* FindTabStop(CQtNativeNode const* from, bool forward) const;
+    template <class Work> bool ForAllNatives(Work const& work);
+    void GiveUpNatives();
+    bool PressOutside(QEvent& event);
     size<int> GetWantedSize() const;
 
     void FlashRepaint(QRegion const& region);
@@ -90,6 +120,12 @@ private:
     std::mutex m_WidgetMutex;  // between posting threads and the end of the widget
     double m_Ratio = 1.0;
     int m_Cursor = 0;
+    std::vector<CQtNativeNode*> m_Natives;  // in the order of their making
+    std::vector<CQtPopup*> m_Popups;
+    CQtPopup* m_OwnPopup = nullptr;             // whose window it is
+    CQtNativeNode* m_FocusWhenShown = nullptr;  // unless somebody else takes it before
+    bool m_ToldOfFocus = false;                 // the control believes that the window has it
+    int m_FocusHeld = 0;                        // while above 0 the control is told nothing of it
     CQtInput m_Input{*this};
 };
 
