@@ -5,13 +5,14 @@
 #include "gallery/frame/native_log.h"
 #include "gallery/options.h"
 #include "gallery/pages.h"
-#include "vexel/platform/base_window.h"
 #include "vexel/platform/convert.h"
 #include "vexel/platform/qt/application.h"
+#include "vexel/platform/qt/host_window.h"
 #include "vexel/platform/threads.h"
 
 #include <QDir>
-#include <QImage>
+#include <QPixmap>
+#include <QWidget>
 
 #include <cstdio>
 #include <cstdlib>
@@ -100,9 +101,8 @@ bool CProgram::SavePictures(std::string const& folder, std::string const& only)
             continue;
         m_Frame->SetPage(FindPage(page.name));
         m_Window->UpdateNow();
-        vexelbase::CPixelBuffer const& pixels = static_cast<vexelbase::CBaseWindow&>(*m_Window).GetPixels();
-        QImage const image(reinterpret_cast<uchar const*>(pixels.Row(0)), pixels.GetWidth(), pixels.GetHeight(),
-                           QImage::Format_RGB32);
+        // With the native controls, which stand on the window as widgets of their own.
+        QPixmap const image = vexelbase::qt::GetWidget(m_Window.get())->grab();
         std::string const file = folder + "/" + page.name + ".png";
         if (!image.save(QString::fromStdString(file)))
         {

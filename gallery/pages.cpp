@@ -9,6 +9,7 @@
 #include "gallery/pages/focus_page.h"
 #include "gallery/pages/html_text_page.h"
 #include "gallery/pages/input_log_page.h"
+#include "gallery/pages/native_controls_page.h"
 #include "gallery/pages/overlap_page.h"
 #include "gallery/pages/painter_page.h"
 #include "gallery/pages/panes_page.h"
@@ -45,6 +46,8 @@ SPage const g_Pages[] = {
     {"painter", "Painter", "Every shape, pen, text flag and raster operation.", &Make<CPainterPage>},
     {"parts", "Native parts and borders",
      "Each part plain, hot, pressed and disabled; each border flat, raised, sunken.", &Make<CPartsPage>},
+    {"native", "Native controls", "Edits, boxes and bars of the desktop stand in the tree. Walk through them with Tab.",
+     &Make<CNativeControlsPage>},
     {"html", "Text with mark-up", "Links tell when they are clicked; narrow columns wrap.", &Make<CHtmlTextPage>},
     {"edges", "Layouts on four edges",
      "Click a ruler to dock it to the next edge: its code knows only along and across.", &Make<CEdgesPage>},

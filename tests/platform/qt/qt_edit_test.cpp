@@ -750,20 +750,21 @@ TEST_F(QtComboBox, TheWheelDoesNotChoose)
 
 TEST_F(QtComboBox, TheWindowGetsNoneOfItsInput)
 {
-    for (bool const editable : {true, false})
-    {
-        Use(editable);
-        ClickAt(&Native(), 95, 10);
-        EXPECT_TRUE(IsListShown());
-        Native().hidePopup();
-        EXPECT_EQ(m_Hosted.Control().Take(), "");
-        SendMouse(&Native(), QEvent::MouseButtonPress, 50, 10, Qt::RightButton);
-        EXPECT_EQ(m_Hosted.Control().Take(), "");
-        m_Box->SetFocus();
-        m_Hosted.Control().Take();
-        PressKey(&Native(), Qt::Key_F5);
-        EXPECT_EQ(m_Hosted.Control().Take(), "");
-    }
+    PressKey(&Native(), Qt::Key_F5);
+    SendMouse(&Native(), QEvent::MouseButtonPress, 50, 10, Qt::RightButton);
+    ClickAt(&Native(), 95, 10);
+    EXPECT_TRUE(IsListShown());
+    EXPECT_EQ(m_Hosted.Control().Take(), "");
+}
+
+TEST_F(QtComboBox, NorThatOfOneThatCanOnlyChoose)
+{
+    Use(false);
+    PressKey(&Native(), Qt::Key_F5);
+    SendMouse(&Native(), QEvent::MouseButtonPress, 50, 10, Qt::RightButton);
+    ClickAt(&Native(), 95, 10);
+    EXPECT_TRUE(IsListShown());
+    EXPECT_EQ(m_Hosted.Control().Take(), "");
 }
 
 TEST_F(QtComboBox, AListenerMayDropTheLastReferenceOfAnOpenBox)
