@@ -55,7 +55,8 @@ SPage const g_Pages[] = {
      &Make<CFlowGridPage>},
     {"boxes", "Boxes and resizers", "Boxes as large as their items, seen through a view; sizes in step with others.",
      &Make<CBoxesPage>},
-    {"panes", "Panes", "The frame shows where the focus is. Walk with Tab.", &Make<CPanesPage>},
+    {"panes", "Panes and titled panes", "Frame and title show where the focus is. Walk with Tab, or click a title.",
+     &Make<CPanesPage>},
 };
 
 }  // namespace
