@@ -1,5 +1,6 @@
 #include "gallery/pages.h"
 
+#include "gallery/pages/animation_page.h"
 #include "gallery/pages/boxes_page.h"
 #include "gallery/pages/docking_page.h"
 #include "gallery/pages/drag_drop_page.h"
@@ -57,6 +58,8 @@ SPage const g_Pages[] = {
      &Make<CBoxesPage>},
     {"panes", "Panes and titled panes", "Frame and title show where the focus is. Walk with Tab, or click a title.",
      &Make<CPanesPage>},
+    {"animation", "Animations", "Side by side, each driven in its own way. A hidden one costs nothing.",
+     &Make<CAnimationPage>},
 };
 
 }  // namespace
