@@ -4,6 +4,7 @@
 #include "gallery/frame/panel.h"
 #include "gallery/frame/toggle.h"
 #include "vexel/core/base_control.h"
+#include "vexel/core/control.h"
 #include "vexel/layout/container.h"
 #include "vexel/platform/native_controls.h"
 #include "vexel/platform/sys_window.h"
