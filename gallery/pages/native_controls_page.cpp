@@ -104,7 +104,8 @@ void CNativeControlsPage::CImp::Build(CVisualElement* parent)
         edit->Subscribe(m_Logs.back().get(), typeid(IEditNotify), true);
         Host(Row(parent, "Edit", 28), edit.get());
     }
-    (new CToggle(Row(parent, "An element between", 28), {240, 0}, alLeft, "Tab stops here too"))->SetCanHaveFocus(true);
+    CPanel* const between = Row(parent, "An element between", 28);
+    (new CToggle(between, {240, 0}, alLeft, "Tab stops here too"))->SetCanHaveFocus(true);
     for (bool const editable : {true, false})
     {
         auto const box = window->CreateComboBox(editable);
@@ -136,7 +137,8 @@ void CNativeControlsPage::CImp::Build(CVisualElement* parent)
         if (!lying)
             host->FitWidth();
     }
-    auto* const button = new CPanel(Row(parent, "Popup", 28), {240, 0}, alLeft);
+    CPanel* const last = Row(parent, "Popup", 28);
+    auto* const button = new CPanel(last, {240, 0}, alLeft);
     button->SetText("Press to open");
     button->SetFrame(true);
     button->m_SigButtonDown.connect(this, &CImp::OpenPopup);

@@ -90,9 +90,10 @@ TEST_F(ImageList, ADisabledImageIsGreyAndThePainterIsAsBefore)
     EXPECT_NE(pixel, 0xFF0000u);
     EXPECT_NE(pixel, 0xFFFFFFu);
     EXPECT_FALSE(Painter()->m_DisabledMode);
+    m_Black->GetPixels().Row(0)[0] = 0xFF0000FFu;
     m_List.DrawDisabled(Painter(), 1, 0, 4);
-    EXPECT_NE(At(0, 4), 0u);
-    EXPECT_NE(At(0, 4), 0xFFFFFFu);
+    EXPECT_NE(At(0, 4), 0x0000FFu);
+    EXPECT_EQ(At(0, 4) & 0xFFu, At(0, 4) >> 16);
 }
 
 TEST_F(ImageList, IsEmptyOnceCleared)
