@@ -348,6 +348,15 @@ TEST_F(ThreadAnimation, MayBeGivenUpByTheUpdate)
     EXPECT_EQ(m_Animation.m_Frame, 1);
 }
 
+TEST_F(ThreadAnimation, MayBeGivenUpByTheQuestion)
+{
+    Start();
+    Runner().Round();
+    m_Updater.m_OnQuestion = [this] { m_Process.reset(); };
+    m_Queue.Run();
+    EXPECT_EQ(m_Animation.m_Frame, 1) << "the step under way still comes";
+}
+
 TEST_F(ThreadAnimation, MayBeStoppedByTheUpdate)
 {
     Start();

@@ -269,6 +269,15 @@ TEST_F(TimerAnimationOnClock, MayBeGivenUpByTheUpdate)
     EXPECT_TRUE(m_System.GetRunningPeriods().empty());
 }
 
+TEST_F(TimerAnimationOnClock, MayBeGivenUpByTheQuestion)
+{
+    m_Process->StartAnimation();
+    m_Updater.m_OnQuestion = [this] { m_Process.reset(); };
+    m_System.Advance(500);
+    EXPECT_EQ(m_Animation.m_Frame, 2) << "the step under way still comes";
+    EXPECT_TRUE(m_System.GetRunningPeriods().empty());
+}
+
 TEST_F(TimerAnimationOnClock, MayBeGivenUpByTheUpdateOfItsStart)
 {
     CTimerAnimationProcess* const process = m_Process.get();
