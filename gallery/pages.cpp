@@ -65,7 +65,6 @@ SPage const g_Pages[] = {
      &Make<CPanesPage>},
     {"animation", "Animations", "Side by side, each driven in its own way. A hidden one costs nothing.",
      &Make<CAnimationPage>},
-    {"panes", "Panes", "The frame shows where the focus is. Walk with Tab.", &Make<CPanesPage>},
     {"captions", "Captions", "Text with images and links; some size themselves, some turn with their side.",
      &Make<CCaptionsPage>},
     {"bevels", "Bevels and borders", "All shapes and styles; a border leaves the area of its children alone.",
