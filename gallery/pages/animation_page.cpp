@@ -83,6 +83,7 @@ private:
             m_Image->StartAnimation();
         else
             m_Image->StopAnimation();
+        m_Image->GetParent()->Update(utElement);  // an image that stands still fills nothing
     }
 
     CImage* m_Image;
