@@ -63,7 +63,7 @@ SPage const g_Pages[] = {
      &Make<CBoxesPage>},
     {"panes", "Panes and titled panes", "Frame and title show where the focus is. Walk with Tab, or click a title.",
      &Make<CPanesPage>},
-    {"animation", "Animations", "Side by side, each driven in its own way. A hidden one costs nothing.",
+    {"animation", "Animations", "Side by side, each driven in its own way. A hidden one is not stepped.",
      &Make<CAnimationPage>},
     {"captions", "Captions", "Text with images and links; some size themselves, some turn with their side.",
      &Make<CCaptionsPage>},

@@ -2,11 +2,13 @@
 
 #include "vexel/platform/convert.h"
 #include "vexel/platform/detail/pixel_transfer.h"
+#include "vexel/testing/random.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
+#include <map>
 
 namespace vexelbase::tests
 {
@@ -64,6 +66,31 @@ TEST(PixelBuffer, KeepsWhatLiesInBothSizes)
                               "##\n");
     pixels.Resize({4, 1}, 0xFFFFFFFFu);
     EXPECT_EQ(ToText(pixels), "rg..\n");
+}
+
+TEST(PixelBuffer, KeepsWhatLiesInBothSizesThroughAnyRowOfSizes)
+{
+    vexel::test::CTestRandom random;
+    CPixelBuffer pixels;
+    std::map<std::pair<int, int>, std::uint32_t> expected;
+    size<int> extent;
+    for (int step = 0; step < 300; ++step)
+    {
+        size<int> const wanted{random.Int(0, 12), random.Int(0, 12)};
+        auto const fresh = static_cast<std::uint32_t>(step);
+        for (int y = 0; y < wanted.height; ++y)
+            for (int x = 0; x < wanted.width; ++x)
+                if (x >= extent.width || y >= extent.height)
+                    expected[{x, y}] = fresh;
+        extent = wanted;
+
+        pixels.Resize(wanted, fresh);
+
+        ASSERT_EQ(pixels.GetSize(), wanted);
+        for (int y = 0; y < wanted.height; ++y)
+            for (int x = 0; x < wanted.width; ++x)
+                ASSERT_EQ(pixels.Row(y)[x], (expected[{x, y}])) << "at step " << step << ", " << x << ", " << y;
+    }
 }
 
 TEST(PixelBuffer, OfANegativeExtentIsEmpty)

@@ -55,6 +55,8 @@ public:
     }
 
 private:
+    void Move(size<int> const& wanted, std::uint32_t pixel);
+
     size<int> m_Size;
     std::vector<std::uint32_t> m_Pixels;
 };
