@@ -256,7 +256,11 @@ void CCaption::RecalculateSize()
     }
     if (IsTextConverted())
         extent = {ToInt(GetAlong(extent.width, extent.height)), ToInt(GetAcross(extent.width, extent.height))};
+    bool const stays = extent == GetSize();
+    CAliveGuard const alive(this);
     SetSize(extent, false);
+    if (alive && stays)
+        OnChange(this, utElement);  // the same size may be drawn otherwise, and the links are known again then
 }
 
 size<double> CCaption::MeasureText(IPainter* painter, size<int> const& image, size<int> const& extra)
