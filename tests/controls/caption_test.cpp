@@ -427,6 +427,17 @@ TEST_F(Caption, SwitchingTextLayoutOffGivesTheUprightLayoutBack)
     EXPECT_THAT(m_Host.Paint().Of("caption"), Draws("DrawStringEx \"abc\" 20 0 100 99 0x124"));
 }
 
+TEST_F(Caption, DockedToTheSameSideAgainItIsPaintedInTheLayoutOfThatSide)
+{
+    m_Caption.SetCaption("abc");
+    m_Caption.SetImageIndex(0);
+    m_Caption.SetAlignment(alLeft);
+    m_Caption.SetTextLayout(false);
+    m_Host.Paint();
+    m_Caption.SetAlignment(alLeft);
+    EXPECT_THAT(m_Host.Paint().Of("caption"), Draws("DrawStringEx \"abc\" 0 20 100 99 0x124"));
+}
+
 // Tooltip -----------------------------------------------------------------------------------------------------------------
 
 TEST_F(Caption, AShortenedTextBecomesTheTooltipUntilItFits)

@@ -172,8 +172,12 @@ void CCaption::SetTextLayout(bool turn)
 
 void CCaption::SetAlignment(Alignment alignment)
 {
-    if (ChangeLayout(alignment))
+    if (!ChangeLayout(alignment))
+        return;
+    if (alignment != GetAlignment())
         CVisualElement::SetAlignment(alignment);
+    else
+        OnChange(this, utElement);  // it may have had the layout of another edge
 }
 
 void CCaption::SetPos(rectangle<int> const& rect, bool force)
