@@ -5,13 +5,17 @@
 #include "gallery/frame/native_log.h"
 #include "gallery/options.h"
 #include "gallery/pages.h"
-#include "vexel/platform/base_window.h"
+#include "gallery/pages/animation_page.h"
 #include "vexel/platform/convert.h"
 #include "vexel/platform/qt/application.h"
+#include "vexel/platform/qt/host_window.h"
+#include "vexel/platform/qt/load_animation.h"
 #include "vexel/platform/threads.h"
 
+#include <QBuffer>
 #include <QDir>
-#include <QImage>
+#include <QPixmap>
+#include <QWidget>
 
 #include <cstdio>
 #include <cstdlib>
@@ -100,9 +104,8 @@ bool CProgram::SavePictures(std::string const& folder, std::string const& only)
             continue;
         m_Frame->SetPage(FindPage(page.name));
         m_Window->UpdateNow();
-        vexelbase::CPixelBuffer const& pixels = static_cast<vexelbase::CBaseWindow&>(*m_Window).GetPixels();
-        QImage const image(reinterpret_cast<uchar const*>(pixels.Row(0)), pixels.GetWidth(), pixels.GetHeight(),
-                           QImage::Format_RGB32);
+        // With the native controls, which stand on the window as widgets of their own.
+        QPixmap const image = vexelbase::qt::GetWidget(m_Window.get())->grab();
         std::string const file = folder + "/" + page.name + ".png";
         if (!image.save(QString::fromStdString(file)))
         {
@@ -114,8 +117,18 @@ bool CProgram::SavePictures(std::string const& folder, std::string const& only)
     return true;
 }
 
+vexelbase::vexel_ptr<vexelbase::IAnimation> ReadAnimation(unsigned char const* data, std::size_t bytes)
+{
+    QByteArray const copy(reinterpret_cast<char const*>(data), static_cast<qsizetype>(bytes));
+    QBuffer buffer;
+    buffer.setData(copy);
+    buffer.open(QIODevice::ReadOnly);
+    return vexelbase::qt::LoadAnimation(&buffer);
+}
+
 int Main(int argc, char** argv)
 {
+    CAnimationPage::SetReader(&ReadAnimation);
     SOptions const options = ReadOptions(argc, argv);
     int const page = options.page.empty() ? 0 : FindPage(options.page);
     if (!options.error.empty() || page < 0)

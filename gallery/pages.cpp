@@ -1,5 +1,6 @@
 #include "gallery/pages.h"
 
+#include "gallery/pages/animation_page.h"
 #include "gallery/pages/bevels_page.h"
 #include "gallery/pages/boxes_page.h"
 #include "gallery/pages/buttons_page.h"
@@ -12,6 +13,7 @@
 #include "gallery/pages/focus_page.h"
 #include "gallery/pages/html_text_page.h"
 #include "gallery/pages/input_log_page.h"
+#include "gallery/pages/native_controls_page.h"
 #include "gallery/pages/overlap_page.h"
 #include "gallery/pages/painter_page.h"
 #include "gallery/pages/panes_page.h"
@@ -50,6 +52,8 @@ SPage const g_Pages[] = {
     {"painter", "Painter", "Every shape, pen, text flag and raster operation.", &Make<CPainterPage>},
     {"parts", "Native parts and borders",
      "Each part plain, hot, pressed and disabled; each border flat, raised, sunken.", &Make<CPartsPage>},
+    {"native", "Native controls", "Edits, boxes and bars of the desktop stand in the tree. Walk through them with Tab.",
+     &Make<CNativeControlsPage>},
     {"html", "Text with mark-up", "Links tell when they are clicked; narrow columns wrap.", &Make<CHtmlTextPage>},
     {"edges", "Layouts on four edges",
      "Click a ruler to dock it to the next edge: its code knows only along and across.", &Make<CEdgesPage>},
@@ -57,7 +61,10 @@ SPage const g_Pages[] = {
      &Make<CFlowGridPage>},
     {"boxes", "Boxes and resizers", "Boxes as large as their items, seen through a view; sizes in step with others.",
      &Make<CBoxesPage>},
-    {"panes", "Panes", "The frame shows where the focus is. Walk with Tab.", &Make<CPanesPage>},
+    {"panes", "Panes and titled panes", "Frame and title show where the focus is. Walk with Tab, or click a title.",
+     &Make<CPanesPage>},
+    {"animation", "Animations", "Side by side, each driven in its own way. A hidden one costs nothing.",
+     &Make<CAnimationPage>},
     {"captions", "Captions", "Text with images and links; some size themselves, some turn with their side.",
      &Make<CCaptionsPage>},
     {"bevels", "Bevels and borders", "All shapes and styles; a border leaves the area of its children alone.",

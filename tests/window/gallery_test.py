@@ -8,7 +8,7 @@ from display import Display, Program, eventually
 programs = pathlib.Path(sys.argv[1])
 
 # Where things stand at scale 1: the list of pages is 210 wide with rows of 28, a page begins at (211, 89).
-PAGES = ["docking", "overlap", "repaint", "input", "focus", "tooltip", "drag", "flashing", "painter", "parts", "html"]
+PAGES = ["docking", "overlap", "repaint", "input", "focus", "tooltip", "drag", "flashing", "painter", "parts", "native", "html"]
 ORANGE, YELLOW, GREEN, PINK = (0xFF, 0xCC, 0x33), (0xFF, 0xFF, 0xCC), (0xA7, 0xF1, 0x92), (0xFA, 0xB8, 0xFC)
 
 

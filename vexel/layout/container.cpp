@@ -50,6 +50,7 @@ void CContainer::UpdateControlPos()
     if (!control)
         return;
     CAliveGuard const alive(this);
+    control->SetTabStop(!GetCanHaveFocus());  // one that Tab reaches in the tree stands in no order besides
     rectangle<int> rect = GetContentRect();
     if (!GetDisplayableRect(&rect))
     {

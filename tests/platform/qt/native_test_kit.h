@@ -7,6 +7,7 @@
 #include "vexel/signals/signal.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
@@ -16,6 +17,13 @@
 
 namespace vexelbase::qt::test
 {
+
+/// Takes the pointer out of the way: a widget that is shown under it hears of it.
+inline void ParkPointer()
+{
+    QCursor::setPos(700, 500);
+    Settle();
+}
 
 /// What an edit or combo box tells, one word an event.
 class CEditWords : public CEditNotify

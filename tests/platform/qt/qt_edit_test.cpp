@@ -21,6 +21,7 @@ class QtEdit : public testing::Test
 protected:
     QtEdit()
     {
+        ParkPointer();
         m_Edit->SetPos(10, 20, 100, 24);
         m_Edit->SetVisible(true);
         m_Edit->SetFocus();
@@ -322,12 +323,10 @@ TEST_F(QtEdit, ShowingIsTold)
 
 TEST_F(QtEdit, TheWheelIsToldAndGoesOnToTheWindowUnlessItWasDealtWith)
 {
-    TurnWheel(&Native(), -1);
+    EXPECT_FALSE(TurnWheel(&Native(), -1));  // then Qt asks the parent
     EXPECT_EQ(m_Words.Take(), "wheel(-1)");
-    EXPECT_EQ(m_Hosted.Control().Take(), "wheel(13,23,-1)");
     m_Words.m_Refuse = "wheel";
-    TurnWheel(&Native(), -1);
-    EXPECT_EQ(m_Hosted.Control().Take(), "");
+    EXPECT_TRUE(TurnWheel(&Native(), -1));
 }
 
 TEST_F(QtEdit, RefreshMakesItAsHighAsQtWantsIt)
@@ -424,12 +423,12 @@ protected:
         auto* const layout = new QVBoxLayout(&m_Top);
         m_First = new QLineEdit(&m_Top);
         m_Middle = new QWidget(&m_Top);
-        m_Last = new QLineEdit(&m_Top);
+        m_Window = HostWindow(m_Middle);
+        m_Last = new QLineEdit(&m_Top);  // behind the window in Qt's order
         layout->addWidget(m_First);
         layout->addWidget(m_Middle);
         layout->addWidget(m_Last);
         m_Top.resize(200, 200);
-        m_Window = HostWindow(m_Middle);
         m_Control = std::make_unique<CRecorder>(m_Window.get());
         m_Top.show();
         Settle();
@@ -596,7 +595,11 @@ namespace
 class QtComboBox : public testing::Test
 {
 protected:
-    QtComboBox() { Use(true); }
+    QtComboBox()
+    {
+        ParkPointer();
+        Use(true);
+    }
     void Use(bool editable)
     {
         m_Box.reset();
@@ -740,24 +743,28 @@ TEST_F(QtComboBox, TheWheelDoesNotChoose)
 {
     m_Box->SetCurrentItem(0);
     m_Words.Take();
-    TurnWheel(&Native(), -1);
+    EXPECT_FALSE(TurnWheel(&Native(), -1));
     EXPECT_EQ(m_Box->GetCurrentItem(), 0);
     EXPECT_EQ(m_Words.Take(), "wheel(-1)");
-    EXPECT_EQ(m_Hosted.Control().Take(), "wheel(3,3,-1)");
 }
 
 TEST_F(QtComboBox, TheWindowGetsNoneOfItsInput)
 {
-    for (bool const editable : {true, false})
-    {
-        Use(editable);
-        ClickAt(&Native(), 95, 10);
-        EXPECT_TRUE(IsListShown());
-        Native().hidePopup();
-        SendMouse(&Native(), QEvent::MouseButtonPress, 50, 10, Qt::RightButton);
-        PressKey(&Native(), Qt::Key_F5);
-        EXPECT_EQ(m_Hosted.Control().Take(), "");
-    }
+    PressKey(&Native(), Qt::Key_F5);
+    SendMouse(&Native(), QEvent::MouseButtonPress, 50, 10, Qt::RightButton);
+    ClickAt(&Native(), 95, 10);
+    EXPECT_TRUE(IsListShown());
+    EXPECT_EQ(m_Hosted.Control().Take(), "");
+}
+
+TEST_F(QtComboBox, NorThatOfOneThatCanOnlyChoose)
+{
+    Use(false);
+    PressKey(&Native(), Qt::Key_F5);
+    SendMouse(&Native(), QEvent::MouseButtonPress, 50, 10, Qt::RightButton);
+    ClickAt(&Native(), 95, 10);
+    EXPECT_TRUE(IsListShown());
+    EXPECT_EQ(m_Hosted.Control().Take(), "");
 }
 
 TEST_F(QtComboBox, AListenerMayDropTheLastReferenceOfAnOpenBox)

@@ -18,6 +18,7 @@ protected:
     {
         m_Hosted.Top().move(20, 30);
         Settle();
+        ParkPointer();
         m_Hosted.Window().SetFocus();
         m_Popup = m_Hosted.Window().CreatePopup();
         m_Inner = std::make_unique<CRecorder>(m_Popup->GetWindow());
@@ -182,24 +183,24 @@ TEST_F(QtPopup, ReleasedItDestroysItsWindow)
 
 TEST_F(QtPopup, MayGoInEachOfItsEvents)
 {
-    m_Inner.reset();
-    m_Popup.reset();
     for (char const* const when : {"shown", "focus", "down(5,5,0x1,1)", "keydown(27,0x0)", "nofocus", "hidden"})
     {
-        m_Popup = m_Hosted.Window().CreatePopup();
-        CRecorder inner(m_Popup->GetWindow());
-        m_Popup->SetSize(50, 30);
-        QPointer<QWidget> const widget(Widget());
+        CHosted hosted;
+        hosted.Window().SetFocus();
+        vexel_ptr<IPopup> popup = hosted.Window().CreatePopup();
+        CRecorder inner(popup->GetWindow());
+        popup->SetSize(50, 30);
+        QPointer<QWidget> const widget(GetWidget(popup->GetWindow()));
         inner.m_Before = [&](std::string const& word) {
             if (word == when)
-                m_Popup.reset();
+                popup.reset();
         };
-        m_Popup->Show({30, 50});
-        if (m_Popup)
+        popup->Show({30, 50});
+        if (popup)
             ClickAt(widget, 5, 5);
-        if (m_Popup)
+        if (popup)
             PressKey(widget, Qt::Key_Escape);
-        EXPECT_FALSE(m_Popup) << when;
+        EXPECT_FALSE(popup) << when;
         Settle();
         EXPECT_FALSE(widget) << when;
     }

@@ -23,6 +23,7 @@ class QtScrollBar : public testing::Test
 protected:
     QtScrollBar()
     {
+        ParkPointer();
         m_Bar->SetPos(10, 0, 20, 180);
         m_Bar->SetVisible(true);
         SetRange(0, 200, 50);

@@ -40,19 +40,28 @@ void CQtNativeNode::GiveUp()
 {
     if (CQtWindow* const window = std::exchange(m_Window, nullptr))
         window->RemoveNative(*this);
-    QWidget* const widget = std::exchange(m_Widget, nullptr);
-    if (!widget)
-        return;
-    m_Link->owner = nullptr;
-    if (widget->hasFocus())
-        widget->clearFocus();
-    widget->hide();
-    widget->deleteLater();
+    DropWidget();
 }
 
 void CQtNativeNode::WindowGoes()
 {
     m_Window = nullptr;
+    DropWidget();
+}
+
+void CQtNativeNode::DropWidget()
+{
+    QWidget* const widget = std::exchange(m_Widget, nullptr);
+    if (!widget)
+        return;
+    std::exchange(m_Link, nullptr)->owner = nullptr;
+    if (widget->hasFocus())
+        widget->clearFocus();
+    widget->hide();
+    // Its parent may be deleted at once, while Qt stands in this one.
+    if (CInQt::Is())
+        widget->setParent(nullptr);
+    widget->deleteLater();
 }
 
 void CQtNativeNode::WidgetGoes()

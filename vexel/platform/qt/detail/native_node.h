@@ -4,6 +4,7 @@
 #include "vexel/platform/geometry.h"
 #include "vexel/platform/native_controls.h"
 #include "vexel/platform/qt/detail/guard.h"
+#include "vexel/platform/qt/detail/in_qt.h"
 
 #include <QEvent>
 #include <QPointer>
@@ -22,7 +23,7 @@ class CQtWindow;
 
 class CQtNativeNode;
 
-/// The way from a widget to its control; null once they have parted.
+/// The way from a widget to its control; null before they hear of each other and once they have parted.
 struct SNativeLink
 {
     CQtNativeNode* owner = nullptr;
@@ -63,6 +64,8 @@ protected:
 
     /// The widget that the derived class has made, a child of the window's.
     void Take(QWidget* widget, SNativeLink& link);
+    /// From now on the widget tells. The last step of a constructor: each event holds the control.
+    void Listen() { m_Link->owner = this; }
     /// Parts from widget and window. The widget is deleted when Qt no more stands in it.
     void GiveUp();
     CQtWindow* GetWindow() const { return m_Window; }
@@ -96,6 +99,7 @@ protected:
 
 private:
     void SyncFont();
+    void DropWidget();
 
     CQtWindow* m_Window;
     QWidget* m_Widget = nullptr;
@@ -121,7 +125,7 @@ inline QRect ToQtRect(rectangle<int> const& rect, double ratio)
 template <class Base> class CNativeWidget : public Base, public SNativeLink
 {
 public:
-    CNativeWidget(CQtNativeNode& node, QWidget* parent) : Base(parent), SNativeLink{&node} {}
+    explicit CNativeWidget(QWidget* parent) : Base(parent) {}
     ~CNativeWidget() override
     {
         if (owner)
@@ -133,6 +137,7 @@ protected:
     {
         if (!owner)
             return Base::event(event);
+        CInQt const inside;
         QPointer<CNativeWidget> const self(this);
         vexel_ptr<CBase> const alive(owner->GetSelf());
         bool done = false;

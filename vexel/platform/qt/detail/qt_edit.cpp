@@ -167,14 +167,16 @@ public:
 
 CQtEdit::CQtEdit(CQtWindow& window) : CQtTextControl<IEdit>(window)
 {
-    m_Field = new CField(*this, window.GetWidget());
+    m_Field = new CField(window.GetWidget());
     m_Field->setMaxLength(std::numeric_limits<int>::max());
     Take(m_Field, *m_Field);
     QObject::connect(m_Field, &QLineEdit::textChanged, m_Field, [this, field = m_Field](QString const& text) {
+        CInQt const inside;
         if (field->owner)
             TextIs(text.toStdString());
     });
     TakeNaturalSize();
+    Listen();
 }
 
 CQtEdit::~CQtEdit()
@@ -259,13 +261,14 @@ protected:
 
 CQtComboBox::CQtComboBox(CQtWindow& window, bool editable) : CQtTextControl<IComboBox>(window), m_Editable(editable)
 {
-    m_Box = new CBox(*this, window.GetWidget());
+    m_Box = new CBox(window.GetWidget());
     m_Box->setEditable(editable);
     m_Box->setInsertPolicy(QComboBox::NoInsert);
     m_Box->setDuplicatesEnabled(true);
     m_Box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     Take(m_Box, *m_Box);
     QObject::connect(m_Box, &QComboBox::activated, m_Box, [this, box = m_Box](int index) {
+        CInQt const inside;
         if (box->owner)
             Chosen(index);
     });
@@ -273,6 +276,7 @@ CQtComboBox::CQtComboBox(CQtWindow& window, bool editable) : CQtTextControl<ICom
     {
         m_Box->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
         QObject::connect(m_Box->lineEdit(), &QLineEdit::textChanged, m_Box, [this, box = m_Box](QString const& text) {
+            CInQt const inside;
             if (!box->owner || m_Showing)
                 return;
             m_Current = box->currentIndex();
@@ -280,6 +284,7 @@ CQtComboBox::CQtComboBox(CQtWindow& window, bool editable) : CQtTextControl<ICom
         });
     }
     TakeNaturalSize();
+    Listen();
 }
 
 CQtComboBox::~CQtComboBox()

@@ -32,15 +32,17 @@ CQtScrollBar::CQtScrollBar(CQtWindow& window, bool vertical)
     : CQtNativeControl<IScrollBar>(window), m_Vertical(vertical)
 {
     SetSupportedEvent(typeid(IScrollBarNotify));
-    m_Bar = new CBar(*this, window.GetWidget());
+    m_Bar = new CBar(window.GetWidget());
     m_Bar->setOrientation(vertical ? Qt::Vertical : Qt::Horizontal);
     m_Bar->setCursor(Qt::ArrowCursor);
     Take(m_Bar, *m_Bar);
     QObject::connect(m_Bar, &QAbstractSlider::actionTriggered, m_Bar, [this, bar = m_Bar](int action) {
+        CInQt const inside;
         if (bar->owner)
             ActionTriggered(action);
     });
     QObject::connect(m_Bar, &QAbstractSlider::valueChanged, m_Bar, [this, bar = m_Bar](int value) {
+        CInQt const inside;
         if (bar->owner)
             ValueChanged(value);
     });
@@ -48,6 +50,7 @@ CQtScrollBar::CQtScrollBar(CQtWindow& window, bool vertical)
     int const width = CQtSystem::Get().GetSystemMetric(ISystem::smScrollBarWidth);
     int const height = CQtSystem::Get().GetSystemMetric(ISystem::smScrollBarHeight);
     Place({0, 0, vertical ? width : 3 * width, vertical ? 3 * height : height});
+    Listen();
 }
 
 CQtScrollBar::~CQtScrollBar()

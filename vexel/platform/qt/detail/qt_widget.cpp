@@ -1,6 +1,7 @@
 #include "vexel/platform/qt/detail/qt_widget.h"
 
 #include "vexel/platform/qt/detail/guard.h"
+#include "vexel/platform/qt/detail/in_qt.h"
 #include "vexel/platform/qt/detail/qt_window.h"
 
 #include <QEvent>
@@ -72,8 +73,7 @@ int CQtWidget::ReleaseEvent()
 
 bool CQtWidget::event(QEvent* event)
 {
-    QPointer<CQtWidget> const self(this);
-    ++m_Depth;
+    CInQt const inside;
     bool handled = false;
     bool result = true;
     if (m_Window && m_Window->IsForWindow(*event))
@@ -86,8 +86,6 @@ bool CQtWidget::event(QEvent* event)
     }
     if (!handled)
         result = QWidget::event(event);
-    if (self)
-        --m_Depth;
     return result;
 }
 
@@ -95,14 +93,13 @@ bool CQtWidget::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == parent() && (event->type() == QEvent::Resize || event->type() == QEvent::ContentsRectChange))
     {
+        CInQt const inside;
         QPointer<CQtWidget> const self(this);
-        ++m_Depth;
         FillParent();
         if (m_Window)
             Guarded([this] { m_Window->SyncSurface(); });
         if (!self)
             return true;
-        --m_Depth;
     }
     return QWidget::eventFilter(watched, event);
 }

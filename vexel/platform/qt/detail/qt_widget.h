@@ -17,7 +17,6 @@ public:
     ~CQtWidget() override;
 
     void Detach() { m_Window = nullptr; }  ///< The window goes before the widget.
-    bool IsInEvent() const { return m_Depth > 0; }
     /// Moves the focus to the next or previous widget, as Tab does. False if there is none.
     bool MoveFocus(bool forward) { return QWidget::focusNextPrevChild(forward); }
     void FillParent();
@@ -39,7 +38,6 @@ protected:
 
 private:
     CQtWindow* m_Window;
-    int m_Depth = 0;
 };
 
 }  // namespace vexelbase::qt

@@ -1,6 +1,7 @@
 #include "vexel/platform/qt/detail/qt_window.h"
 
 #include "vexel/platform/convert.h"
+#include "vexel/platform/qt/detail/in_qt.h"
 #include "vexel/platform/qt/detail/native_node.h"
 #include "vexel/platform/qt/detail/qt_device.h"
 #include "vexel/platform/qt/detail/qt_edit.h"
@@ -75,7 +76,7 @@ CQtWindow::CQtWindow(QWidget* owner, CQtPopup& popup) : m_OwnPopup(&popup)
 {
     SetDevice(std::make_unique<CQtDevice>(GetPixels(), CQtSystem::Get().GetScale()));
     AllWindows().push_back(this);
-    m_Widget = new CQtWidget(*this, owner, Qt::Popup);
+    m_Widget = new CQtWidget(*this, owner, Qt::Popup | Qt::FramelessWindowHint);
     SyncSurface();
 }
 
@@ -95,9 +96,9 @@ CQtWindow::~CQtWindow()
     if (!widget)
         return;
     widget->Detach();
-    if (widget->IsInEvent())
+    if (CInQt::Is())
     {
-        // Qt still stands in it.
+        // Qt may still stand in it.
         widget->hide();
         widget->deleteLater();
     }
@@ -772,14 +773,14 @@ void CQtWindow::TabFromNative(CQtNativeNode& native, int keys)
     {
         if (CQtNativeNode* const next = FindTabStop(&native, forward))
             return next->TakeFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        if (forward && (MoveFocusOut(true) || life.expired() || !m_Widget))
-            return;
+        // Qt moves on from the widget that has the focus.
         ++m_FocusHeld;
         m_Widget->setFocus(Qt::OtherFocusReason);
+        bool const moved = !life.expired() && m_Widget && forward && MoveFocusOut(true);
         if (life.expired())
             return;
         --m_FocusHeld;
-        if (SettleFocus())
+        if (!moved && SettleFocus())
             EnterByTab(forward);
         return;
     }
