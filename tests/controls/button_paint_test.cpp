@@ -104,6 +104,16 @@ TEST_F(ButtonPaint, TheFocusFrameIsThreeScaledPixelsInside)
     EXPECT_THAT(Draw(), Draws("FocusRect 4 4 195 36"));
 }
 
+TEST_F(ButtonPaint, AButtonThatIsTooSmallForTheFocusFrameHasNone)
+{
+    m_Host.Focus();
+    m_Button.SetFocus(true);
+    m_Button.SetHeight(6, false);
+    EXPECT_THAT(m_Host.Paint().Of("button"), Draws("FocusRect 3 3 196 3"));
+    m_Button.SetHeight(5, false);
+    EXPECT_THAT(m_Host.Paint().Of("button"), Not(Draws("FocusRect*")));
+}
+
 TEST_F(ButtonPaint, AFlatButtonHasTheFocusFrameOnePixelFurtherOut)
 {
     m_Host.Focus();
@@ -112,6 +122,16 @@ TEST_F(ButtonPaint, AFlatButtonHasTheFocusFrameOnePixelFurtherOut)
     EXPECT_THAT(Draw(), Draws("FocusRect 3 3 196 37"));  // still native
     m_Button.SetNativeDrawing(false);
     EXPECT_THAT(Draw(), Draws("FocusRect 2 2 197 38"));
+}
+
+TEST_F(ButtonPaint, ItCoolsDownAlsoAfterItsStageWasResetUnderThePointer)
+{
+    m_Host.Mouse().Move(m_Button, 5, 5);
+    m_Button.SetEnabled(false);
+    m_Button.SetEnabled(true);
+    EXPECT_THAT(m_Host.Paint().Of("button"), Draws("DrawControlElement * 0x4"));
+    m_Host.Mouse().Move(5, 90);
+    EXPECT_THAT(m_Host.Paint().Of("button"), Draws("DrawControlElement * 0x0"));
 }
 
 // With an edge ------------------------------------------------------------------------------------------------------------

@@ -365,6 +365,34 @@ TEST_F(Caption, ADisabledCaptionHasTheDisabledLook)
     EXPECT_EQ(m_Images.Take(), "disabled 0 at 78 13");  // the text, 24 wide in 20 to 199, begins at 97.5
 }
 
+TEST_F(Caption, AnotherMaximumWidthIsPaintedAlsoWhereTheSizeStays)
+{
+    m_Caption.SetAutoSize(true);
+    m_Caption.SetTextAlign(0x22);
+    m_Caption.SetCaption("abc");
+    m_Host.Paint();
+    m_Caption.SetMaxTextWidth(60);
+    EXPECT_EQ(m_Caption.GetSize(), (Size{26, 10}));
+    EXPECT_THAT(m_Host.Paint().Of("caption"), Draws("DrawStringEx \"abc\" 1 0 61 10 0x122"));
+}
+
+TEST_F(Caption, MeasuredWhileSomethingIsPaintedItLeavesThePaintersFont)
+{
+    font large;
+    large.size = 16;
+    m_Caption.SetFont(large);
+    m_Caption.SetAutoSize(true);
+    IPainter& painter = *m_Host.Window().GetPainter();
+    painter.BeginPaint(IPainter::ssPaint);
+    font other;
+    other.size = 11;
+    painter.SetFont(other);
+    m_Caption.SetCaption("abc");
+    EXPECT_EQ(m_Caption.GetSize(), (Size{50, 18}));
+    EXPECT_EQ(painter.GetFont().size, 11);
+    painter.EndPaint();
+}
+
 // Docking -----------------------------------------------------------------------------------------------------------------
 
 TEST_F(Caption, WithTextLayoutACaptionAtTheLeftRunsDownward)
@@ -397,6 +425,17 @@ TEST_F(Caption, SwitchingTextLayoutOffGivesTheUprightLayoutBack)
     m_Caption.SetTextLayout(false);
     EXPECT_EQ(m_Caption.GetAlong(1, 2), 1);
     EXPECT_THAT(m_Host.Paint().Of("caption"), Draws("DrawStringEx \"abc\" 20 0 100 99 0x124"));
+}
+
+TEST_F(Caption, DockedToTheSameSideAgainItIsPaintedInTheLayoutOfThatSide)
+{
+    m_Caption.SetCaption("abc");
+    m_Caption.SetImageIndex(0);
+    m_Caption.SetAlignment(alLeft);
+    m_Caption.SetTextLayout(false);
+    m_Host.Paint();
+    m_Caption.SetAlignment(alLeft);
+    EXPECT_THAT(m_Host.Paint().Of("caption"), Draws("DrawStringEx \"abc\" 0 20 100 99 0x124"));
 }
 
 // Tooltip -----------------------------------------------------------------------------------------------------------------

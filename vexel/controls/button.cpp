@@ -1,5 +1,6 @@
 #include "vexel/controls/button.h"
 
+#include "vexel/controls/detail/focus_frame.h"
 #include "vexel/controls/detail/painter_colors.h"
 #include "vexel/controls/detail/scaled.h"
 #include "vexel/core/control.h"
@@ -119,7 +120,7 @@ void CButton::DrawContent(IPainter* painter)
         --inset;
     rectangle<double> rect = ToDouble(GetBounds());
     rect.Normalize();
-    painter->FocusRect(rect.left + inset, rect.top + inset, rect.right - inset, rect.bottom - inset);
+    detail::DrawFocusFrame(painter, rect, inset);
 }
 
 void CButton::DrawBackground(IPainter* painter)
@@ -219,15 +220,24 @@ bool CButton::HandleButtonUp(int, int, int keys, MouseButton button)
     return CClickHandler::HandleButtonUp(keys, button);
 }
 
+// The look goes by the pointer, too: it changes also where the stage, which was reset meanwhile, does not.
 void CButton::HandleMouseHover(CVisualElement*)
 {
+    ClickStage const before = GetClickStage();
+    CAliveGuard const alive(this);
     CClickHandler::HandleMouseHover();
+    if (alive && GetClickStage() == before)
+        Update(utElement);
 }
 
 void CButton::HandleMouseLeave(CVisualElement*)
 {
     StopRepeating();
+    ClickStage const before = GetClickStage();
+    CAliveGuard const alive(this);
     CClickHandler::HandleMouseLeave();
+    if (alive && GetClickStage() == before)
+        Update(utElement);
 }
 
 bool CButton::HandleKeyDown(int keys, int key)

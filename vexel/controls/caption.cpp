@@ -172,8 +172,12 @@ void CCaption::SetTextLayout(bool turn)
 
 void CCaption::SetAlignment(Alignment alignment)
 {
-    if (ChangeLayout(alignment))
+    if (!ChangeLayout(alignment))
+        return;
+    if (alignment != GetAlignment())
         CVisualElement::SetAlignment(alignment);
+    else
+        OnChange(this, utElement);  // it may have had the layout of another edge
 }
 
 void CCaption::SetPos(rectangle<int> const& rect, bool force)
@@ -256,7 +260,11 @@ void CCaption::RecalculateSize()
     }
     if (IsTextConverted())
         extent = {ToInt(GetAlong(extent.width, extent.height)), ToInt(GetAcross(extent.width, extent.height))};
+    bool const stays = extent == GetSize();
+    CAliveGuard const alive(this);
     SetSize(extent, false);
+    if (alive && stays)
+        OnChange(this, utElement);  // the same size may be drawn otherwise, and the links are known again then
 }
 
 size<double> CCaption::MeasureText(IPainter* painter, size<int> const& image, size<int> const& extra)

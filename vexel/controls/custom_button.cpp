@@ -1,5 +1,6 @@
 #include "vexel/controls/custom_button.h"
 
+#include "vexel/controls/detail/focus_frame.h"
 #include "vexel/platform/painter.h"
 
 namespace vexel
@@ -31,7 +32,10 @@ void CCustomButton::DrawFocusRect(IPainter* painter)
     int const inset = 3;  // at any scale
     rectangle<int> rect = GetContentRect();
     rect.Normalize();
-    painter->FocusRect(rect.left + inset, rect.top + inset, rect.right - inset, rect.bottom - inset);
+    detail::DrawFocusFrame(painter,
+                           {static_cast<double>(rect.left), static_cast<double>(rect.top),
+                            static_cast<double>(rect.right), static_cast<double>(rect.bottom)},
+                           inset);
 }
 
 bool CCustomButton::HandleMouseMove(int x, int y, int keys, MouseButton button)
