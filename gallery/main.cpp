@@ -5,11 +5,14 @@
 #include "gallery/frame/native_log.h"
 #include "gallery/options.h"
 #include "gallery/pages.h"
+#include "gallery/pages/animation_page.h"
 #include "vexel/platform/convert.h"
 #include "vexel/platform/qt/application.h"
 #include "vexel/platform/qt/host_window.h"
+#include "vexel/platform/qt/load_animation.h"
 #include "vexel/platform/threads.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QPixmap>
 #include <QWidget>
@@ -114,8 +117,18 @@ bool CProgram::SavePictures(std::string const& folder, std::string const& only)
     return true;
 }
 
+vexelbase::vexel_ptr<vexelbase::IAnimation> ReadAnimation(unsigned char const* data, std::size_t bytes)
+{
+    QByteArray const copy(reinterpret_cast<char const*>(data), static_cast<qsizetype>(bytes));
+    QBuffer buffer;
+    buffer.setData(copy);
+    buffer.open(QIODevice::ReadOnly);
+    return vexelbase::qt::LoadAnimation(&buffer);
+}
+
 int Main(int argc, char** argv)
 {
+    CAnimationPage::SetReader(&ReadAnimation);
     SOptions const options = ReadOptions(argc, argv);
     int const page = options.page.empty() ? 0 : FindPage(options.page);
     if (!options.error.empty() || page < 0)

@@ -1,6 +1,10 @@
 #include "gallery/pages.h"
 
+#include "gallery/pages/animation_page.h"
+#include "gallery/pages/bevels_page.h"
 #include "gallery/pages/boxes_page.h"
+#include "gallery/pages/buttons_page.h"
+#include "gallery/pages/captions_page.h"
 #include "gallery/pages/docking_page.h"
 #include "gallery/pages/drag_drop_page.h"
 #include "gallery/pages/edges_page.h"
@@ -15,6 +19,8 @@
 #include "gallery/pages/panes_page.h"
 #include "gallery/pages/partial_repaint_page.h"
 #include "gallery/pages/parts_page.h"
+#include "gallery/pages/pictures_page.h"
+#include "gallery/pages/strips_page.h"
 #include "gallery/pages/tooltip_page.h"
 
 namespace gallery
@@ -55,7 +61,19 @@ SPage const g_Pages[] = {
      &Make<CFlowGridPage>},
     {"boxes", "Boxes and resizers", "Boxes as large as their items, seen through a view; sizes in step with others.",
      &Make<CBoxesPage>},
-    {"panes", "Panes", "The frame shows where the focus is. Walk with Tab.", &Make<CPanesPage>},
+    {"panes", "Panes and titled panes", "Frame and title show where the focus is. Walk with Tab, or click a title.",
+     &Make<CPanesPage>},
+    {"animation", "Animations", "Side by side, each driven in its own way. A hidden one costs nothing.",
+     &Make<CAnimationPage>},
+    {"captions", "Captions", "Text with images and links; some size themselves, some turn with their side.",
+     &Make<CCaptionsPage>},
+    {"bevels", "Bevels and borders", "All shapes and styles; a border leaves the area of its children alone.",
+     &Make<CBevelsPage>},
+    {"strips", "Title strips", "Titles with help buttons, and strips that light up and are clicked.",
+     &Make<CStripsPage>},
+    {"buttons", "Buttons", "Press them by mouse, space or return; one repeats while it is held.", &Make<CButtonsPage>},
+    {"pictures", "Picture buttons and images", "Buttons that are an image for each state; images, one of them moving.",
+     &Make<CPicturesPage>},
 };
 
 }  // namespace

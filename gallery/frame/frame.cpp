@@ -1,6 +1,7 @@
 #include "gallery/frame/frame.h"
 
 #include "gallery/frame/log.h"
+#include "gallery/frame/sample_images.h"
 #include "gallery/pages.h"
 
 namespace gallery
@@ -15,6 +16,7 @@ void EnableAll(CVisualElement* element, bool enabled)
 
 CFrame::CFrame(CBaseControl& control, SHooks hooks, SState const& state) : m_Control(control), m_Hooks(std::move(hooks))
 {
+    m_Control.SetImageList(&GetSampleImages());
     Build(state);
     BuildPage();
     CLog::Get().m_SigLine.connect(this, &CFrame::LineWritten);
@@ -24,6 +26,7 @@ CFrame::CFrame(CBaseControl& control, SHooks hooks, SState const& state) : m_Con
 CFrame::~CFrame()
 {
     m_Control.GetContent()->GetChildren()->Clear();
+    m_Control.SetImageList(nullptr);
 }
 
 CFrame::SState CFrame::GetState() const

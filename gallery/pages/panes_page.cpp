@@ -2,6 +2,7 @@
 
 #include "gallery/frame/panel.h"
 #include "gallery/frame/toggle.h"
+#include "vexel/controls/titled_pane.h"
 #include "vexel/layout/pane.h"
 
 namespace gallery
@@ -10,30 +11,40 @@ namespace gallery
 namespace
 {
 
-/// Fills its inside, as panes draw nothing but their frame.
-class CFilledPane : public CPane
+/// Panes draw nothing but their frame, so something fills the inside.
+void Fill(CPane* pane)
 {
-public:
-    CFilledPane(CVisualElement* parent, Alignment alignment) : CPane(parent, {220, 0}, alignment)
-    {
-        auto* const inside = new CPanel(this, {0, 0}, alClient);
-        for (char const* text : {"first", "second", "third"})
-            (new CToggle(inside, {0, 32}, alTop, text))->SetCanHaveFocus(true);
-    }
-};
+    auto* const inside = new CPanel(pane, {0, 0}, alClient);
+    for (char const* text : {"first", "second", "third"})
+        (new CToggle(inside, {0, 32}, alTop, text))->SetCanHaveFocus(true);
+}
+
+CTitledPane* AddTitled(CVisualElement* parent, char const* title, Alignment edge)
+{
+    auto* const pane = new CTitledPane(parent, {170, 0}, alLeft);
+    pane->GetTitle().GetText().SetCaption(title);
+    pane->SetTitleAlignment(edge);
+    Fill(pane);
+    new CPanel(parent, {12, 0}, alLeft);
+    return pane;
+}
 
 }  // namespace
 
 void CPanesPage::Build(CVisualElement* parent)
 {
-    for (char const* name : {"left", "middle", "right"})
-    {
-        auto* const gap = new CPanel(parent, {12, 0}, alLeft);
-        gap->SetText("");
-        auto* const pane = new CFilledPane(parent, alLeft);
-        Report(pane->m_SigChildGetFocus, std::string(name) + ".childGetFocus");
-        Report(pane->m_SigChildLostFocus, std::string(name) + ".childLostFocus");
-    }
+    auto* const plain = new CPane(parent, {130, 0}, alLeft);
+    Fill(plain);
+    new CPanel(parent, {12, 0}, alLeft);
+    CTitledPane* const top = AddTitled(parent, "Title at the top", alTop);
+    top->GetTitle().SetHelpId("panes");
+    CTitledPane* const left = AddTitled(parent, "Title at the left", alLeft);
+    CTitledPane* const bottom = AddTitled(parent, "Title at the bottom", alBottom);
+    Report(plain->m_SigChildGetFocus, "plain.childGetFocus");
+    Report(top->m_SigChildGetFocus, "top.childGetFocus");
+    Report(top->GetTitle().m_SigButtonDown, "top.title.buttonDown");
+    Report(left->m_SigChildGetFocus, "left.childGetFocus");
+    Report(bottom->m_SigChildGetFocus, "bottom.childGetFocus");
 }
 
 }  // namespace gallery

@@ -336,6 +336,23 @@ TEST(DynamicMark, OfANewWhoseArgumentThrowsDoesNotReachTheNextObject)
     EXPECT_FALSE(byValue.IsDynamic());
 }
 
+TEST(DynamicMark, IsNotTakenByObjectsAmongTheArguments)
+{
+    CScriptedSystem system;
+    CVisualElement root(nullptr, {0, 0}, alNone);
+    auto const areaOfByValue = [] {
+        return CVisualElement(nullptr, {3, 4}, alNone).IsDynamic() ? size<int>{1, 1} : size<int>{2, 2};
+    };
+
+    auto* const inner = new CVisualElement(
+        new CVisualElement(new CVisualElement(&root, {0, 0}, alNone), {0, 0}, alNone), areaOfByValue(), alNone);
+
+    EXPECT_TRUE(inner->IsDynamic());
+    EXPECT_TRUE(inner->GetParent()->IsDynamic());
+    EXPECT_TRUE(inner->GetParent()->GetParent()->IsDynamic());
+    EXPECT_EQ(inner->GetSize(), (size<int>{2, 2}));
+}
+
 TEST(DynamicMark, CanBeOverruled)
 {
     CScriptedSystem system;

@@ -363,6 +363,26 @@ TEST_F(Container, AControlThatIsShownNeedNotBeShown)
     EXPECT_EQ(m_Log.Take(), "");
 }
 
+TEST_F(Container, APlacedControlThatIsShownNeedNotBeShown)
+{
+    Host();
+    m_Container->UpdateControlPos();
+    m_Log.Clear();
+    m_Container->ProcessNeedToShow();
+    EXPECT_EQ(m_Log.Take(), "");
+}
+
+TEST_F(Container, TheWishToShowGoesWithThePlace)
+{
+    Host();
+    m_Native->SetVisible(false);
+    m_Container->UpdateControlPos();
+    m_Container->SetPos({110, 5, 160, 25}, false);
+    m_Log.Clear();
+    m_Container->ProcessNeedToShow();
+    EXPECT_EQ(m_Log.Take(), "");
+}
+
 TEST_F(Container, CheckingNotesThatAHiddenControlIsToBeShown)
 {
     Host();

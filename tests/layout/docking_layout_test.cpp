@@ -332,6 +332,14 @@ TEST(LayoutFlavor, ChangingTheLayoutAlwaysGivesLeaveToGoOn)
         EXPECT_TRUE(flavor.ChangeLayout(alignment));
 }
 
+TEST(LayoutFlavor, HasTheBottomLayoutUntilItIsToldAnother)
+{
+    CLayoutFlavor flavor;
+    flavor.SetTextConversion(true);
+    EXPECT_EQ(flavor.GetAlong(3, 4), 3);
+    EXPECT_EQ(flavor.ConvTextAlign(8), 8);
+}
+
 TEST(LayoutFlavor, DoesEverythingAsTheLayoutOfItsEdge)
 {
     CLayoutFlavor flavor;

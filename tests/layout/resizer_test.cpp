@@ -296,6 +296,18 @@ TEST_F(VertResizerEx, ANeighbourThatDiesCountsAsOneWithoutExtent)
     EXPECT_TRUE(m_Resizer.IsProportionalResizing(&m_Pane));
 }
 
+TEST_F(VertResizerEx, WhereNobodyWantsAnythingThereIsNoPart)
+{
+    m_Resizer.SetElementSize(0);
+    m_Resizer.SetValidatorSize(0);
+    EXPECT_FALSE(m_Resizer.IsProportionalResizing(&m_Pane));
+    m_Neighbour.SetPos({0, 10, 5, 5}, false);  // reversed: less than nothing
+    EXPECT_TRUE(m_Resizer.IsProportionalResizing(&m_Pane));
+    EXPECT_EQ(m_Resizer.m_Ratio, 0.0);
+    m_Resizer.ProcessResize(&m_Pane);
+    EXPECT_EQ(m_Element.GetSize(), (size<int>{7, 0}));
+}
+
 TEST_F(VertResizerEx, ASubclassMayForbidIt)
 {
     struct SForbidding : CVertProportionalResizerEx

@@ -1,6 +1,7 @@
 // An element larger than its view: how it moves, what it draws, which keys it takes. Views are 100 wide and 50 high.
 
 #include "tests/support/call_log.h"
+#include "tests/support/canvas.h"
 #include "tests/support/recording_element.h"
 #include "tests/support/scripted_system.h"
 #include "vexel/layout/scrolled.h"
@@ -474,6 +475,17 @@ TEST_F(ScrolledPaint, FillsAllOfItselfIfItDoesNotKnowOfTheView)
 {
     m_Element->SetClipToParent(false);
     EXPECT_THAT(PaintAt({-10, -20, 190, 280}), Draws("FillRect 0 0 200 300"));
+}
+
+TEST(ScrolledAlone, WithoutAParentItFillsAllOfItself)
+{
+    CScriptedSystem system;
+    CScrolled alone(nullptr, {3, 2}, alNone);
+    alone.SetPos({40, 50, 43, 52}, false);
+    vexelbase::tests::CCanvas canvas(6, 4);
+    canvas.Brush(color_table[6]);
+    alone.DrawContent(&canvas.Painter());
+    EXPECT_EQ(canvas.Text(), "rrrr..\nrrrr..\nrrrr..\n......\n");
 }
 
 TEST_F(ScrolledPaint, FillsWithItsOwnBackground)

@@ -60,7 +60,7 @@ def build(source, folder, *options):
         options += ("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache",)
     run("cmake", "-S", source, "-B", folder, "-G", "Ninja", f"-DCMAKE_CXX_COMPILER={COMPILER}", *options)
     # What the program needs, and no more.
-    run("cmake", "--build", folder, "--target", "core_only" if source == HERE / "core_only" else "hello")
+    run("cmake", "--build", folder, "--target", "hello" if source == HERE / "subdirectory" else source.name)
 
 
 def stays_alive(program):
@@ -102,10 +102,13 @@ def case_install():
 
 
 def case_find_package():
-    folder = fresh("find_package")
-    build(HELLO, folder, f"-DCMAKE_PREFIX_PATH={PREFIX}")
-    uses_moved_tree(folder / "hello")
-    stays_alive(folder / "hello")
+    examples = sorted(path.parent for path in (ROOT / "examples").glob("*/main.cpp"))
+    expect(HELLO in examples, "the examples are found")
+    for source in examples:
+        folder = fresh(f"find_package_{source.name}")
+        build(source, folder, f"-DCMAKE_PREFIX_PATH={PREFIX}")
+        uses_moved_tree(folder / source.name)
+        stays_alive(folder / source.name)
 
 
 def case_pkg_config():

@@ -45,6 +45,7 @@ public:
 
     bool m_Wants = true;
     std::function<void()> m_OnUpdate;
+    std::function<void()> m_OnQuestion;
 
     void UpdateAnimation() override
     {
@@ -55,6 +56,8 @@ public:
     bool IsUpdatable() const override
     {
         m_Log.Add("wanted?");
+        if (auto const action = m_OnQuestion)
+            action();
         return m_Wants;
     }
 

@@ -149,6 +149,27 @@ TEST_F(ThreadAnimation, WithoutASynchronizerItStops)
     EXPECT_TRUE(m_Process->IsAnimated()) << "the start was pending";
 }
 
+TEST_F(ThreadAnimation, WithoutItsAnimationItDoesNotPostToAFormerSynchronizer)
+{
+    Start();
+    vexel_ptr<CLoggedRunner> const runner(&Runner());
+    m_Process->SetAnimation(nullptr);
+    m_Process->StartAnimation();
+    m_Process->SetProcessSynchronizer(nullptr);
+    EXPECT_FALSE(runner->IsRunning());
+    EXPECT_FALSE(m_Process->ProcessData());
+    EXPECT_TRUE(m_Queue.m_Posted.empty());
+
+    CLoggedQueue other(m_Log);
+    m_Process->SetProcessSynchronizer(&other);
+    EXPECT_FALSE(m_Process->IsAnimated());
+    m_Process->SetAnimation(&m_Animation);
+    EXPECT_TRUE(m_Process->IsAnimated()) << "the start was pending all the while";
+    Runner().Round();
+    EXPECT_TRUE(m_Queue.m_Posted.empty());
+    EXPECT_EQ(other.m_Posted.size(), 1u);
+}
+
 // Stopping ---------------------------------------------------------------------------------------------------------
 
 TEST_F(ThreadAnimation, AStopStopsTheTaskAndItsRunner)
@@ -236,6 +257,18 @@ TEST_F(ThreadAnimation, AFrameThatIsNotWantedIsSkippedAndTheDelayStays)
     EXPECT_EQ(m_Log.Take(), "b+ b- a+ a- wait(10) b+ b- post");
 }
 
+TEST_F(ThreadAnimation, AFrameWithoutADelayStaysForAMillisecond)
+{
+    for (int const delay : {0, -5})
+    {
+        m_Animation.m_Delays = {delay};
+        Start();
+        Runner().Round();
+        EXPECT_EQ(m_Log.Take(), "b+ b- a+ a- wait(1) b+ b- post");
+        m_Process->StopAnimation();
+    }
+}
+
 TEST_F(ThreadAnimation, WithoutAnUpdaterOrAnAnimationNothingIsStepped)
 {
     Start();
@@ -313,6 +346,15 @@ TEST_F(ThreadAnimation, MayBeGivenUpByTheUpdate)
     m_Updater.m_OnUpdate = [this] { m_Process.reset(); };
     m_Queue.Run();
     EXPECT_EQ(m_Animation.m_Frame, 1);
+}
+
+TEST_F(ThreadAnimation, MayBeGivenUpByTheQuestion)
+{
+    Start();
+    Runner().Round();
+    m_Updater.m_OnQuestion = [this] { m_Process.reset(); };
+    m_Queue.Run();
+    EXPECT_EQ(m_Animation.m_Frame, 1) << "the step under way still comes";
 }
 
 TEST_F(ThreadAnimation, MayBeStoppedByTheUpdate)

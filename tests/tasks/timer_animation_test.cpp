@@ -101,6 +101,15 @@ TEST_F(TimerAnimation, AStartThatIsNotWantedWaitsTheFirstInterval)
     EXPECT_EQ(m_Log.Take(), "wanted? timer(100, 0) subscribe(timer, notify) period(100) run");
 }
 
+TEST_F(TimerAnimation, AStartThatShowsAFrameWithoutADelayMakesNoTimer)
+{
+    m_Animation.m_Delays = {10, 0};
+    m_Process.SetAnimation(&m_Animation);
+    m_Process.StartAnimation();
+    EXPECT_EQ(m_Log.Take(), "wanted? next delay update");
+    EXPECT_FALSE(m_Process.IsAnimated());
+}
+
 TEST_F(TimerAnimation, WithoutAnUpdaterNothingIsStepped)
 {
     m_Process.SetUpdater(nullptr);
@@ -257,6 +266,15 @@ TEST_F(TimerAnimationOnClock, MayBeGivenUpByTheUpdate)
     m_Updater.m_OnUpdate = [this] { m_Process.reset(); };
     m_System.Advance(500);
     EXPECT_EQ(m_Animation.m_Frame, 2);
+    EXPECT_TRUE(m_System.GetRunningPeriods().empty());
+}
+
+TEST_F(TimerAnimationOnClock, MayBeGivenUpByTheQuestion)
+{
+    m_Process->StartAnimation();
+    m_Updater.m_OnQuestion = [this] { m_Process.reset(); };
+    m_System.Advance(500);
+    EXPECT_EQ(m_Animation.m_Frame, 2) << "the step under way still comes";
     EXPECT_TRUE(m_System.GetRunningPeriods().empty());
 }
 

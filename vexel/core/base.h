@@ -10,8 +10,7 @@ namespace vexel
 
 /// Root of the framework's classes that may live on the heap or by value. An object knows whether its own operator new
 /// made it: a parent deletes dynamic children and only detaches others.
-/// The mark passes from operator new to the next constructor that runs, so a `new` must not have another `new` of such
-/// a class, or a by-value object of one, among its arguments. Belongs to the GUI thread.
+/// Belongs to the GUI thread.
 class VEXEL_API CBase
 {
 public:
@@ -32,10 +31,9 @@ protected:
     CBase();
 
 private:
-    bool m_Dynamic;
+    static bool TakeMark(void const* object) noexcept;
 
-    static bool s_NextIsDynamic;
-    static void* s_NextBlock;
+    bool m_Dynamic;
 };
 
 }  // namespace vexel

@@ -22,6 +22,8 @@ void CThreadAnimationProcess::SetAnimation(IAnimation* animation)
 void CThreadAnimationProcess::SetProcessSynchronizer(ISynchronizer* synchronizer)
 {
     m_Synchronizer = synchronizer;
+    if (!m_Animation)
+        StopTask();  // without its animation it still runs, and would go on posting to the former one
     Refresh();
 }
 
@@ -60,11 +62,16 @@ void CThreadAnimationProcess::StartAnimation()
 
 void CThreadAnimationProcess::DoStopAnimation()
 {
+    StopTask();
+    m_StartPending = false;
+}
+
+void CThreadAnimationProcess::StopTask()
+{
     Stop();
     SetSynchronizer(nullptr);
     SetRunner(nullptr);
     m_OwnRunner.reset();
-    m_StartPending = false;
 }
 
 bool CThreadAnimationProcess::IsAnimated() const

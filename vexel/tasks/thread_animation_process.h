@@ -33,6 +33,7 @@ public:
     void InitUpdater(CRunnableProxy* proxy) override;
 
 private:
+    void StopTask();
     void StoreDelay(int delay);
     void PassDelayBarrier() const;
 

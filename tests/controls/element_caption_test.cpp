@@ -1,0 +1,411 @@
+// Title strips: their parts and colours, the help button, the strip that is clicked, the buttons on such strips.
+
+#include "vexel/controls/element_caption.h"
+
+#include "tests/support/slot.h"
+#include "tests/support/test_images.h"
+#include "vexel/controls/control_caption.h"
+#include "vexel/core/base_control.h"
+#include "vexel/core/control.h"
+#include "vexel/platform/memory/memory_system.h"
+#include "vexel/platform/painter.h"
+#include "vexel/testing/test_kit.h"
+
+#include <gtest/gtest.h>
+
+using namespace vexel;
+using namespace vexel::test;
+using testing::Not;
+
+using Rect = rectangle<int>;
+using Size = size<int>;
+
+namespace
+{
+
+void ShowBkImage(CTestHost& host, bool on)
+{
+    IPainter& painter = *host.Window().GetPainter();
+    painter.m_BkImage = on ? CTestHost::System().CreateRasterPicture(Size{200, 100}) : nullptr;
+    painter.m_BkImageColor = color_table[9];
+}
+
+// A strip at (0, 0, 199, 11), content (3, 0, 198, 11).
+class ElementCaption : public testing::Test
+{
+protected:
+    ElementCaption()
+    {
+        NameElement(m_Strip, "strip");
+        m_Host.Paint();
+    }
+    ~ElementCaption() override { ShowBkImage(m_Host, false); }
+
+    CTestHost m_Host{200, 100};
+    CElementCaption& m_Strip = *new CElementCaption(m_Host.Root(), {0, 30}, alTop);
+};
+
+}  // namespace
+
+TEST_F(ElementCaption, ItsPartsAreAHiddenHelpButtonAndAText)
+{
+    ASSERT_EQ(m_Strip.GetChildren()->GetCount(), 2);
+    EXPECT_EQ(m_Strip.GetChildren()->GetItem(0), &m_Strip.GetHelpButton());
+    EXPECT_EQ(m_Strip.GetChildren()->GetItem(1), &m_Strip.GetText());
+    EXPECT_FALSE(m_Strip.GetHelpButton().IsDynamic());
+    EXPECT_FALSE(m_Strip.GetText().IsDynamic());
+    EXPECT_FALSE(m_Strip.GetHelpButton().IsVisible());
+    EXPECT_EQ(m_Strip.GetHelpButton().GetAlignment(), alRight);
+    EXPECT_EQ(m_Strip.GetText().GetSize(), (Size{420, 420}));
+    EXPECT_EQ(m_Strip.GetText().GetTextAlign(), 0x21);
+    EXPECT_TRUE(m_Strip.GetText().IsTransparent());
+    EXPECT_TRUE(m_Strip.GetText().IsTextConverted());
+    EXPECT_TRUE(m_Strip.IsTransparent());
+}
+
+TEST_F(ElementCaption, ItStartsInactiveInShadowWithTextInFaceColour)
+{
+    EXPECT_FALSE(m_Strip.IsActive());
+    EXPECT_EQ(m_Strip.GetBkSysColor(), ISysPalette::scShadow);
+    EXPECT_EQ(m_Strip.GetFgSysColor(), ISysPalette::scFace);
+    EXPECT_EQ(m_Strip.GetText().GetBkSysColor(), ISysPalette::scShadow);
+    EXPECT_EQ(m_Strip.GetText().GetFgSysColor(), ISysPalette::scFace);
+}
+
+TEST_F(ElementCaption, ItsHeightFollowsTheFont)
+{
+    EXPECT_EQ(m_Strip.GetSize().height, 8 + 3);
+    EXPECT_EQ(m_Strip.GetContentOffset(), (Rect{3, 0, 1, 0}));
+    EXPECT_EQ(m_Strip.GetText().GetPos(), (Rect{3, 0, 198, 11}));
+
+    font large;
+    large.size = 20;
+    m_Strip.SetFont(large);
+    EXPECT_EQ(m_Strip.GetSize().height, 20 + 7);  // 2.5 * 3
+    EXPECT_EQ(m_Strip.GetContentOffset(), (Rect{6, 0, 2, 0}));
+}
+
+TEST_F(ElementCaption, WithoutAControlItsHeightIsAsAsked)
+{
+    CElementCaption alone(nullptr, {0, 30}, alTop);
+    EXPECT_EQ(alone.GetSize().height, 30);
+    EXPECT_EQ(alone.GetContentOffset(), (Rect{2, 2, 2, 2}));
+    alone.ReParent(m_Host.Root(), true);
+    EXPECT_EQ(alone.GetSize().height, 11);
+}
+
+TEST_F(ElementCaption, TheTextTurnsWithTheEdge)
+{
+    EXPECT_EQ(m_Strip.GetText().GetAlignment(), alTop);
+    m_Strip.SetAlignment(alLeft);
+    EXPECT_EQ(m_Strip.GetText().GetAlignment(), alLeft);
+    EXPECT_EQ(m_Strip.GetText().GetAlong(1, 2), 2);
+    m_Strip.SetAlignment(alClient);
+    EXPECT_EQ(m_Strip.GetText().GetAlignment(), alLeft);
+    CElementCaption right(m_Host.Root(), {20, 20}, alRight);
+    EXPECT_EQ(right.GetText().GetAlignment(), alRight);
+    CElementCaption none(m_Host.Root(), {20, 20}, alNone);
+    EXPECT_EQ(none.GetText().GetAlignment(), alLeft);
+}
+
+TEST_F(ElementCaption, ActiveItAndItsChildrenHaveTheHighlight)
+{
+    auto* const more = new CVisualElement(&m_Strip, {5, 5}, alRight);
+    m_Strip.SetActive(true);
+    EXPECT_TRUE(m_Strip.IsActive());
+    for (CVisualElement const* const each :
+         {static_cast<CVisualElement*>(&m_Strip), more, static_cast<CVisualElement*>(&m_Strip.GetText()),
+          static_cast<CVisualElement*>(&m_Strip.GetHelpButton())})
+    {
+        EXPECT_EQ(each->GetBkSysColor(), ISysPalette::scHighlight);
+        EXPECT_EQ(each->GetFgSysColor(), ISysPalette::scHighlightText);
+    }
+    m_Strip.SetActive(false);
+    EXPECT_FALSE(m_Strip.IsActive());
+    EXPECT_EQ(more->GetBkSysColor(), ISysPalette::scShadow);
+    EXPECT_EQ(more->GetFgSysColor(), ISysPalette::scFace);
+}
+
+TEST_F(ElementCaption, TheActiveLookIsRepainted)
+{
+    m_Strip.SetActive(true);
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+    m_Strip.SetActive(false);
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(ElementCaption, IsActiveLooksAtTheColourAlone)
+{
+    m_Strip.SetBkColor(GetSysPalette()->GetColor(ISysPalette::scHighlight));
+    EXPECT_TRUE(m_Strip.IsActive());
+    m_Strip.SetActive(true);  // nothing to be done
+    EXPECT_EQ(m_Strip.GetFgSysColor(), ISysPalette::scFace);
+}
+
+TEST_F(ElementCaption, OverABackgroundPictureItsTextIsWhite)
+{
+    ShowBkImage(m_Host, true);
+    CElementCaption over(m_Host.Root(), {0, 20}, alTop);
+    EXPECT_EQ(over.GetText().GetFgColor().m_Value, 0xFFFFFFu);
+    over.SetActive(true);
+    EXPECT_EQ(over.GetText().GetFgSysColor(), ISysPalette::scHighlightText);
+    over.SetActive(false);
+    EXPECT_EQ(over.GetFgColor().m_Value, 0xFFFFFFu);
+    EXPECT_EQ(over.GetText().GetFgColor().m_Value, 0xFFFFFFu);
+}
+
+TEST_F(ElementCaption, ItIsFilledWithFortyHundredthsOfItsTextColour)
+{
+    m_Strip.SetBkColor(color_table[9]);
+    m_Strip.GetText().SetFgColor(color_table[6]);  // red on white: 255 * 0.6 of green and blue
+    EXPECT_THAT(m_Host.Paint().Of("strip"), Draws("SetBrush #FF9999").Then("FillRect 0 0 199 11"));
+}
+
+TEST_F(ElementCaption, OverABackgroundPictureItIsBlended)
+{
+    ShowBkImage(m_Host, true);
+    m_Strip.SetBkColor(color_table[6]);
+    EXPECT_THAT(m_Host.Paint().Of("strip"),
+                Draws("DrawRasterPictureEx*").Then("picture SetBrush red").Then("AlphaBlend 200x12 0 0 199 11 100"));
+    m_Strip.SetTransparent(false);
+    EXPECT_THAT(m_Host.Paint().Of("strip"), Not(Draws("AlphaBlend*")));
+}
+
+TEST_F(ElementCaption, AHelpTopicShowsTheButtonAndNoneHidesIt)
+{
+    m_Strip.SetHelpId("topic");
+    EXPECT_EQ(m_Strip.GetHelpId(), "topic");
+    EXPECT_TRUE(m_Strip.GetHelpButton().IsVisible());
+    m_Strip.SetHelpId("");
+    EXPECT_FALSE(m_Strip.GetHelpButton().IsVisible());
+}
+
+TEST_F(ElementCaption, TheHelpButtonAsksForTheTopic)
+{
+    CSignalLog log(m_Host.Control().m_SigHelp, "help");
+    m_Strip.SetHelpId("topic");
+    m_Host.Paint();
+    m_Host.Mouse().Click(m_Strip.GetHelpButton(), 8, 5);
+    EXPECT_EQ(log.Text(), "help(\"topic\")");
+    CElementCaption alone(nullptr, {0, 30}, alTop);
+    alone.OnHelpButtonClick(nullptr);
+}
+
+TEST_F(ElementCaption, TheStripMayBeDeletedByItsHelpButton)
+{
+    auto const end = Listen(m_Host.Control().m_SigHelp, [&](CBaseControl*, std::string const&) { delete &m_Strip; });
+    m_Strip.SetHelpId("topic");
+    m_Host.Paint();
+    m_Host.Mouse().Click(m_Strip.GetHelpButton(), 8, 5);
+    EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 0);
+}
+
+// Control captions --------------------------------------------------------------------------------------------------------
+
+namespace
+{
+
+// A strip at (0, 0, 199, 11): the arrow at (180, 0, 198, 11), the text before it. Below it another element.
+class ControlCaption : public testing::Test
+{
+protected:
+    ControlCaption() { m_Host.Paint(); }
+
+    CTestHost m_Host{200, 100};
+    CControlCaption& m_Strip = *new CControlCaption(m_Host.Root(), {0, 30}, alTop);
+    CVisualElement& m_Below = *new CVisualElement(m_Host.Root(), {0, 0}, alClient);
+};
+
+}  // namespace
+
+TEST_F(ControlCaption, TheArrowIsTheFirstChildFlatDrawnByUsAndWithoutFocus)
+{
+    CArrowButton const& arrow = m_Strip.GetArrow();
+    EXPECT_EQ(m_Strip.GetChildren()->GetItem(0), &arrow);
+    EXPECT_FALSE(arrow.IsDynamic());
+    EXPECT_FALSE(arrow.IsNativeDrawing());
+    EXPECT_EQ(arrow.GetStyle(), CButton::BorderFlat);
+    EXPECT_EQ(arrow.GetBkSysColor(), ISysPalette::scShadow);
+    EXPECT_EQ(arrow.GetFgSysColor(), ISysPalette::scFace);
+    EXPECT_FALSE(arrow.GetCanHaveFocus());
+    EXPECT_EQ(arrow.GetPos(), (Rect{180, 0, 198, 11}));
+}
+
+TEST_F(ControlCaption, PlaceAndDirectionOfTheArrowGoByTheEdge)
+{
+    struct SCase
+    {
+        Alignment edge;
+        Alignment arrow;
+        int type;
+    };
+    for (SCase const& each :
+         {SCase{alLeft, alTop, 2}, SCase{alRight, alTop, 0}, SCase{alTop, alRight, 1}, SCase{alBottom, alRight, 3}})
+    {
+        CControlCaption strip(m_Host.Root(), {20, 20}, each.edge);
+        EXPECT_EQ(strip.GetArrow().GetAlignment(), each.arrow) << each.edge;
+        EXPECT_EQ(strip.GetArrow().GetArrowType(), each.type) << each.edge;
+    }
+}
+
+TEST_F(ControlCaption, WhenItIsDockedElsewhereTheArrowGoesByTheEdgeBefore)
+{
+    m_Strip.SetAlignment(alLeft);
+    EXPECT_EQ(m_Strip.GetAlignment(), alLeft);
+    EXPECT_EQ(m_Strip.GetText().GetAlignment(), alLeft);
+    EXPECT_EQ(m_Strip.GetArrow().GetArrowType(), CArrowButton::ArrowTop);
+    m_Strip.SetAlignment(alBottom);
+    EXPECT_EQ(m_Strip.GetArrow().GetArrowType(), CArrowButton::ArrowRight);
+    m_Strip.Layout();
+    EXPECT_EQ(m_Strip.GetArrow().GetArrowType(), CArrowButton::ArrowBottom);
+    m_Strip.SetAlignment(alClient);
+    m_Strip.Layout();
+    EXPECT_EQ(m_Strip.GetArrow().GetArrowType(), CArrowButton::ArrowBottom);
+}
+
+TEST_F(ControlCaption, ALeftClickAnywhereOnTheStripTells)
+{
+    CSignalLog log(m_Strip.m_Clicked, "clicked");
+    m_Host.Mouse().Click(m_Strip.GetText(), 5, 5);
+    EXPECT_EQ(log.Take(), "clicked()");
+    m_Host.Mouse().Click(m_Strip.GetArrow(), 5, 5);
+    EXPECT_EQ(log.Take(), "clicked()");
+    m_Host.Mouse().Click(m_Strip, 1, 5);
+    EXPECT_EQ(log.Take(), "clicked()");
+    m_Host.Mouse().Click(m_Strip, 1, 5, mbRight);
+    EXPECT_EQ(log.Take(), "");
+}
+
+TEST_F(ControlCaption, TheStripLightsUpWhileThePointerIsOnIt)
+{
+    m_Host.Mouse().Move(m_Strip.GetText(), 5, 5);
+    EXPECT_TRUE(m_Strip.IsActive());
+    EXPECT_EQ(m_Strip.GetArrow().GetStyle(), CButton::BorderRaised);
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+    m_Host.Mouse().Move(m_Below, 5, 20);
+    EXPECT_FALSE(m_Strip.IsActive());
+    EXPECT_EQ(m_Strip.GetArrow().GetStyle(), CButton::BorderFlat);
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(ControlCaption, MovingBetweenItsChildrenDoesNotToggleTheLook)
+{
+    class CCounting : public CControlCaption
+    {
+    public:
+        using CControlCaption::CControlCaption;
+        void SetActive(bool active) override
+        {
+            m_Calls += active ? "+" : "-";
+            CControlCaption::SetActive(active);
+        }
+        std::string m_Calls;
+    };
+    CCounting strip(m_Host.Root(), {0, 20}, alTop);
+    m_Host.Paint();
+    m_Host.Mouse().Move(strip.GetText(), 5, 5);
+    m_Host.Mouse().Move(strip.GetArrow(), 5, 5);
+    m_Host.Mouse().Move(strip, 1, 5);
+    m_Host.Mouse().Move(strip.GetText(), 5, 5);
+    EXPECT_EQ(strip.m_Calls, "+");
+    m_Host.Mouse().Leave();
+    EXPECT_EQ(strip.m_Calls, "+-");
+}
+
+TEST_F(ControlCaption, TheStripMayBeDeletedInItsClick)
+{
+    auto const end = Listen(m_Strip.m_Clicked, [&](CControlCaption* strip) { delete strip; });
+    m_Host.Mouse().Click(m_Strip.GetArrow(), 5, 5);
+    EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 1);
+}
+
+// Caption buttons ---------------------------------------------------------------------------------------------------------
+
+namespace
+{
+
+class CaptionButton : public testing::Test
+{
+protected:
+    CaptionButton()
+    {
+        m_Host.Control().SetImageList(&m_Images);
+        NameElement(m_Button, "button");
+        m_Pane.SetBkColor(color_table[6]);
+        m_Button.SetNormalImage(0);
+        m_Host.Paint();
+        m_Images.Take();
+    }
+    ~CaptionButton() override
+    {
+        m_Host.Control().SetImageList(nullptr);
+        ShowBkImage(m_Host, false);
+    }
+
+    CTestImages m_Images{{{16, 16}, {8, 8}}};
+    CTestHost m_Host{60, 40};
+    CVisualElement& m_Pane = *new CVisualElement(m_Host.Root(), {0, 0}, alClient);
+    CCaptionButton& m_Button = *new CCaptionButton(&m_Pane, {14, 14}, alLeft);  // (0, 0, 16, 39)
+};
+
+}  // namespace
+
+TEST_F(CaptionButton, ItIsTransparentAndTakesNoFocus)
+{
+    EXPECT_TRUE(m_Button.IsTransparent());
+    EXPECT_FALSE(m_Button.GetCanHaveFocus());
+    EXPECT_EQ(m_Button.GetContentRect(), (Rect{0, 11, 15, 26}));
+}
+
+TEST_F(CaptionButton, UnderThePointerItsGroundIsWhiteWithALittleOfTheParent)
+{
+    m_Host.Mouse().Move(m_Button, 8, 18);
+    // 95 parts of 255 on the way from white to red: green and blue come out just below 160 in single precision.
+    EXPECT_THAT(m_Host.Paint().Of("button"), Draws("SetBrush #FF9F9F").Then("FillRect 0 11 15 26"));
+    EXPECT_EQ(m_Images.Take(), "draw 0 at 0 11");
+}
+
+TEST_F(CaptionButton, PressedItsGroundIsMoreOfTheParent)
+{
+    m_Button.SetPressedImage(1);
+    m_Host.Mouse().Press(m_Button, 8, 18);
+    EXPECT_THAT(m_Host.Paint().Of("button"), Draws("SetBrush #FF2727").Then("FillRect 0 11 15 26"));
+    EXPECT_EQ(m_Images.Take(), "draw 1 at 4 15");
+}
+
+TEST_F(CaptionButton, AtRestItHasNoGround)
+{
+    m_Button.Update(utElement);
+    EXPECT_EQ(m_Host.Paint().Of("button").Count("FillRect*"), 0);
+}
+
+TEST_F(CaptionButton, OverABackgroundPictureTheParentsColourIsBlended)
+{
+    ShowBkImage(m_Host, true);
+    m_Host.Mouse().Move(m_Button, 8, 18);
+    EXPECT_THAT(m_Host.Paint().Of("button"),
+                Draws("DrawRasterPictureEx*").Then("picture SetBrush red").Then("AlphaBlend 16x16 0 11 15 26 160"));
+}
+
+TEST_F(CaptionButton, WithoutAParentThereIsNoGround)
+{
+    CCaptionButton alone(nullptr, {14, 14}, alNone);
+    IPainter& painter = *m_Host.Window().GetPainter();
+    painter.SetBrush({color_table[4], brush::bsSolid});
+    alone.DrawBk(&painter, 40);
+    EXPECT_EQ(painter.GetBrush().color, color_table[4]);
+}
+
+TEST_F(CaptionButton, TheHelpButtonHasThreePicturesOfSixteenBySixteenWithSeeThroughCorners)
+{
+    CHelpButton help(&m_Pane, {14, 14}, alRight);
+    EXPECT_EQ(help.GetSize(), (Size{16, 16}));
+    for (CImageHolder const* const each :
+         {&help.GetNormalImage(), &help.GetHighlightedImage(), &help.GetPressedImage()})
+    {
+        EXPECT_EQ(each->GetSize(nullptr), (Size{16, 16}));
+        EXPECT_TRUE(each->m_Xpm.GetPixel(0, 0).m_None);
+        EXPECT_FALSE(each->m_Xpm.GetPixel(7, 7).m_None);
+    }
+}
