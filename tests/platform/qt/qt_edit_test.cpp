@@ -21,7 +21,6 @@ class QtEdit : public testing::Test
 protected:
     QtEdit()
     {
-        ParkPointer();
         m_Edit->SetPos(10, 20, 100, 24);
         m_Edit->SetVisible(true);
         m_Edit->SetFocus();
@@ -30,6 +29,7 @@ protected:
     }
     QLineEdit& Native() { return *FindNative<QLineEdit>(m_Hosted); }
 
+    bool const m_Parked = (ParkPointer(), true);  // before there is anything to enter
     CHosted m_Hosted{200, 200};
     CEditWords m_Words;
     vexel_ptr<IEdit> m_Edit = m_Hosted.Window().CreateEdit(false);
@@ -595,11 +595,7 @@ namespace
 class QtComboBox : public testing::Test
 {
 protected:
-    QtComboBox()
-    {
-        ParkPointer();
-        Use(true);
-    }
+    QtComboBox() { Use(true); }
     void Use(bool editable)
     {
         m_Box.reset();
@@ -616,6 +612,7 @@ protected:
     QComboBox& Native() { return *FindNative<QComboBox>(m_Hosted); }
     bool IsListShown() { return Native().view()->isVisible(); }
 
+    bool const m_Parked = (ParkPointer(), true);  // before there is anything to enter
     CHosted m_Hosted{200, 200};
     CEditWords m_Words;
     vexel_ptr<IComboBox> m_Box;

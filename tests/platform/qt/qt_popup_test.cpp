@@ -4,6 +4,7 @@
 
 #include <QLineEdit>
 #include <QPointer>
+#include <QWindow>
 
 namespace vexelbase::qt::test
 {
@@ -18,7 +19,6 @@ protected:
     {
         m_Hosted.Top().move(20, 30);
         Settle();
-        ParkPointer();
         m_Hosted.Window().SetFocus();
         m_Popup = m_Hosted.Window().CreatePopup();
         m_Inner = std::make_unique<CRecorder>(m_Popup->GetWindow());
@@ -26,6 +26,7 @@ protected:
     }
     QWidget* Widget() { return GetWidget(m_Popup->GetWindow()); }
 
+    bool const m_Parked = (ParkPointer(), true);  // before there is anything to enter
     CHosted m_Hosted{200, 200};
     vexel_ptr<IPopup> m_Popup;
     std::unique_ptr<CRecorder> m_Inner;
@@ -85,6 +86,15 @@ TEST_F(QtPopup, APressOutsideClosesItAndOneInsideDoesNot)
     EXPECT_FALSE(Widget()->isVisible());
     EXPECT_EQ(m_Popup->GetCloseCode(), 0);
     EXPECT_EQ(m_Inner->Take(), "nofocus hidden");
+    EXPECT_EQ(m_Hosted.Control().Take(), "nofocus focus");
+    Settle();
+    EXPECT_EQ(m_Hosted.Control().Take().substr(0, 17), "down(70,25,0x1,1)");  // what lies there gets it
+
+    // The press came by the native window, and so must its end.
+    QPointF const at(70, 25);
+    QMouseEvent released(QEvent::MouseButtonRelease, at, m_Hosted.Widget()->mapToGlobal(at), Qt::LeftButton,
+                         Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_Hosted.Top().windowHandle(), &released);
 }
 
 TEST_F(QtPopup, APressOutsideIsTheControlsWhileItHasTheCapture)

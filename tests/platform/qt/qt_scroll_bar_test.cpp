@@ -23,7 +23,6 @@ class QtScrollBar : public testing::Test
 protected:
     QtScrollBar()
     {
-        ParkPointer();
         m_Bar->SetPos(10, 0, 20, 180);
         m_Bar->SetVisible(true);
         SetRange(0, 200, 50);
@@ -65,6 +64,7 @@ protected:
         return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &bar);
     }
 
+    bool const m_Parked = (ParkPointer(), true);  // before there is anything to enter
     CHosted m_Hosted{200, 200};
     CScrollWords m_Words;
     vexel_ptr<IScrollBar> m_Bar = m_Hosted.Window().CreateScrollBar(ISysWindow::stVertical);

@@ -21,7 +21,10 @@ CQtWidget::CQtWidget(CQtWindow& window, QWidget* parent, Qt::WindowFlags flags)
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     if (isWindow())
+    {
         setAttribute(Qt::WA_QuitOnClose, flags == Qt::WindowFlags());
+        setAttribute(Qt::WA_NoMouseReplay);  // its window passes on what closes a popup
+    }
     if (parent && !isWindow())
     {
         FillParent();

@@ -24,6 +24,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 #include <array>
@@ -635,7 +636,7 @@ bool CQtWindow::HandleEvent(QEvent& event)
     return true;
 }
 
-// A press beside a popup closes it. Where another popup lies below, the press is that one's; Qt gives it to all others.
+// A press beside a popup closes it before it is told to what lies there. Not all platforms of Qt would do that.
 bool CQtWindow::PressOutside(QEvent& event)
 {
     auto const& press = static_cast<QMouseEvent&>(event);
@@ -644,16 +645,24 @@ bool CQtWindow::PressOutside(QEvent& event)
         return false;
     event.accept();
     QPointF const at = press.globalPosition();
-    QMouseEvent const same(press.type(), at, at, press.button(), press.buttons(), press.modifiers());
+    auto const again = [at, button = press.button(), buttons = press.buttons(),
+                        modifiers = press.modifiers()](QPointF const& place) {
+        return QMouseEvent(QEvent::MouseButtonPress, place, at, button, buttons, modifiers);
+    };
     m_OwnPopup->Close(0);
-    auto* const below = dynamic_cast<CQtWidget*>(QApplication::activePopupWidget());
-    if (!below)
+    if (auto* const below = dynamic_cast<CQtWidget*>(QApplication::activePopupWidget()))
+    {
+        QWidget* const child = below->childAt(below->mapFromGlobal(at).toPoint());
+        QWidget* const target = child ? child : below;
+        QMouseEvent passed = again(target->mapFromGlobal(at));
+        QCoreApplication::sendEvent(target, &passed);
         return true;
-    QPointF const inside = below->mapFromGlobal(at);
-    QWidget* const child = below->childAt(inside.toPoint());
-    QWidget* const target = child ? child : below;
-    QMouseEvent passed(same.type(), target->mapFromGlobal(at), at, same.button(), same.buttons(), same.modifiers());
-    QCoreApplication::sendEvent(target, &passed);
+    }
+    QWidget* const below = QApplication::activePopupWidget() ? nullptr : QApplication::widgetAt(at.toPoint());
+    QWidget const* const modal = QApplication::activeModalWidget();
+    QWindow* const native = below ? below->window()->windowHandle() : nullptr;
+    if (native && (!modal || modal == below->window()))
+        QCoreApplication::postEvent(native, again(native->mapFromGlobal(at)).clone());
     return true;
 }
 
