@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
 #include "vexel/platform/convert.h"
 #include "vexel/platform/system.h"
 
