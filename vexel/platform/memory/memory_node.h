@@ -36,6 +36,8 @@ public:
     CMemoryNode* Find(point<int> const& screen);
 
     virtual bool TakesFocus() const { return true; }  ///< By Tab and, for native controls, by a press.
+    /// False: Tab reaches it, if at all, by the tree of the window it stands in, which is also asked where Tab goes on to.
+    virtual bool IsTabStop() const { return true; }
     /// The window that it is, or stands in.
     virtual CMemoryWindow* GetWindowNode();
 

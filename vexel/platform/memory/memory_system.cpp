@@ -361,11 +361,14 @@ bool CMemorySystem::KeyDown(int virtualKey, CMemoryNode* otherwise, bool* passOn
         return false;
     std::weak_ptr<int> const life = target->GetNodeLife();
     CKeyboardEvent event(GetKeyState(), virtualKey);
-    bool const done = target->NodeKeyDown(event);
+    bool done = target->NodeKeyDown(event);
+    bool const walks = !done && virtualKey == vkTab && !(m_Keys & (ksControl | ksAlt)) && !life.expired();
+    if (walks && !target->IsTabStop() && target->GetWindowNode())
+        done = TabInTree(*target, event);
+    else if (walks)
+        TabFrom(target, !(m_Keys & ksShift));
     if (passOn)
         *passOn = event.m_PassOn;
-    if (!done && virtualKey == vkTab && !(m_Keys & (ksControl | ksAlt)) && !life.expired())
-        TabFrom(target, !(m_Keys & ksShift));
     SettlePointer();
     return done;
 }
@@ -408,11 +411,33 @@ void CMemorySystem::SetFocusNode(CMemoryNode* node)
     node->NodeFocus(true);
 }
 
+// The window takes the focus and the key for a control that stands in its tree. It is told of the focus only if it keeps
+// it, so that the tree goes on from the control's place.
+bool CMemorySystem::TabInTree(CMemoryNode& node, CKeyboardEvent& event)
+{
+    CMemoryWindow* const window = node.GetWindowNode();
+    std::weak_ptr<int> const life = window->GetNodeLife();
+    m_FocusWhenShown = nullptr;
+    m_Focus = window;
+    if (CMemoryNode* const old = std::exchange(m_ToldOfFocus, nullptr))
+        old->NodeFocus(false);
+    bool const done = !life.expired() && window->NodeKeyDown(event);
+    if (!life.expired() && !done)
+        TabFrom(window, !(m_Keys & ksShift));
+    if (!life.expired() && m_Focus == window && m_ToldOfFocus != window)
+    {
+        m_ToldOfFocus = window;
+        window->NodeFocus(true);
+    }
+    return done;
+}
+
 void CMemorySystem::TabFrom(CMemoryNode* node, bool forward)
 {
     std::vector<CMemoryNode*> stops;
     auto const collect = [&](auto const& self, CMemoryNode* candidate) -> void {
-        if (candidate == node || (candidate->TakesFocus() && candidate->IsNodeVisible() && candidate->IsNodeEnabled()))
+        if (candidate == node || (candidate->TakesFocus() && candidate->IsTabStop() && candidate->IsNodeVisible() &&
+                                  candidate->IsNodeEnabled()))
             stops.push_back(candidate);
         for (CMemoryNode* child : candidate->GetChildNodes())
             self(self, child);

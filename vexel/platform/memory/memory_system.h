@@ -87,6 +87,7 @@ public:
     void SetFocusNode(CMemoryNode* node);  ///< The old one is told first. Null: nobody has it.
     void FocusWhenShown(CMemoryNode* node) { m_FocusWhenShown = node; }  ///< Unless the focus is moved before.
     void TabFrom(CMemoryNode* node, bool forward);  ///< To the next node that takes the focus, in a ring.
+    bool TabInTree(CMemoryNode& node, CKeyboardEvent& event);
     void TabInto(CMemoryNode& node, bool forward);
     CMemoryNode* GetCaptureNode() const { return m_Capture; }
     void SetCaptureNode(CMemoryNode* node);

@@ -24,6 +24,8 @@ public:
     /// A hidden control gets the focus when it is shown, unless somebody else has taken it meanwhile.
     void WantFocus();
     void WantEnabled(bool enabled);
+    void WantTabStop(bool stop) { m_TabStop = stop; }
+    bool IsTabStop() const override { return m_TabStop; }
     void Place(int left, int top, int width, int height);
     static int GetCount();  ///< Living native controls of the process.
 
@@ -42,6 +44,7 @@ private:
     void ApplyVisible();
 
     bool m_WantedVisible = false;
+    bool m_TabStop = true;
 };
 
 /// A native control with the interface `Interface`: what ICustomControl asks, by the node.
@@ -58,6 +61,7 @@ public:
     bool IsVisible() const override { return IsWantedVisible(); }
     void SetFocus() override { WantFocus(); }
     void SetEnabled(bool enabled) override { WantEnabled(enabled); }
+    void SetTabStop(bool stop) override { WantTabStop(stop); }
 
     // From CMemoryNode --------------------------------------------------------------------------------------------
     void NodeFocus(bool has) override
