@@ -31,7 +31,10 @@ protected:
     }
 
     CVisualElement* Focused() { return m_Host.Control().GetControl()->GetFocusedElement(); }
-    bool EditHasFocus() { return CTestHost::System().GetFocusNode() == m_Host.Native<vexelbase::memory::CMemoryEdit>(); }
+    bool EditHasFocus()
+    {
+        return CTestHost::System().GetFocusNode() == m_Host.Native<vexelbase::memory::CMemoryEdit>();
+    }
     bool WindowHasFocus() { return CTestHost::System().GetFocusNode() == &m_Host.Window(); }
 
     CTestHost m_Host{200, 40};

@@ -71,32 +71,34 @@ void CContainer::UpdateControlPos()
         m_NeedShow = !control->IsVisible();
 }
 
-void CContainer::FitHeight()
+// False: there is no control, or its handlers deleted this element.
+bool CContainer::GetNaturalRect(rectangle<int>& rect)
 {
     vexel_ptr<ICustomControl> const control = m_NativeControl;
     if (!control)
-        return;
+        return false;
     CAliveGuard const alive(this);
     control->Refresh();
-    if (!alive)
+    rect = control->GetRect();
+    return alive.IsAlive();
+}
+
+void CContainer::FitHeight()
+{
+    rectangle<int> rect;
+    if (!GetNaturalRect(rect))
         return;
-    rectangle<int> const rect = control->GetRect();
-    SetHeight(SaturateToInt(std::int64_t{rect.bottom} + m_Offset.top - (std::int64_t{rect.top} + m_Offset.bottom)),
-              false);
+    std::int64_t const height = std::int64_t{rect.bottom} + m_Offset.top - (std::int64_t{rect.top} + m_Offset.bottom);
+    SetHeight(SaturateToInt(height), false);
 }
 
 void CContainer::FitWidth()
 {
-    vexel_ptr<ICustomControl> const control = m_NativeControl;
-    if (!control)
+    rectangle<int> rect;
+    if (!GetNaturalRect(rect))
         return;
-    CAliveGuard const alive(this);
-    control->Refresh();
-    if (!alive)
-        return;
-    rectangle<int> const rect = control->GetRect();
-    SetWidth(SaturateToInt(std::int64_t{rect.right} + m_Offset.left - (std::int64_t{rect.left} + m_Offset.right)),
-             false);
+    std::int64_t const width = std::int64_t{rect.right} + m_Offset.left - (std::int64_t{rect.left} + m_Offset.right);
+    SetWidth(SaturateToInt(width), false);
 }
 
 void CContainer::CheckVisible()

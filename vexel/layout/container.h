@@ -51,6 +51,7 @@ protected:
     virtual void FitControlPos(rectangle<int> const&) {}  ///< The control was placed there; control pixels.
 
 private:
+    bool GetNaturalRect(rectangle<int>& rect);
     void ControlFocusIn(ICustomControl*) { SetFocus(false); }
 
     bool m_ManualPositioning = false;
