@@ -1,16 +1,11 @@
 // The native focus of a window, and where Tab leads among it, its native controls and the rest of the program.
 
-#include "vexel/platform/qt/detail/in_qt.h"
 #include "vexel/platform/qt/detail/native_node.h"
-#include "vexel/platform/qt/detail/qt_popup.h"
 #include "vexel/platform/qt/detail/qt_widget.h"
 #include "vexel/platform/qt/detail/qt_window.h"
 
 #include <QApplication>
-#include <QFocusEvent>
 #include <QPointer>
-
-#include <utility>
 
 namespace vexelbase::qt
 {
