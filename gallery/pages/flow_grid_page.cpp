@@ -110,7 +110,11 @@ public:
     }
 
 private:
-    std::size_t IndexOf(int row, int column) const { return static_cast<std::size_t>(row * s_Columns + column); }
+    static std::size_t IndexOf(int row, int column)
+    {
+        int const index = row * s_Columns + column;
+        return static_cast<std::size_t>(index);
+    }
     int GetColumnCount() override { return s_Columns; }
     int GetRowCount() override { return static_cast<int>(m_Tiles.size()) / s_Columns; }
     size<int> GetItemSize(int row, int column) override { return m_Tiles[IndexOf(row, column)].extent; }

@@ -127,7 +127,10 @@ double GetImageAcross(SLabelMeasures const& m, int flags)
     else if ((flags & IPainter::AlignBottom) != 0)
         base = m.rectAcross - m.textAcross + m.originAcross;
     else if ((flags & IPainter::AlignVCenter) != 0)
-        base = ToInt(m.rectAcross - m.textAcross) / 2 + m.originAcross;
+    {
+        int const half = ToInt(m.rectAcross - m.textAcross) / 2;
+        base = half + m.originAcross;
+    }
     else
         return centered;
     return base + ToInt((m.lineHeight - m.imageAcross) * 0.5 + 0.5);

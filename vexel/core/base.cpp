@@ -1,5 +1,6 @@
 #include "vexel/core/base.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <new>
@@ -24,8 +25,7 @@ int s_Count = 0;
 
 void Remove(int index) noexcept
 {
-    for (int i = index; i + 1 < s_Count; ++i)
-        s_Pending[static_cast<std::size_t>(i)] = s_Pending[static_cast<std::size_t>(i + 1)];
+    std::move(s_Pending.begin() + index + 1, s_Pending.begin() + s_Count, s_Pending.begin() + index);
     --s_Count;
 }
 
