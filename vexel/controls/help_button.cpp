@@ -1,5 +1,9 @@
 #include "vexel/controls/help_button.h"
 
+#include <algorithm>
+#include <array>
+#include <iterator>
+
 namespace vexel
 {
 
@@ -34,10 +38,10 @@ char const* g_Normal[] = {
     "    oooooooo    ",
     "                "};
 
-char const* g_Highlighted[] = {
+char const* g_Flat[] = {
     "16 16 3 1",
     "  c None",
-    "o c #1B5FB8",
+    nullptr,  // the ground's colour
     "w c #FFFFFF",
     "                ",
     "    oooooooo    ",
@@ -56,34 +60,25 @@ char const* g_Highlighted[] = {
     "    oooooooo    ",
     "                "};
 
-char const* g_Pressed[] = {
-    "16 16 3 1",
-    "  c None",
-    "o c #103A74",
-    "w c #FFFFFF",
-    "                ",
-    "    oooooooo    ",
-    "   oooooooooo   ",
-    "  oooowwwwoooo  ",
-    " oooowwoowwoooo ",
-    " oooooooowwoooo ",
-    " ooooooowwooooo ",
-    " oooooowwoooooo ",
-    " oooooowwoooooo ",
-    " oooooooooooooo ",
-    " oooooowwoooooo ",
-    " oooooowwoooooo ",
-    "  oooooooooooo  ",
-    "   oooooooooo   ",
-    "    oooooooo    ",
-    "                "};
 // clang-format on
+
+using FlatLines = std::array<char const*, std::size(g_Flat)>;
+
+FlatLines InColor(char const* ground)
+{
+    FlatLines lines;
+    std::copy(std::begin(g_Flat), std::end(g_Flat), lines.begin());
+    lines[2] = ground;
+    return lines;
+}
 
 struct SHelpImages
 {
+    FlatLines highlightedLines = InColor("o c #1B5FB8");
+    FlatLines pressedLines = InColor("o c #103A74");
     XPMImage normal{XPMBuf(g_Normal, true)};
-    XPMImage highlighted{XPMBuf(g_Highlighted, true)};
-    XPMImage pressed{XPMBuf(g_Pressed, true)};
+    XPMImage highlighted{XPMBuf(highlightedLines.data(), true)};
+    XPMImage pressed{XPMBuf(pressedLines.data(), true)};
 
     SHelpImages()
     {

@@ -1,12 +1,12 @@
 #include "vexel/platform/runner.h"
 
+#include "tests/support/gate.h"
+
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <functional>
-#include <mutex>
 #include <stdexcept>
 #include <thread>
 #include <vector>
@@ -18,28 +18,6 @@ namespace
 {
 
 using namespace vexelbase;
-
-/// A gate that threads wait at until it is opened.
-class CGate
-{
-public:
-    void Open()
-    {
-        std::lock_guard const lock(m_Mutex);
-        m_Open = true;
-        m_Changed.notify_all();
-    }
-    void Wait()
-    {
-        std::unique_lock lock(m_Mutex);
-        m_Changed.wait(lock, [this] { return m_Open; });
-    }
-
-private:
-    std::mutex m_Mutex;
-    std::condition_variable m_Changed;
-    bool m_Open = false;
-};
 
 class CWork : public IRunnable
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/gate.h"
 #include "vexel/platform/threads.h"
 
 #include <chrono>
@@ -13,27 +14,7 @@
 namespace tasks_test
 {
 
-/// A gate that threads wait at until it is opened.
-class CGate
-{
-public:
-    void Open()
-    {
-        std::lock_guard const lock(m_Mutex);
-        m_Open = true;
-        m_Changed.notify_all();
-    }
-    void Wait()
-    {
-        std::unique_lock lock(m_Mutex);
-        m_Changed.wait(lock, [this] { return m_Open; });
-    }
-
-private:
-    std::mutex m_Mutex;
-    std::condition_variable m_Changed;
-    bool m_Open = false;
-};
+using vexel::test::CGate;
 
 /// A queue that any thread posts to, and that is run by the test.
 class CThreadQueue : public vexelbase::ISynchronizer
