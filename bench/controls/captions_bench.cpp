@@ -1,16 +1,15 @@
 // A thousand captions below each other, of which fifty are seen, beside a thousand QLabels in a layout: the width changes,
 // and what is seen is painted. Both paint through a widget's backing store on Qt's offscreen platform.
 
+#include "bench/application.h"
 #include "vexel/controls/caption.h"
 #include "vexel/core/base_control.h"
-#include "vexel/platform/qt/application.h"
 #include "vexel/platform/qt/host_window.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QBoxLayout>
-#include <QEvent>
 #include <QLabel>
 #include <QWidget>
 
@@ -21,33 +20,17 @@ namespace
 {
 
 using namespace vexel;
+using bench::Flush;
+using bench::StartApplication;
 
 constexpr int g_Count = 1000;
 constexpr int g_LineHeight = 20;
 constexpr int g_Width = 800;
 constexpr int g_Height = 1000;
 
-// Never destroyed: widgets may outlive main.
-void StartApplication()
-{
-    static int argc = 1;
-    static char name[] = "controls_bench";
-    static char* argv[] = {name, nullptr};
-    static auto* const application = new vexelbase::qt::CApplication(argc, argv);
-    benchmark::DoNotOptimize(application);
-}
-
 std::string Text(int number)
 {
     return "Caption number " + std::to_string(number) + ", which has a text of some words";
-}
-
-// What Qt has posted, and then what the top-level widget has to show.
-void Flush(QWidget& top)
-{
-    QCoreApplication::sendPostedEvents();
-    QEvent update(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&top, &update);
 }
 
 void ResizeCaptions(benchmark::State& state, bool wrapped)

@@ -1,10 +1,10 @@
 // Trees of many elements beside trees of many QWidgets, in one process: making, destroying, laying out and painting them.
 // Both paint through a widget's backing store on Qt's offscreen platform.
 
+#include "bench/application.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/visual_element.h"
 #include "vexel/platform/painter.h"
-#include "vexel/platform/qt/application.h"
 #include "vexel/platform/qt/host_window.h"
 #include "vexel/platform/sys_window.h"
 
@@ -12,7 +12,6 @@
 
 #include <QApplication>
 #include <QBoxLayout>
-#include <QEvent>
 #include <QPainter>
 #include <QWidget>
 
@@ -25,16 +24,8 @@ namespace
 {
 
 using namespace vexel;
-
-// One application for all; never destroyed, as widgets of static benchmarks may outlive main.
-void StartApplication()
-{
-    static int argc = 1;
-    static char name[] = "trees_bench";
-    static char* argv[] = {name, nullptr};
-    static auto* const application = new vexelbase::qt::CApplication(argc, argv);
-    benchmark::DoNotOptimize(application);
-}
+using bench::Flush;
+using bench::StartApplication;
 
 /// Comes before the first widget of what derives from it.
 struct SApplication
@@ -51,14 +42,6 @@ double HeapBytes()
 {
     struct mallinfo2 const info = mallinfo2();
     return static_cast<double>(info.uordblks) + static_cast<double>(info.hblkhd);
-}
-
-// What Qt has posted, and then what the top-level widget has to show.
-void Flush(QWidget& top)
-{
-    QCoreApplication::sendPostedEvents();
-    QEvent update(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&top, &update);
 }
 
 /// A vexel control that fills a shown widget.
