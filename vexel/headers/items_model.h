@@ -1,0 +1,30 @@
+#pragma once
+
+#include "vexel/export.h"
+#include "vexel/signals/signal.h"
+
+#include <string>
+
+namespace vexel
+{
+
+/// A row of items with captions.
+class VEXEL_API IItemsModel
+{
+public:
+    virtual ~IItemsModel();
+    virtual int GetItemCount() const = 0;
+    virtual std::string GetItemCaption(int index) const = 0;
+
+    signal_t<> m_SigChanged;  ///< The content is another.
+};
+
+/// Items with pictures.
+class VEXEL_API IItemsModelEx : public IItemsModel
+{
+public:
+    virtual int GetItemImageIndex(int index) const = 0;  ///< In the control's image list; -1: none.
+    virtual int GetItemTextAlign(int index) const = 0;   ///< Flags of IPainter::DrawString.
+};
+
+}  // namespace vexel
