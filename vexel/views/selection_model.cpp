@@ -1,6 +1,8 @@
 #include "vexel/views/selection_model.h"
 
 #include "vexel/headers/index_translator.h"
+#include "vexel/platform/convert.h"
+#include "vexel/platform/geometry.h"
 
 #include <algorithm>
 #include <cstdint>
