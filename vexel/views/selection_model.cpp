@@ -53,24 +53,27 @@ public:
     explicit CRunCollector(Selection& target) : m_Target(target) {}
     void Add(int index)
     {
-        if (m_Run && index == std::int64_t{m_Run->second} + 1)
+        if (!m_IsEmpty && index == std::int64_t{m_High} + 1)
         {
-            m_Run->second = index;
+            m_High = index;
             return;
         }
         Flush();
-        m_Run = range<int>{index, index};
+        m_IsEmpty = false;
+        m_Low = m_High = index;
     }
     void Flush()
     {
-        if (m_Run)
-            AddRun(m_Target, m_Run->first, m_Run->second);
-        m_Run.reset();
+        if (!m_IsEmpty)
+            AddRun(m_Target, m_Low, m_High);
+        m_IsEmpty = true;
     }
 
 private:
     Selection& m_Target;
-    std::optional<range<int>> m_Run;
+    bool m_IsEmpty = true;
+    int m_Low = 0;
+    int m_High = 0;
 };
 
 }  // namespace
