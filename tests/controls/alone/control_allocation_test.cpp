@@ -74,6 +74,18 @@ TEST(ControlAllocation, ACaptionThatIsTurnedWithItsSide)
     EXPECT_EQ(bench.AllocationsOfADrawing(caption), 0);
 }
 
+TEST(ControlAllocation, ACaptionWithLinks)
+{
+    SBench bench;
+    CCaption caption(nullptr, {0, 0}, alClient);
+    caption.UseHTML(true);
+    caption.SetTextAlign(IPainter::AlignLeft | IPainter::AlignTop);
+    caption.SetCaption("<a href=\"a\">short</a> and <a href=\"a target that no small buffer has room for\">long, over "
+                       "two lines</a> and <a href=\"another of those targets without end\"><b>bo</b>ld</a>");
+    EXPECT_EQ(bench.AllocationsOfADrawing(caption), 0);
+    EXPECT_TRUE(caption.HandleButtonDown(5, 4, 1, mbLeft));
+}
+
 TEST(ControlAllocation, ButtonsOfAllLooksAndStages)
 {
     EXPECT_EQ(AllocationsOfAButton([](CButton&) {}), 0);
