@@ -337,8 +337,17 @@ void CCaption::FollowShortening(bool shortened)
 
 void CCaption::OnDrawLink(char const* target, int length, rectangle<int> const& rect)
 {
-    if (!m_Links.IsValid())
-        m_Links.AddLink(target, length, rect);
+    if (m_Links.IsValid())
+        return;
+    m_LinkOrigin = {0, 0};
+    ElementToControl(&m_LinkOrigin);
+    m_Links.AddLink(target, length, rect);
+}
+
+// The picture may have been moved since it was drawn, and the links with it.
+point<int> CCaption::ToLinkPosition(int x, int y) const
+{
+    return {AddSaturated(x, m_LinkOrigin.x), AddSaturated(y, m_LinkOrigin.y)};
 }
 
 // Input -------------------------------------------------------------------------------------------------------------------
@@ -347,9 +356,7 @@ bool CCaption::HandleMouseMove(int x, int y, int keys, MouseButton)
 {
     if (keys != 0 || !m_UseHTML || m_Links.IsEmpty())
         return false;
-    point<int> position{x, y};
-    ElementToControl(&position);
-    SetCursor(m_Links.IsLink(position) ? 12 : 1);
+    SetCursor(m_Links.IsLink(ToLinkPosition(x, y)) ? 12 : 1);
     return true;
 }
 
@@ -357,9 +364,7 @@ bool CCaption::HandleButtonDown(int x, int y, int, MouseButton button)
 {
     if (button != mbLeft || !m_UseHTML || m_Links.IsEmpty())
         return false;
-    point<int> position{x, y};
-    ElementToControl(&position);
-    std::string const link = m_Links.GetLink(position);
+    std::string const link = m_Links.GetLink(ToLinkPosition(x, y));
     if (link.empty())
         return false;
 

@@ -36,7 +36,7 @@ public:
         }
     };
 
-    /// The links of the last drawing. Points and rectangles: control pixels; edges belong to a link.
+    /// The links of the last drawing. Points and rectangles: control pixels of that time; edges belong to a link.
     class VEXEL_API LinkHolder
     {
     public:
@@ -119,8 +119,10 @@ private:
     IImageList* GetImages() const;
     size<double> MeasureText(IPainter* painter, size<int> const& image, size<int> const& extra);
     void FollowShortening(bool shortened);
+    point<int> ToLinkPosition(int x, int y) const;
 
     LinkHolder m_Links;
+    point<int> m_LinkOrigin;  // where the caption's left-top was when the links were drawn; control pixels
     std::string m_Caption;
     int m_TextAlign = IPainter::AlignHCenter | IPainter::AlignVCenter;
     int m_ImageIndex = -1;
