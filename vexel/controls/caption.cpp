@@ -6,6 +6,8 @@
 #include "vexel/platform/sys_window.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace vexel
 {
@@ -53,17 +55,30 @@ private:
 
 void CCaption::LinkHolder::AddLink(char const* target, int length, rectangle<int> const& rect)
 {
-    m_Links.push_back(
-        {target ? std::string(target, static_cast<std::size_t>(std::max(length, 0))) : std::string(), rect});
+    if (m_Spare.empty())
+        m_Links.emplace_back();
+    else
+    {
+        m_Links.push_back(std::move(m_Spare.back()));
+        m_Spare.pop_back();
+    }
+    Link& link = m_Links.back();
+    link.target.assign(target ? target : "", target ? static_cast<std::size_t>(std::max(length, 0)) : 0);
+    link.rect = rect;
 }
 
 void CCaption::LinkHolder::SetValid(bool valid)
 {
     m_Valid = valid;
     if (valid)
+    {
         std::sort(m_Links.begin(), m_Links.end(), SLinkComparer());
-    else
-        m_Links.clear();
+        m_Spare.clear();
+        return;
+    }
+    // In the order in which they are taken, which is the text's, each comes back to its own string.
+    m_Spare.insert(m_Spare.end(), std::move_iterator(m_Links.begin()), std::move_iterator(m_Links.end()));
+    m_Links.clear();
 }
 
 bool CCaption::LinkHolder::IsLink(point<int> const& position) const

@@ -52,6 +52,7 @@ public:
     private:
         std::vector<Link> m_Links;
         bool m_Valid = false;
+        std::vector<Link> m_Spare;  // of the drawing before, so that the next one need not allocate
     };
 
     CCaption(CVisualElement* parent, size<int> const& extent, Alignment alignment);
