@@ -186,6 +186,23 @@ TEST_F(Bevel, AFrameInAnotherColourThanBeforeTakesThat)
     EXPECT_EQ(PixelAt(0, 10), 0xF0F0F0u);
 }
 
+TEST_F(Bevel, AClosedFrameFillsItsInsideInTheColourOfTheElement)
+{
+    class CBare : public CBevel
+    {
+    public:
+        using CBevel::CBevel;
+        void DrawBackground(IPainter*) override {}
+    };
+    CBare bare(m_Host.Root(), {0, 0}, alClient);  // (0, 31, 59, 39)
+    bare.SetBkColor(color_table[3]);
+    m_Host.Paint();
+    EXPECT_NE(PixelAt(20, 35), 0x00FFFFu);
+    bare.SetShape(CBevel::ShapeBox);
+    m_Host.Paint();
+    EXPECT_EQ(PixelAt(20, 35), 0x00FFFFu);
+}
+
 TEST_F(Bevel, TheShapeIsHandedOn)
 {
     m_Bevel.SetStyle(CBevel::BorderFlat);
@@ -228,6 +245,7 @@ TEST_F(Bevel, ABorderPutsTheClipBack)
     EXPECT_TRUE(painter.GetClipRect().IsZero());
 
     painter.SimpleSetClipRect({1, 1, 10, 10}, false);
+    painter.m_ClipCache = {1, 1, 10, 10};
     border.DrawContent(&painter);
     EXPECT_EQ(painter.GetClipRect(), (rectangle<double>{1, 1, 10, 10}));
     EXPECT_TRUE(painter.m_ClipCache.IsZero());

@@ -3,6 +3,7 @@
 #include "tests/support/slot.h"
 #include "vexel/controls/caption.h"
 #include "vexel/core/base_control.h"
+#include "vexel/signals/cancel_processing.h"
 #include "vexel/testing/test_kit.h"
 
 #include <gtest/gtest.h>
@@ -165,6 +166,22 @@ TEST_F(CaptionLinks, TheTextMayBeReplacedInTheClick)
     Show("<a href=\"there\">on</a>");
     m_Host.Mouse().Click(m_Caption, 5, 4);
     EXPECT_EQ(m_Log.Text(), "link(\"there\", false) still there");
+}
+
+TEST_F(CaptionLinks, WithoutMarkupTheLinksOfTheLastDrawingAreNoMore)
+{
+    Show("<a href=\"there\">on</a>");
+    m_Caption.UseHTML(false);
+    EXPECT_FALSE(m_Caption.HandleMouseMove(5, 4, 0, mbNone));
+    EXPECT_FALSE(m_Caption.HandleButtonDown(5, 4, 1, mbLeft));
+    EXPECT_EQ(m_Caption.GetCursor(), 1);
+}
+
+TEST_F(CaptionLinks, TheEventEndsWithTheCaption)
+{
+    Show("<a href=\"there\">on</a>");
+    auto const end = Listen(m_Caption.m_LinkClicked, [&](std::string const&, bool&) { delete &m_Caption; });
+    EXPECT_THROW(m_Caption.HandleButtonDown(5, 4, 1, mbLeft), vexel::cancel_processing);
 }
 
 TEST_F(CaptionLinks, TheControlMayBeDeletedByTheClickOnALink)

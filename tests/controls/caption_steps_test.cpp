@@ -401,6 +401,24 @@ TEST_F(CaptionSteps, ATurnedTextHasItsWidthAlongTheEdge)
     EXPECT_EQ(m_Caption.GetSize(), (Size{26, 46}));
 }
 
+TEST_F(CaptionSteps, AtTheTopATextThatTurnsWithTheEdgeIsAsWideAsItIs)
+{
+    m_Caption.SetTextLayout(true);
+    m_Caption.SetCaption("abc");
+    m_Caption.SetAutoSize(true);
+    EXPECT_EQ(m_Caption.GetSize(), (Size{26, 10}));
+}
+
+TEST_F(CaptionSteps, InAPaintNoOtherBracketIsOpenedForMeasuring)
+{
+    m_Caption.SetAutoSize(true);
+    auto const measure = Listen(m_Parent.m_SigDraw, [&](CVisualElement*, IPainter*) { m_Caption.SetCaption("abc"); });
+    m_Parent.Update(utElement);
+    PaintLog const log = m_Host.Paint();
+    EXPECT_EQ(m_Caption.GetSize(), (Size{26, 10}));
+    EXPECT_EQ(log.Count("BeginPaint 3"), 0);
+}
+
 TEST_F(CaptionSteps, WithTheHeightAdjustedEveryWordStandsAloneWhereThereIsNoRoomAtAll)
 {
     CAnswering free(&m_Parent, {100, 20}, alNone);

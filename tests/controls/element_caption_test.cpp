@@ -14,6 +14,10 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+#include <utility>
+
 using namespace vexel;
 using namespace vexel::test;
 using testing::Not;
@@ -324,6 +328,26 @@ TEST_F(ElementCaption, TheControlMayBeDeletedByTheHelpThatIsAskedFor)
     EXPECT_FALSE(m_Host.HasControl());
 }
 
+TEST_F(ElementCaption, TheTopicOutlivesAStripThatIsDeletedByTheHelp)
+{
+    std::string heard;
+    auto const end = Listen(m_Host.Control().m_SigHelp, [&](CBaseControl*, std::string const&) { delete &m_Strip; });
+    auto const late =
+        Listen(m_Host.Control().m_SigHelp, [&](CBaseControl*, std::string const& topic) { heard = topic; });
+    m_Strip.SetHelpId("a topic that is longer than any small buffer");
+    m_Host.Paint();
+    m_Host.Mouse().Click(m_Strip.GetHelpButton(), 8, 5);
+    EXPECT_EQ(heard, "a topic that is longer than any small buffer");
+}
+
+TEST_F(ElementCaption, ItsPartsAreMadeForTheRightAndTheLeft)
+{
+    CElementCaption none(nullptr, {20, 20}, alNone);
+    EXPECT_EQ(none.GetHelpButton().GetAlignment(), alRight);
+    EXPECT_EQ(none.GetText().GetAlignment(), alLeft);
+    EXPECT_EQ(none.GetText().GetAlong(1, 2), 2) << "so its text runs downward";
+}
+
 TEST_F(ElementCaption, TheStripMayBeDeletedAsItsHelpButtonShows)
 {
     auto const end = Listen(m_Strip.GetHelpButton().m_SigVisible, [&](CVisualElement*, bool) { delete &m_Strip; });
@@ -616,4 +640,22 @@ TEST_F(CaptionButton, TheHelpButtonHasThreePicturesOfSixteenBySixteenWithSeeThro
         EXPECT_TRUE(each->m_Xpm.GetPixel(0, 0).m_None);
         EXPECT_FALSE(each->m_Xpm.GetPixel(7, 7).m_None);
     }
+}
+
+TEST_F(CaptionButton, TheHelpButtonsPicturesHaveSevenThreeAndThreeColoursWithTheTransparentOne)
+{
+    CHelpButton help(&m_Pane, {14, 14}, alRight);
+    auto const count = [](CImageHolder const& image) {
+        std::set<std::pair<unsigned, bool>> colors;
+        for (int y = 0; y < 16; ++y)
+            for (int x = 0; x < 16; ++x)
+            {
+                _color const color = image.m_Xpm.GetPixel(x, y);
+                colors.insert({color.m_None ? 0 : color.m_Value, color.m_None});
+            }
+        return colors.size();
+    };
+    EXPECT_EQ(count(help.GetNormalImage()), 7u);
+    EXPECT_EQ(count(help.GetHighlightedImage()), 3u);
+    EXPECT_EQ(count(help.GetPressedImage()), 3u);
 }

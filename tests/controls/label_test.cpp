@@ -313,6 +313,31 @@ TEST_F(TurnedLabel, AFontThatRunsDownwardAlreadyBecomesUpright)
     EXPECT_EQ(Painter().GetFont().rotation, 2700);
 }
 
+TEST_F(TurnedLabel, AtTheSidesMeasuringKeepsBackTheImageAloneForTheFlagIsLost)
+{
+    Painter().m_TextShortened = true;
+    EXPECT_EQ(Draw("abc", g_Left | g_VCenter | IPainter::AlignMeasureOnly), (Rect{13, 20, 24, 44}));
+    EXPECT_EQ(m_Images.Take(), "");
+    EXPECT_FALSE(Painter().m_TextShortened) << "the text was really drawn";
+}
+
+TEST_F(TurnedLabel, AHitTestPaintsNoTextEither)
+{
+    Painter().m_TextShortened = true;
+    EXPECT_EQ(HitTest(20, 30, "abc", g_Left | g_VCenter), 2);
+    EXPECT_TRUE(Painter().m_TextShortened);
+}
+
+TEST_F(TurnedLabel, TheHeightOfALineIsItsExtentAcrossNotItsWidth)
+{
+    font bold = Painter().GetFont();
+    bold.style = font::fsBold;  // "W" is 9 wide
+    Painter().SetFont(bold);
+    m_Rect = {0, 0, 17, 100};  // two lines are 16
+    Draw("abc", g_Left | g_Top);
+    EXPECT_EQ(m_Images.Take(), "draw 0 at -3 0");
+}
+
 // Odd cases -----------------------------------------------------------------------------------------------------------------
 
 TEST_F(Label, ATextHigherThanItsPlaceTakesTheImageAlong)

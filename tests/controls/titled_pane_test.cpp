@@ -149,6 +149,17 @@ TEST_F(TitledPane, AnyButtonOnItsInactiveTitleFocusesTheFirstElementInside)
     EXPECT_EQ(m_Host.Control().GetControl()->GetFocusedElement(), m_One);
 }
 
+TEST_F(TitledPane, AClickOnItsTitleTakesTheNativeFocusToo)
+{
+    m_Host.Unfocus();
+    ASSERT_FALSE(m_Host.Window().HasFocus());
+
+    m_Pane->GetTitle().m_SigButtonDown(&m_Pane->GetTitle(), 60, 5, 1, mbLeft);
+
+    EXPECT_TRUE(m_Host.Window().HasFocus());
+    EXPECT_EQ(m_Host.Control().GetControl()->GetFocusedElement(), m_One);
+}
+
 TEST_F(TitledPane, TheColourOfItsTitleAloneDecidesWhatAClickDoes)
 {
     m_Pane->GetTitle().SetBkColor(ISysPalette::scHighlight);

@@ -86,6 +86,23 @@ TEST(ControlAllocation, ACaptionWithLinks)
     EXPECT_TRUE(caption.HandleButtonDown(5, 4, 1, mbLeft));
 }
 
+TEST(ControlAllocation, LinksThatAreNotDrawnAgainAreFreed)
+{
+    CCaption::LinkHolder holder;
+    std::string const target(100, 't');
+    auto const draw = [&](int links) {
+        holder.SetValid(false);
+        for (int i = 0; i < links; ++i)
+            holder.AddLink(target.data(), 100, {i, 0, i, 8});
+        holder.SetValid(true);
+    };
+    draw(3);
+    draw(3);
+    long const before = SAllocations::s_Alive;
+    draw(1);
+    EXPECT_EQ(SAllocations::s_Alive, before - 2);
+}
+
 TEST(ControlAllocation, ButtonsOfAllLooksAndStages)
 {
     EXPECT_EQ(AllocationsOfAButton([](CButton&) {}), 0);
