@@ -308,6 +308,20 @@ TEST_F(CaptionLinks, ALinkIsFoundWhereItsCaptionWasMovedTo)
     EXPECT_TRUE(free.HandleButtonDown(5, 4, 1, mbLeft));
 }
 
+TEST_F(CaptionLinks, EachStyleOfALinkThatReadsUpwardHasItsTarget)
+{
+    font upward;
+    upward.size = 8;  // a font without a size is the default one, upright
+    upward.rotation = 900;
+    m_Caption.SetFont(upward);
+    Show("go <a href=\"there\">aa<b>bb</b></a>");  // the second line, x 9 to 16: "aa" at y 18 to 33, "bb" above
+    m_Caption.HandleButtonDown(12, 5, 1, mbLeft);
+    m_Caption.HandleButtonDown(12, 25, 1, mbLeft);
+    EXPECT_EQ(m_Log.Text(), "link(\"there\", false) help(\"there\") link(\"there\", false) help(\"there\")");
+    EXPECT_FALSE(m_Caption.HandleButtonDown(5, 5, 1, mbLeft)) << "beside the first line";
+    EXPECT_FALSE(m_Caption.HandleButtonDown(12, 34, 1, mbLeft));
+}
+
 // Turned text ---------------------------------------------------------------------------------------------------------------
 
 namespace
