@@ -174,6 +174,10 @@ void CGridViewer<RowModel, ColumnModel>::DrawColumn(IPainter* painter, int colum
 template <class RowModel, class ColumnModel>
 void CGridViewer<RowModel, ColumnModel>::DrawColumnEmptyArea(IPainter* painter, rectangle<double> const& rect)
 {
+    // In a row that is clean it stands on the screen already, unless the columns have moved.
+    if (m_PaintRowDirty == IDirtyItemSet::dirtyOther &&
+        m_ColumnViewModel->GetItemType(0) == IDirtyItemSet::dirtyNone && !painter->IsFullPaint())
+        return;
     painter->SetBrush({this->GetBkColor(), brush::bsSolid});
     painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
 }

@@ -237,8 +237,12 @@ template <class Model> void CRowViewerBase<Model>::ProcessSetParentVisible(bool)
     m_RowViewModel->AddDirtyItems(0, m_RowViewModel->GetCount());
 }
 
+// While only the selection has changed, what lies behind the last row stands on the screen already.
 template <class Model> void CRowViewerBase<Model>::DrawRowEmptyArea(IPainter* painter, rectangle<double> const& rect)
 {
+    if (m_RowViewModel->GetItemType(0) == IDirtyItemSet::dirtyNone &&
+        m_RowSelectionModel->GetItemType(0) != IDirtyItemSet::dirtyNone && !painter->IsFullPaint())
+        return;
     painter->SetBrush({GetBkColor(), brush::bsSolid});
     painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
 }

@@ -11,6 +11,7 @@
 #include "vexel/platform/qt/detail/qt_widget.h"
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QEnterEvent>
@@ -20,6 +21,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPointer>
 #include <QTimer>
@@ -29,6 +31,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 #include <utility>
 #include <vector>
 
@@ -286,6 +289,8 @@ void CQtWindow::Show(QRegion const& region)
         return;
     }
 
+    if (m_Flash.isEmpty() && CopyToStore(region, image, painter))
+        return;
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     if (ratio != 1.0)
         painter.scale(1.0 / ratio, 1.0 / ratio);
@@ -311,6 +316,44 @@ void CQtWindow::Show(QRegion const& region)
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     for (QRect const& rect : region.intersected(m_Flash))
         painter.fillRect(rect, QColor(255, 120, 0, 110));
+}
+
+// Straight into the pixels behind the top-level widget, where these can be had: QPainter would share large areas out to
+// threads, which takes longer than the copying. False: nothing was done.
+bool CQtWindow::CopyToStore(QRegion const& region, QImage const& image, QPainter const& painter)
+{
+    QBackingStore const* const store = m_Widget->backingStore();
+    QPaintDevice* const device = store ? const_cast<QBackingStore*>(store)->paintDevice() : nullptr;
+    // The painter may draw elsewhere: into a picture of the widget.
+    if (!device || device->devType() != QInternal::Image || painter.paintEngine()->paintDevice() != device)
+        return false;
+    auto* const target = static_cast<QImage*>(device);
+    QTransform const transform = painter.deviceTransform();
+    if (target->format() != QImage::Format_RGB32 || transform.type() > QTransform::TxScale ||
+        transform.m11() != m_Ratio || transform.m22() != m_Ratio)
+        return false;
+    int const dx = ToInt(std::round(transform.dx()));
+    int const dy = ToInt(std::round(transform.dy()));
+    auto const copy = [&](QRect const& rect) {
+        rectangle<int> area{FloorToInt(rect.left() * m_Ratio), FloorToInt(rect.top() * m_Ratio),
+                            CeilToInt((rect.left() + rect.width()) * m_Ratio),
+                            CeilToInt((rect.top() + rect.height()) * m_Ratio)};
+        area.Intersect({std::max(0, -dx), std::max(0, -dy), target->width() - dx, target->height() - dy});
+        if (area.IsEmpty() || area.right > image.width() || area.bottom > image.height())
+            return area.IsEmpty();
+        std::size_t const bytes = static_cast<std::size_t>(area.Width()) * 4;
+        uchar* to = target->bits() + std::ptrdiff_t{area.top + dy} * target->bytesPerLine() +
+                    std::ptrdiff_t{area.left + dx} * 4;
+        uchar const* from = image.constScanLine(area.top) + std::ptrdiff_t{area.left} * 4;
+        for (int y = area.top; y < area.bottom; ++y)
+        {
+            std::memcpy(to, from, bytes);
+            to += target->bytesPerLine();
+            from += image.bytesPerLine();
+        }
+        return true;
+    };
+    return std::all_of(region.begin(), region.end(), copy);
 }
 
 void CQtWindow::WakeQueue()

@@ -10,6 +10,8 @@
 #include <vector>
 
 class QEvent;
+class QImage;
+class QPainter;
 class QWidget;
 
 namespace vexelbase::qt
@@ -111,6 +113,7 @@ private:
     bool PressOutside(QEvent& event);
     size<int> GetWantedSize() const;
 
+    bool CopyToStore(QRegion const& region, QImage const& image, QPainter const& painter);
     void FlashRepaint(QRegion const& region);
 
     static bool s_ShowRepaints;
