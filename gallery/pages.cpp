@@ -14,6 +14,7 @@
 #include "gallery/pages/grid_page.h"
 #include "gallery/pages/html_text_page.h"
 #include "gallery/pages/input_log_page.h"
+#include "gallery/pages/lists_page.h"
 #include "gallery/pages/native_controls_page.h"
 #include "gallery/pages/overlap_page.h"
 #include "gallery/pages/painter_page.h"
@@ -21,6 +22,8 @@
 #include "gallery/pages/partial_repaint_page.h"
 #include "gallery/pages/parts_page.h"
 #include "gallery/pages/pictures_page.h"
+#include "gallery/pages/scrolling_page.h"
+#include "gallery/pages/selection_page.h"
 #include "gallery/pages/strips_page.h"
 #include "gallery/pages/tooltip_page.h"
 
@@ -75,6 +78,12 @@ SPage const g_Pages[] = {
     {"buttons", "Buttons", "Press them by mouse, space or return; one repeats while it is held.", &Make<CButtonsPage>},
     {"pictures", "Picture buttons and images", "Buttons that are an image for each state; images, one of them moving.",
      &Make<CPicturesPage>},
+    {"scrolling", "Scrolling", "Drag the bars, turn the wheel, hold the arrows of the scroller.",
+     &Make<CScrollingPage>},
+    {"lists", "Lists", "None of them keeps anything for a row. Scroll to the end by the bar or the End key.",
+     &Make<CListsPage>},
+    {"selection", "Selection", "Click, Shift and Control, Control+A, Space; drag past the edge.",
+     &Make<CSelectionPage>},
     {"grid", "A grid of two billion rows",
      "Scroll, click, shift-click, drag past the edge; resize, drag and click the sections of the header.",
      &Make<CGridPage>},

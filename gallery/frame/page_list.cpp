@@ -1,6 +1,5 @@
 #include "gallery/frame/page_list.h"
 
-#include "gallery/frame/panel.h"
 #include "vexel/core/dpi.h"
 #include "vexel/platform/convert.h"
 #include "vexel/platform/painter.h"
@@ -10,114 +9,84 @@
 namespace gallery
 {
 
-CPageList::CPageList(CVisualElement* parent, size<int> const& extent, Alignment alignment,
-                     std::vector<std::string> titles)
-    : CVisualElement(parent, extent, alignment), m_Titles(std::move(titles))
+CPageList::CRows::CRows(CVisualElement* parent, std::vector<std::string> const& titles)
+    : CRowViewer(parent, {0, 0}, alClient), m_Titles(titles)
 {
-    SetCanHaveFocus(true);
-    SetBkColor(ISysPalette::scWindow);
-    SetFgColor(ISysPalette::scWindowText);
+    AttributeChanged();  // with the own height
+    GetRowViewModel()->SetCount(static_cast<int>(titles.size()));
 }
 
-void CPageList::SetCurrent(int index)
-{
-    index = std::clamp(index, 0, std::max(0, static_cast<int>(m_Titles.size()) - 1));
-    if (index == m_Current)
-        return;
-    m_Current = index;
-    Update(utElement);
-    m_SigChosen(this, index);
-}
-
-int CPageList::GetRowHeight() const
+int CPageList::CRows::CalculateDefaultRowHeight() const
 {
     int height = 28;
     ApplyDPIScale(height);
     return height;
 }
 
-int CPageList::GetRowAt(int y) const
-{
-    int const row = y / GetRowHeight();
-    return y >= 0 && row < static_cast<int>(m_Titles.size()) ? row : -1;
-}
-
-void CPageList::SetHot(int row)
+void CPageList::CRows::SetHot(int row)
 {
     if (row == m_Hot)
         return;
+    GetRowViewModel()->AddDirtyItems(m_Hot, m_Hot);
+    GetRowViewModel()->AddDirtyItems(row, row);
     m_Hot = row;
     Update(utElement);
 }
 
-void CPageList::DrawContent(IPainter* painter)
+void CPageList::CRows::DrawRow(IPainter* painter, int row, int, int state, rectangle<double> const& rect,
+                               IDirtyItemSet::DirtyType dirty)
 {
-    rectangle<double> const rect = ToDouble(GetBounds());
-    painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
+    if (dirty == IDirtyItemSet::dirtyOther)
+        return;
+    bool const current = (state & isCurrent) != 0;
     ISysPalette* const palette = GetSysPalette();
+    _color ground = GetBkColor();
+    if (current || row == m_Hot)
+        ground = palette->GetColor(current ? ISysPalette::scHighlight : ISysPalette::scFace);
+    painter->SetBrush({ground, brush::bsSolid});
+    painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
+    painter->SetTextColor(current ? palette->GetColor(ISysPalette::scHighlightText) : GetFgColor());
     double const indent = ToInt(12 * painter->GetDPIScale());
-    for (int i = 0; i < static_cast<int>(m_Titles.size()); ++i)
-    {
-        rectangle<double> row{rect.left, static_cast<double>(i * GetRowHeight()), rect.right,
-                              static_cast<double>((i + 1) * GetRowHeight() - 1)};
-        if (i == m_Current || i == m_Hot)
-        {
-            brush fill;
-            fill.color = palette->GetColor(i == m_Current ? ISysPalette::scHighlight : ISysPalette::scFace);
-            painter->SetBrush(fill);
-            painter->FillRect(row.left, row.top, row.right, row.bottom);
-        }
-        painter->SetTextColor(i == m_Current ? palette->GetColor(ISysPalette::scHighlightText) : GetFgColor());
-        row.left += indent;
-        painter->DrawString(row, m_Titles[static_cast<std::size_t>(i)],
-                            IPainter::AlignLeft | IPainter::AlignVCenter | IPainter::AlignFitText, -1);
-    }
-    pen line;
-    line.color = palette->GetColor(ISysPalette::scShadow);
-    painter->SetPen(line);
-    painter->MoveTo(rect.right, rect.top);
-    painter->LineTo(rect.right, rect.bottom);
+    painter->DrawString({rect.left + indent, rect.top, rect.right, rect.bottom},
+                        m_Titles[static_cast<std::size_t>(row)],
+                        IPainter::AlignLeft | IPainter::AlignVCenter | IPainter::AlignFitText, -1);
 }
 
-bool CPageList::HandleButtonDown(int, int y, int, MouseButton button)
+CPageList::CPageList(CVisualElement* parent, size<int> const& extent, Alignment alignment,
+                     std::vector<std::string> titles)
+    : CScrollBox(parent, extent, alignment), m_Titles(std::move(titles)), m_Rows(this, m_Titles)
 {
-    int const row = GetRowAt(y);
-    if (button != mbLeft || row < 0)
-        return false;
-    SetCurrent(row);
-    return true;
+    m_Rows.SetDynamic(false);
+    m_Rows.SetSelectionType(CEventHandlerBase::stOneItem);
+    m_Rows.AddEventHandler(this);
+    ConnectElement(&m_Rows, ctVertical, true);
+    m_Rows.GetRowSelectionModel()->SetCurrent(0);
+    m_Rows.GetRowSelectionModel()->m_SigCurrentChanged.connect(this, &CPageList::CurrentChanged);
 }
 
-bool CPageList::HandleMouseMove(int, int y, int, MouseButton)
+void CPageList::SetCurrent(int index)
 {
-    SetHot(GetRowAt(y));
-    return true;
+    CDiscreteItemEventHandler& handler = m_Rows.GetRowHandler();
+    CAliveGuard const alive(this);
+    handler.SetCurrentItem(std::clamp(index, 0, std::max(0, static_cast<int>(m_Titles.size()) - 1)));
+    if (alive)
+        handler.MakeCurrentVisible(false);
 }
 
-void CPageList::HandleMouseLeave(CVisualElement*)
+void CPageList::CurrentChanged(int, int now)
 {
-    SetHot(-1);
+    m_SigChosen(this, now);
 }
 
-bool CPageList::HandleKeyDown(int, int key)
+bool CPageList::ProcessMouseMove(int, int y, int, MouseButton, bool*)
 {
-    switch (key)
-    {
-    case vkUp:
-        SetCurrent(m_Current - 1);
-        return true;
-    case vkDown:
-        SetCurrent(m_Current + 1);
-        return true;
-    case vkHome:
-        SetCurrent(0);
-        return true;
-    case vkEnd:
-        SetCurrent(static_cast<int>(m_Titles.size()) - 1);
-        return true;
-    default:
-        return false;
-    }
+    m_Rows.SetHot(m_Rows.GetRowHandler().GetItemIndex(0, y));
+    return false;
+}
+
+void CPageList::ProcessMouseLeave(bool*)
+{
+    m_Rows.SetHot(-1);
 }
 
 }  // namespace gallery

@@ -34,7 +34,7 @@ void CGridPage::Build(CVisualElement* parent)
         long long const first = down ? static_cast<long long>(s_Rows) - row : row + 1LL;
         text = std::to_string(number == 0 ? first : first * 1000 + number);
     });
-    m_Grid->SetHighlight("77");
+    m_Grid->SetHighlight("17");
     m_Grid->GetRowViewModel()->SetCount(s_Rows);
     IDiscreteItemViewModel* const columns = m_Grid->GetColumnViewModel();
     columns->SetDefaultItemSize(static_cast<int>(110 * GetSystemScale()));
