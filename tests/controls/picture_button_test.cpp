@@ -461,6 +461,10 @@ TEST_F(PictureButton, TheDerivedImageTakesTheSourceThatIsShown)
     EXPECT_EQ(byIndex.m_Picture, nullptr);
     EXPECT_EQ(byIndex.m_Xpm.GetWidth(), 0);
 
+    CImageHolder const byPicture = m_Button.BuidDisabledImage(nullptr);
+    EXPECT_EQ(byPicture.m_Picture, image.m_Picture);
+    EXPECT_EQ(byPicture.m_Index, -1);
+
     image.m_Index = -3;
     m_Button.SetNormalImage(image);
     EXPECT_EQ(m_Button.BuidDisabledImage(&m_Images).m_Picture, image.m_Picture);

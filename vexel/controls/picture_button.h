@@ -58,7 +58,8 @@ public:
     void SetPressedImage(XPMImage const& image) { SetPressedImage(ImageInfo(image)); }
 
     ImageInfo GetDisabledImage();  ///< The one that was set, else one made from the normal image.
-    /// From an index its disabled form, the picture itself, or the XPM image in shades of the face.
+    /// Of the source that the normal image has with this list: from an index its disabled form, the picture itself, or
+    /// the XPM image in shades of the face.
     ImageInfo BuidDisabledImage(IImageList* list);
     void DrawImage(IPainter* painter, ImageInfo const& image);  ///< In the middle. Nothing without a painter.
 
