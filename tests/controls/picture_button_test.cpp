@@ -514,3 +514,55 @@ TEST_F(PictureButton, ThePictureStandsStillWhilePressed)
     EXPECT_EQ(m_Images.Take(), "draw 0 at 21 14");
     m_Host.Mouse().Release();
 }
+
+namespace
+{
+
+char const* g_ClearLines[] = {"5 4 2 1", "r c #FF0000", ". c None", "r...r", "r...r", "r...r", "r...r"};
+
+// A green caption, and on it a button whose image fits: red at (10, 10), clear at (12, 10). Under the pointer it is blue.
+class SeeThroughButton : public testing::Test
+{
+protected:
+    SeeThroughButton()
+    {
+        m_Ground.SetBkColor(color_table[13]);
+        m_Button.SetNormalImage(XPMImage(XPMBuf(g_ClearLines, true)));
+        m_Button.SetHighlightedImage(Blue());
+        m_Button.SetPos({10, 10, 15, 14}, true);
+        m_Host.Paint();
+    }
+    void ShowBlueAndLeave()
+    {
+        m_Host.Mouse().Move(12, 12);
+        m_Host.Paint();
+        m_Host.Mouse().Move(50, 30);
+        m_Host.Paint();
+    }
+    unsigned int Pixel(int x, int y) { return m_Host.PixelAt(x, y).m_Value & 0xFFFFFFu; }
+
+    CTestHost m_Host{60, 40};
+    CCaption& m_Ground = *new CCaption(m_Host.Root(), {0, 0}, alClient);
+    CPictureButton& m_Button = *new CPictureButton(&m_Ground, {0, 0}, alNone);
+};
+
+}  // namespace
+
+TEST_F(SeeThroughButton, WhatWasPaintedBeforeStaysInTheClearPartsOfAnImageThatFits)
+{
+    EXPECT_FALSE(m_Button.IsTransparent());
+    EXPECT_EQ(Pixel(10, 10), 0x0000FFu);
+    EXPECT_EQ(Pixel(12, 10), 0x00FF00u);
+    ShowBlueAndLeave();
+    EXPECT_EQ(Pixel(10, 10), 0x0000FFu);
+    EXPECT_EQ(Pixel(12, 10), 0xFF0000u);
+}
+
+TEST_F(SeeThroughButton, SetTransparentItLetsTheParentShowThere)
+{
+    m_Button.SetTransparent(true);
+    m_Host.Paint();
+    ShowBlueAndLeave();
+    EXPECT_EQ(Pixel(10, 10), 0x0000FFu);
+    EXPECT_EQ(Pixel(12, 10), 0x00FF00u);
+}

@@ -8,6 +8,8 @@ namespace vexel
 
 /// A button that shows an image by its state, and nothing else; it takes the size of the normal one. Where the element is
 /// larger than that, the parent shows around it, and presses there don't count.
+/// It fills no ground of its own: in the clear pixels of images that fit, what was painted there before stays, such as
+/// the image of the state before. Whoever gives it such images sets it transparent, so that the parent is painted first.
 class VEXEL_API CPictureButton : public CCustomButton
 {
 public:
