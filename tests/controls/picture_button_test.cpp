@@ -2,6 +2,7 @@
 
 #include "vexel/controls/picture_button.h"
 
+#include "tests/support/scripted_system.h"
 #include "tests/support/test_images.h"
 #include "vexel/core/base_control.h"
 #include "vexel/platform/memory/memory_system.h"
@@ -513,6 +514,19 @@ TEST_F(PictureButton, ThePictureStandsStillWhilePressed)
     Draw();
     EXPECT_EQ(m_Images.Take(), "draw 0 at 21 14");
     m_Host.Mouse().Release();
+}
+
+TEST_F(PictureButton, AnXpmIsAsLargeAsItIsMeasuredAlsoWithoutAutomaticScaling)
+{
+    CAutoScaleScope const off(false);
+    m_Host.SetScale(2);
+    m_Button.SetNormalImage(Blue());
+    EXPECT_EQ(m_Button.GetSize(), (Size{5, 4}));
+    m_Host.Paint();
+    EXPECT_EQ(m_Button.GetContentRect(), (Rect{27, 17, 31, 20}));
+    EXPECT_EQ(m_Host.PixelAt(31, 20).m_Value & 0xFFFFFFu, 0xFF0000u);
+    EXPECT_NE(m_Host.PixelAt(32, 20).m_Value & 0xFFFFFFu, 0xFF0000u);
+    EXPECT_NE(m_Host.PixelAt(31, 21).m_Value & 0xFFFFFFu, 0xFF0000u);
 }
 
 namespace
