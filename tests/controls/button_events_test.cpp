@@ -5,6 +5,7 @@
 #include "vexel/controls/button.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
+#include "vexel/platform/painter.h"
 #include "vexel/testing/test_kit.h"
 
 #include <gtest/gtest.h>
@@ -356,4 +357,13 @@ TEST_F(ButtonEvents, ItIsDockedWhereItWasToldAndItsTextRunsOnWhicheverSide)
         EXPECT_EQ(button.GetAlong(1, 2), 1);
         EXPECT_EQ(button.GetAcross(1, 2), 2);
     }
+}
+
+TEST_F(ButtonEvents, ItsTextStandsAsAtTheTopAtFirstAndAsAtNoEdgeOnceItIsDockedAnew)
+{
+    // Both leave texts alone; they can be told apart only where somebody has them converted.
+    m_Other.SetTextConversion(true);
+    EXPECT_EQ(m_Other.ConvTextAlign(IPainter::AlignTop), IPainter::AlignTop | IPainter::AlignBottom);
+    m_Other.SetAlignment(alTop);
+    EXPECT_EQ(m_Other.ConvTextAlign(IPainter::AlignTop), IPainter::AlignTop);
 }

@@ -15,6 +15,7 @@
 #include <memory>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 using namespace vexel;
@@ -216,6 +217,59 @@ TEST(ButtonLifetime, ItMayDieInTheClickOfEachOfItsKeysAndInItsSecondRepetition)
     }
 }
 
+namespace
+{
+
+/// Dies as its ground is drawn.
+template <class Button> class CDying : public Button
+{
+public:
+    using Button::Button;
+    void DrawBackground(IPainter*) override { delete this; }
+};
+
+template <class Button> void DrawToDeath()
+{
+    CTestHost host(100, 60);
+    auto* const button = new CDying<Button>(host.Root(), {0, 40}, alTop);
+    button->SetCaption("a");
+    host.Focus();
+    button->SetFocus(true);
+    host.Paint();
+    EXPECT_EQ(host.Root()->GetChildren()->GetCount(), 0);
+}
+
+}  // namespace
+
+TEST(ButtonLifetime, ItMayDieAsItsGroundIsDrawn)
+{
+    DrawToDeath<CButton>();
+    DrawToDeath<CArrowButton>();
+}
+
+TEST(ButtonLifetime, APictureButtonMayDieAsItTakesTheSizeOfItsImage)
+{
+    class CDyingPicture : public CPictureButton
+    {
+    public:
+        CDyingPicture(CVisualElement* parent, bool& dead) : CPictureButton(parent, {0, 0}, alTop), m_Dead(dead) {}
+        void SetSize(size<int> const&, bool) override
+        {
+            m_Dead = true;
+            delete this;
+        }
+
+    private:
+        bool& m_Dead;
+    };
+    CTestHost host(100, 60);
+    bool dead = false;
+    auto* const button = new CDyingPicture(host.Root(), dead);
+    button->SetNormalImage(1);
+    EXPECT_TRUE(dead);
+    EXPECT_EQ(host.Root()->GetChildren()->GetCount(), 0);
+}
+
 TEST(ButtonLifetime, ASlotBehindTheOneThatKilledTheButtonIsNotCalled)
 {
     CScene scene(&MakeButton<CButton>);
@@ -370,4 +424,79 @@ TEST_F(ButtonSetLifetime, TheSetMayDieAsOneOfItsButtonsIsDeletedByClearing)
     EXPECT_TRUE(dead);
     EXPECT_EQ(m_Pane->GetChildren()->GetCount(), 0);
     m_Host.Paint();
+}
+
+TEST_F(ButtonSetLifetime, TheSetMayBeClearedAsItsFirstButtonShowsIt)
+{
+    m_Set->ClearButtons();
+    Slot const clear = On(m_Set->m_SigVisible, [&] { m_Set->ClearButtons(); });
+    EXPECT_EQ(m_Set->AddButton("ab", 1), nullptr);
+    EXPECT_EQ(m_Set->GetButtonCount(), 0u);
+    EXPECT_FALSE(m_Set->IsVisible());
+}
+
+TEST_F(ButtonSetLifetime, AButtonAddedWhileTheOthersGoStays)
+{
+    Slot const add = On(m_First->m_SigDestroy, [&] { m_Set->AddButton("ef", 3); });
+    m_Set->ClearButtons();
+    EXPECT_TRUE(m_Set->IsVisible());
+    EXPECT_EQ(m_Set->GetButtonCount(), 1u);
+    EXPECT_EQ(Container()->GetChildren()->GetCount(), 1);
+    m_Host.Paint();
+}
+
+namespace
+{
+
+/// Does something of its own, once, when it is to take another size.
+class CWilfulSet : public CButtonSet
+{
+public:
+    using CButtonSet::CButtonSet;
+
+    void SetSize(size<int> const& extent, bool scale) override
+    {
+        ++m_Sizes;
+        CButtonSet::SetSize(extent, scale);
+        if (Deed const deed = std::exchange(m_Deed, {}))
+            deed();
+    }
+
+    Deed m_Deed;
+    int m_Sizes = 0;
+};
+
+}  // namespace
+
+TEST_F(ButtonSetLifetime, TheRowMayGoOrBeExchangedAsTheSetTakesItsHeight)
+{
+    auto* const set = new CWilfulSet(m_Pane, {0, 30}, alTop);
+    set->m_Deed = [&] { set->ClearButtons(); };
+    EXPECT_EQ(set->AddButton("ab", 1), nullptr);
+    EXPECT_EQ(set->GetContainer(), nullptr);
+
+    set->SetSize({0, 30}, false);
+    set->m_Deed = [&] {
+        set->ClearButtons();
+        set->AddButton("cdef", 2);
+    };
+    EXPECT_EQ(set->AddButton("ab", 1), nullptr);
+    EXPECT_EQ(set->GetButtonCount(), 1u);
+    EXPECT_EQ(set->GetContainer()->GetSize().width, 54);
+
+    set->ClearButtons();
+    set->SetSize({0, 30}, false);
+    set->m_Deed = [&] { delete set; };
+    EXPECT_EQ(set->AddButton("ab", 1), nullptr);
+    EXPECT_EQ(m_Pane->GetChildren()->GetCount(), 1);
+}
+
+TEST_F(ButtonSetLifetime, ASetOfTheRightHeightIsNotSizedAgain)
+{
+    auto* const set = new CWilfulSet(m_Pane, {0, 30}, alTop);
+    set->AddButton("ab", 1);
+    EXPECT_EQ(set->m_Sizes, 1);
+    set->UpdateContainerSize();
+    set->AddButton("cd", 1);
+    EXPECT_EQ(set->m_Sizes, 1);
 }

@@ -503,3 +503,56 @@ TEST_F(ButtonPaint, TheFocusFrameOfAFlatButtonScalesBeforeItsPixelComesOff)
     m_Host.SetScale(1.9);  // 5.7
     EXPECT_THAT(Draw(), Draws("FocusRect 4 4 195 36"));
 }
+
+TEST_F(ButtonPaint, PressedOnlyAFlatStyleChangesTheTextColour)
+{
+    m_Button.HandleKeyDown(0, vkSpace);
+    PaintLog log = Draw();
+    EXPECT_THAT(log, Draws("SetTextColor brown"));
+    EXPECT_THAT(log, Not(Draws("SetTextColor blue")));
+    m_Button.SetNativeDrawing(false);
+    log = Draw();
+    EXPECT_THAT(log, Not(Draws("SetTextColor blue")));
+}
+
+TEST_F(ButtonPaint, PressedByKeyUnderThePointerADisabledFlatButtonStillHasTheHotFrame)
+{
+    BeFlat();
+    m_Host.Mouse().Move(m_Button, 5, 5);
+    m_Button.SetEnabled(false);
+    m_Button.HandleKeyDown(0, vkSpace);
+    EXPECT_THAT(Draw(), Draws("SetBrush #99FF00").Then("SetPen green").Then("Rectangle 0 0 199 40"));
+}
+
+TEST_F(ButtonPaint, DisabledUnderThePointerAButtonWithoutFrameHasNone)
+{
+    BeFlat();
+    m_Button.SetShape(CButton::ShapeNoFrame);
+    m_Host.Mouse().Move(m_Button, 5, 5);
+    m_Button.SetEnabled(false);
+    EXPECT_THAT(Draw(), Not(Draws("Rectangle*")));
+}
+
+TEST_F(ButtonPaint, TheFocusFrameStandsInTheBoundsInOrder)
+{
+    /// Draws the other button in its place.
+    class CCanvas : public CVisualElement
+    {
+    public:
+        CCanvas(CVisualElement* parent, CVisualElement& drawn) : CVisualElement(parent, {0, 20}, alTop), m_Drawn(drawn)
+        {}
+        void DrawContent(IPainter* painter) override { m_Drawn.DrawContent(painter); }
+
+    private:
+        CVisualElement& m_Drawn;
+    };
+    auto* const odd = new CButton(m_Host.Root(), {0, 0}, alNone);
+    odd->SetPos({110, 120, 100, 100}, true);
+    auto* const canvas = new CCanvas(m_Host.Root(), *odd);
+    NameElement(*canvas, "canvas");
+    m_Host.Focus();
+    odd->SetFocus(true);
+    m_Host.Paint();
+    canvas->Update(utElement);
+    EXPECT_THAT(m_Host.Paint().Of("canvas"), Draws("FocusRect -7 -17 -3 -3"));
+}

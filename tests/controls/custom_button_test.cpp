@@ -171,6 +171,26 @@ TEST_F(CustomButton, EnabledItIsNotAskedForItsDisabledLook)
     EXPECT_EQ(Draw(), "normal ");
 }
 
+TEST_F(CustomButton, ItMayDieAsItIsDrawn)
+{
+    class CDying : public CByState
+    {
+    public:
+        using CByState::CByState;
+        void DrawDisabledContent(IPainter*, bool&) override { delete this; }
+        void DrawNormalContent(IPainter*) override { delete this; }
+    };
+    for (bool const enabled : {true, false})
+    {
+        auto* const dying = new CDying(m_Host.Root(), {0, 40}, alTop);
+        dying->SetEnabled(enabled);
+        m_Host.Focus();
+        dying->SetFocus(true);
+        m_Host.Paint();
+        EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 1);
+    }
+}
+
 TEST_F(CustomButton, NothingButItsSubclassesDrawsIt)
 {
     m_Button.SetCaption("unseen");
@@ -316,6 +336,28 @@ TEST_F(ArrowButton, TheStepFollowsTheScale)
     m_Host.SetScale(1.5);
     m_Button.SetArrowType(CArrowButton::ArrowRight);
     EXPECT_THAT(Draw(), Draws("MoveTo 11 6").Then("MoveTo 17 6"));
+}
+
+TEST_F(ArrowButton, TheStepIsTruncated)
+{
+    m_Host.SetScale(1.2);  // 4.8
+    m_Button.SetArrowType(CArrowButton::ArrowRight);
+    EXPECT_THAT(Draw(), Draws("MoveTo 11 6").Then("MoveTo 15 6"));
+}
+
+TEST_F(ArrowButton, TheArrowStandsInTheInternalRectangleInOrder)
+{
+    class CTurned : public CArrowButton
+    {
+    public:
+        using CArrowButton::CArrowButton;
+        rectangle<int> GetInternalRect() const override { return {31, 21, 1, 1}; }
+    };
+    m_Button.SetVisible(false);
+    auto* const turned = new CTurned(m_Host.Root(), {0, 0}, alClient);
+    NameElement(*turned, "turned");
+    // x = 31 - (31 - 9) / 2 = 20, y = (20 - 8) / 2 + 1 = 7
+    EXPECT_THAT(m_Host.Paint().Of("turned"), Draws("MoveTo 20 7").Then("LineTo 16 11").Then("LineTo 20 15"));
 }
 
 TEST_F(ArrowButton, DisabledItsPenIsThePaintersMadeTwoWide)

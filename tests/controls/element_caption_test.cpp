@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 using namespace vexel;
 using namespace vexel::test;
 using testing::Not;
@@ -356,6 +358,8 @@ TEST_F(CaptionButton, ItIsTransparentAndTakesNoFocus)
     EXPECT_TRUE(m_Button.IsTransparent());
     EXPECT_FALSE(m_Button.GetCanHaveFocus());
     EXPECT_EQ(m_Button.GetContentRect(), (Rect{0, 11, 15, 26}));
+    CCaptionButton const fitting(nullptr, {0, 0}, alNone);  // as large as its image, which is none
+    EXPECT_TRUE(fitting.IsTransparent());
 }
 
 TEST_F(CaptionButton, UnderThePointerItsGroundIsWhiteWithALittleOfTheParent)
@@ -384,8 +388,10 @@ TEST_F(CaptionButton, OverABackgroundPictureTheParentsColourIsBlended)
 {
     ShowBkImage(m_Host, true);
     m_Host.Mouse().Move(m_Button, 8, 18);
-    EXPECT_THAT(m_Host.Paint().Of("button"),
+    PaintLog const log = m_Host.Paint().Of("button");
+    EXPECT_THAT(log,
                 Draws("DrawRasterPictureEx*").Then("picture SetBrush red").Then("AlphaBlend 16x16 0 11 15 26 160"));
+    EXPECT_THAT(log, Not(Draws("AlphaBlend*").Then("FillRect*")));
 }
 
 TEST_F(CaptionButton, WithoutAParentThereIsNoGround)
@@ -408,4 +414,23 @@ TEST_F(CaptionButton, TheHelpButtonHasThreePicturesOfSixteenBySixteenWithSeeThro
         EXPECT_TRUE(each->m_Xpm.GetPixel(0, 0).m_None);
         EXPECT_FALSE(each->m_Xpm.GetPixel(7, 7).m_None);
     }
+}
+
+TEST_F(CaptionButton, TheHelpSignHasSevenColoursAtRestAndThreeUnderThePointerOneOfThemClear)
+{
+    CHelpButton help(&m_Pane, {14, 14}, alRight);
+    auto const coloursOf = [](XPMImage const& image) {
+        std::set<unsigned int> colours;
+        for (int y = 0; y < 16; ++y)
+            for (int x = 0; x < 16; ++x)
+                colours.insert(image.GetPixel(x, y).m_None ? 1u : image.GetPixel(x, y).m_Value);
+        EXPECT_TRUE(colours.contains(1u));
+        return colours;
+    };
+    EXPECT_EQ(coloursOf(help.GetNormalImage().m_Xpm).size(), 7u);
+    auto const highlighted = coloursOf(help.GetHighlightedImage().m_Xpm);
+    auto const pressed = coloursOf(help.GetPressedImage().m_Xpm);
+    EXPECT_EQ(highlighted.size(), 3u);
+    EXPECT_EQ(pressed.size(), 3u);
+    EXPECT_NE(highlighted, pressed);
 }

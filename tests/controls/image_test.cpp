@@ -438,6 +438,11 @@ TEST_F(Image, ARunningAnimationStandsBeforeAPictureAndAnIndex)
     EXPECT_EQ(m_Image.GetImageSize(), (Size{6, 4}));
     EXPECT_THAT(Draw(), Draws("FillRect 0 0 59 30").Then("SetPixel 26 13 *"));
     EXPECT_EQ(m_Images.Take(), "");
+    m_Image.SetRasterPicture(Picture(7, 6));
+    PaintLog const log = Draw();
+    EXPECT_THAT(log, Draws("SetPixel 26 13 *"));
+    EXPECT_THAT(log, Not(Draws("DrawRasterPicture*")));
+    m_Image.SetImageIndex(0);
     m_Image.StopAnimation();
     EXPECT_EQ(Draw().Count("FillRect*"), 0);
     EXPECT_EQ(m_Images.Take(), "draw 0 at 21 10");
@@ -552,4 +557,55 @@ TEST_F(Image, ClearedItShowsNothingAndRunsNothing)
     EXPECT_EQ(m_Image.GetImageSize(), Size());
     EXPECT_EQ(m_Host.Clock().GetRunningTimers(), 0);
     EXPECT_EQ(m_Host.Paint().Elements(), "image");
+}
+
+TEST_F(Image, AClearForgetsAStartThatWaits)
+{
+    CImage alone(nullptr, {5, 5}, alNone);
+    alone.SetAnimation(m_Frames);
+    alone.StartAnimation();
+    alone.Clear();
+    alone.SetAnimation(m_Frames);
+    alone.ReParent(m_Host.Root(), false);
+    EXPECT_FALSE(alone.IsAnimated());
+}
+
+TEST_F(Image, AStartThatWaitedIsForgottenOnceItHasHappened)
+{
+    CImage alone(nullptr, {5, 5}, alNone);
+    alone.SetAnimation(m_Frames);
+    alone.StartAnimation();
+    alone.ReParent(m_Host.Root(), false);
+    EXPECT_TRUE(alone.IsAnimated());
+    alone.SetAnimation(nullptr);
+    alone.SetAnimation(m_Frames);
+    alone.ReParent(nullptr, false);
+    alone.ReParent(m_Host.Root(), false);
+    EXPECT_FALSE(alone.IsAnimated());
+}
+
+TEST_F(Image, TheImageMayBeDeletedInTheFirstStepOfAnotherAnimation)
+{
+    vexel_ptr<CFrames> const other(new CFrames);
+    m_Image.SetAnimation(m_Frames);
+    m_Image.StartAnimation();
+    auto const end = Listen(m_Image.m_FrameChanged, [&](CImage* image) { delete image; });
+    m_Image.SetAnimation(other);
+    EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 0);
+    EXPECT_EQ(m_Host.Clock().GetRunningTimers(), 0);
+}
+
+TEST_F(Image, ByThreadADeletedImageHearsOfNoStepThatIsUnderWay)
+{
+    SetDefAnimationProcess(aptThread);
+    m_Image.SetAnimation(m_Frames);
+    m_Image.StartAnimation();
+    m_Host.StepBackground();
+    m_Host.Clock().Advance(60);
+    m_Host.StepBackground();
+    int const frame = m_Frames->m_Frame;
+    delete &m_Image;
+    m_Host.RunPending();
+    m_Host.RunBackground();
+    EXPECT_EQ(m_Frames->m_Frame, frame);
 }

@@ -189,6 +189,14 @@ TEST_F(ImageHolder, BothSidesMustBeThereForAnImageToBeAssigned)
     EXPECT_TRUE(CImageHolder(2).IsAssigned(&thin));
 }
 
+TEST_F(ImageHolder, ADisabledImageWithoutASizeHasNoGround)
+{
+    CRecordedDrawing& element = *new CRecordedDrawing(m_Host.Root());
+    element.m_Image = CImageHolder(77);
+    element.m_Image.m_Disabled = true;
+    EXPECT_THAT(element.Draw(m_Host, &m_Images), Not(Draws("FillRect*")));
+}
+
 // The button's size and area ------------------------------------------------------------------------------------------------
 
 TEST_F(PictureButton, WithoutAnImageItAsksForNoSize)
@@ -304,6 +312,25 @@ TEST_F(PictureButton, AStateWithoutAnImageShowsTheNormalOne)
     m_Host.Mouse().Press();
     Draw();
     EXPECT_EQ(m_Images.Take(), "draw 0 at 21 14");
+}
+
+TEST_F(PictureButton, EachStateLooksForItsOwnImageAlone)
+{
+    m_Button.SetNormalImage(0);
+    m_Button.SetPressedImage(1);
+    m_Button.SetCanHaveFocus(false);
+    m_Host.Paint();
+    m_Host.Mouse().Move(m_Button, 30, 20);
+    Draw();
+    EXPECT_EQ(m_Images.Take(), "draw 0 at 21 14");
+    m_Host.Mouse().Press();
+    Draw();
+    EXPECT_EQ(m_Images.Take(), "draw 1 at 25 15");
+    m_Button.SetPressedImage(CImageHolder());
+    m_Button.SetHighlightedImage(1);
+    Draw();
+    EXPECT_EQ(m_Images.Take(), "draw 0 at 21 14");
+    m_Host.Mouse().Release();
 }
 
 TEST_F(PictureButton, APictureIsDrawnOneToOne)
