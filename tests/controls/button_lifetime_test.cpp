@@ -401,6 +401,20 @@ TEST_F(ButtonSetLifetime, TheSetMayDieAsClearingHidesIt)
     m_Host.Paint();
 }
 
+TEST_F(ButtonSetLifetime, ARowThatIsClearedHasLeftTheTreeBeforeItDies)
+{
+    CVisualElement* const row = Container();
+    bool dead = false;
+    Slot const death = On(row->m_SigDestroy, [&] {
+        dead = true;
+        EXPECT_EQ(row->GetParent(), nullptr);
+        EXPECT_EQ(row->GetControl(), nullptr);
+        EXPECT_EQ(m_Set->GetChildren()->GetCount(), 0);
+    });
+    m_Set->ClearButtons();
+    EXPECT_TRUE(dead);
+}
+
 TEST_F(ButtonSetLifetime, TheSetMayDieAsOneOfItsButtonsLosesTheFocusByClearing)
 {
     m_First->SetFocus(true);
@@ -478,6 +492,7 @@ TEST_F(ButtonSetLifetime, TheRowMayGoOrBeExchangedAsTheSetTakesItsHeight)
     set->SetSize({0, 30}, false);
     set->m_Deed = [&] {
         set->ClearButtons();
+        new CVisualElement(m_Host.Root(), {0, 0}, alTop);  // so that the new row stands elsewhere in memory
         set->AddButton("cdef", 2);
     };
     EXPECT_EQ(set->AddButton("ab", 1), nullptr);

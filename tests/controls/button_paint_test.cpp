@@ -535,7 +535,7 @@ TEST_F(ButtonPaint, DisabledUnderThePointerAButtonWithoutFrameHasNone)
 
 TEST_F(ButtonPaint, TheFocusFrameStandsInTheBoundsInOrder)
 {
-    /// Draws the other button in its place.
+    // Draws the other button in its place.
     class CCanvas : public CVisualElement
     {
     public:

@@ -351,13 +351,13 @@ TEST_F(ArrowButton, TheArrowStandsInTheInternalRectangleInOrder)
     {
     public:
         using CArrowButton::CArrowButton;
-        rectangle<int> GetInternalRect() const override { return {31, 21, 1, 1}; }
+        rectangle<int> GetInternalRect() const override { return {31, 21, 2, 2}; }
     };
     m_Button.SetVisible(false);
     auto* const turned = new CTurned(m_Host.Root(), {0, 0}, alClient);
     NameElement(*turned, "turned");
-    // x = 31 - (31 - 9) / 2 = 20, y = (20 - 8) / 2 + 1 = 7
-    EXPECT_THAT(m_Host.Paint().Of("turned"), Draws("MoveTo 20 7").Then("LineTo 16 11").Then("LineTo 20 15"));
+    // x = 31 - (31 - 10) / 2 = 21, y = (19 - 8) / 2 + 2 = 7
+    EXPECT_THAT(m_Host.Paint().Of("turned"), Draws("MoveTo 21 7").Then("LineTo 17 11").Then("LineTo 21 15"));
 }
 
 TEST_F(ArrowButton, DisabledItsPenIsThePaintersMadeTwoWide)
