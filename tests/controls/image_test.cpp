@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 using namespace vexel;
 using namespace vexel::test;
 using testing::Not;
@@ -328,6 +330,21 @@ TEST_F(Image, TheMiddleIsRoundedTowardsNothing)
 {
     EXPECT_EQ(m_Image.GetDrawStartPos({60, 31}), (Point{0, 0}));    // -1 / 2
     EXPECT_EQ(m_Image.GetDrawStartPos({62, 33}), (Point{-1, -1}));  // -3 / 2
+}
+
+TEST_F(Image, OffsetsBeyondAllBoundsDoNotTurnRound)
+{
+    int const most = std::numeric_limits<int>::max();
+    m_Image.SetOffset({most, most, 0, 0});
+    EXPECT_EQ(m_Image.GetDrawStartPos({16, 10}), (Point{1073741845, 1073741833}));  // (59 + most - 16) / 2
+    m_Image.SetRasterPicture(Picture(7, 6));
+    m_Image.SetImageAlign(IPainter::AlignLeft | IPainter::AlignTop);
+    EXPECT_EQ(m_Image.GetDrawStartPos({16, 10}), (Point{most, most}));
+    EXPECT_THAT(Draw(), Draws("DrawRasterPicture 7x6 2147483647 2147483647 2147483647 2147483647"));
+    m_Image.SetOffset({0, 0, most, most});
+    m_Image.SetImageAlign(IPainter::AlignRight | IPainter::AlignBottom);
+    EXPECT_EQ(m_Image.GetDrawStartPos({16, 10}), (Point{-2147483604, -2147483627}));  // 59 - (most + 16)
+    EXPECT_EQ(m_Image.GetDrawStartPos({100, 100}), (Point{-most - 1, -most - 1}));
 }
 
 TEST_F(Image, ItIsDrawnWhereItsAlignmentSays)
