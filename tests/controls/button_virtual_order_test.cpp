@@ -24,19 +24,19 @@ template <class Base, class Class> std::ptrdiff_t Offset(Class const& object)
     return reinterpret_cast<char const*>(static_cast<Base const*>(&object)) - reinterpret_cast<char const*>(&object);
 }
 
-TEST(ControlsVirtualOrder, OfThePressMachine)
+TEST(ButtonVirtualOrder, OfThePressMachine)
 {
     ExpectOrder(0, &CClickHandler::ProcessClick, &CClickHandler::ProcessStageChange);
 }
 
-TEST(ControlsVirtualOrder, OfButtonsBehindThatOfCaptions)
+TEST(ButtonVirtualOrder, OfButtonsBehindThatOfCaptions)
 {
     std::size_t const first = Place(&CCaption::OnDrawLink) + 1;
     ExpectOrder(first, &CButton::IsMouseOverButton, &CButton::ProcessStageChange, &CButton::ProcessClick,
                 &CButton::ProcessRepeatOperation);
 }
 
-TEST(ControlsVirtualOrder, OfCustomButtonsBehindThatOfButtons)
+TEST(ButtonVirtualOrder, OfCustomButtonsBehindThatOfButtons)
 {
     std::size_t const first = Place(&CButton::ProcessRepeatOperation) + 1;
     ExpectOrder(first, &CCustomButton::DrawDisabledContent, &CCustomButton::DrawNormalContent,
@@ -44,12 +44,12 @@ TEST(ControlsVirtualOrder, OfCustomButtonsBehindThatOfButtons)
                 &CCustomButton::DrawFocusRect);
 }
 
-TEST(ControlsVirtualOrder, OfImagesBehindThatOfElements)
+TEST(ButtonVirtualOrder, OfImagesBehindThatOfElements)
 {
     EXPECT_EQ(Place(&CImage::RecalculateSize), Place(&CVisualElement::HandleCopyToClipboard) + 1);
 }
 
-TEST(ControlsVirtualOrder, WhatAButtonTakesOverKeepsItsPlace)
+TEST(ButtonVirtualOrder, WhatAButtonTakesOverKeepsItsPlace)
 {
     EXPECT_EQ(Place(&CButton::SetAlignment), Place(&CVisualElement::SetAlignment));
     EXPECT_EQ(Place(&CButton::SetEnabled), Place(&CVisualElement::SetEnabled));
@@ -66,7 +66,7 @@ TEST(ControlsVirtualOrder, WhatAButtonTakesOverKeepsItsPlace)
     EXPECT_EQ(Place(&CButton::GetAutoSizeAdditionalExtent), Place(&CCaption::GetAutoSizeAdditionalExtent));
 }
 
-TEST(ControlsVirtualOrder, WhatTheOtherButtonsTakeOverKeepsItsPlace)
+TEST(ButtonVirtualOrder, WhatTheOtherButtonsTakeOverKeepsItsPlace)
 {
     EXPECT_EQ(Place(&CCustomButton::HandleMouseMove), Place(&CVisualElement::HandleMouseMove));
     EXPECT_EQ(Place(&CPictureButton::IsTransparent), Place(&CVisualElement::IsTransparent));
@@ -82,7 +82,7 @@ TEST(ControlsVirtualOrder, WhatTheOtherButtonsTakeOverKeepsItsPlace)
     EXPECT_EQ(Place(&CImage::HandleControlDestroy), Place(&CVisualElement::HandleControlDestroy));
 }
 
-TEST(ControlsVirtualOrder, TheBasesOfAButtonStandInTheirOrder)
+TEST(ButtonVirtualOrder, TheBasesOfAButtonStandInTheirOrder)
 {
     CButton const button(nullptr, {0, 0}, alNone);
     EXPECT_EQ(Offset<CCaption>(button), 0);
@@ -91,14 +91,14 @@ TEST(ControlsVirtualOrder, TheBasesOfAButtonStandInTheirOrder)
     EXPECT_LT(Offset<CClickHandler>(button), Offset<CRepeatableOperation>(button));
 }
 
-TEST(ControlsVirtualOrder, TheBasesOfAnImageStandInTheirOrder)
+TEST(ButtonVirtualOrder, TheBasesOfAnImageStandInTheirOrder)
 {
     CImage const image(nullptr, {0, 0}, alNone);
     EXPECT_EQ(Offset<CVisualElement>(image), 0);
     EXPECT_LT(0, Offset<IAnimationProcess::IUpdater>(image));
 }
 
-TEST(ControlsVirtualOrder, EachKindOfButtonStandsOnTheOneItRefines)
+TEST(ButtonVirtualOrder, EachKindOfButtonStandsOnTheOneItRefines)
 {
     static_assert(std::is_base_of_v<CButton, CArrowButton> && !std::is_base_of_v<CCustomButton, CArrowButton>);
     static_assert(std::is_base_of_v<CButton, CCustomButton> && std::is_abstract_v<CCustomButton>);
