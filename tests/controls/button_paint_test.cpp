@@ -1,8 +1,6 @@
-// How buttons are drawn: by the platform, with an edge, flat, over a background picture; custom buttons by state; arrows.
+// How push buttons are drawn: by the platform, with an edge, flat, over a background picture.
 
-#include "vexel/controls/arrow_button.h"
 #include "vexel/controls/button.h"
-#include "vexel/controls/custom_button.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
 #include "vexel/platform/memory/memory_palette.h"
@@ -288,244 +286,273 @@ TEST_F(ButtonPaint, AnEdgeIsPaintedTheSameBitByBitAndAtOnce)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
-// Custom buttons ----------------------------------------------------------------------------------------------------------
+// Palettes and odd states ---------------------------------------------------------------------------------------------
 
 namespace
 {
 
-class CByState : public CCustomButton
+/// Draws with a palette of its own installed in the painter, as a widget around the button might.
+class CPainted
 {
 public:
-    using CCustomButton::CCustomButton;
-
-    void DrawDisabledContent(IPainter* painter, bool& handled) override
+    explicit CPainted(CTestHost& host) : m_Painter(*host.Window().GetPainter())
     {
-        m_Drawn += "disabled ";
-        m_HandledBefore = handled;
-        CCustomButton::DrawDisabledContent(painter, handled);
-        handled = handled || m_Handle;
+        m_Painter.BeginPaint(IPainter::ssPaint);
+        m_Painter.m_Palette = CreateCustomPalette();
     }
-    void DrawNormalContent(IPainter*) override { m_Drawn += "normal "; }
-    void DrawHighlightedContent(IPainter*) override { m_Drawn += "highlighted "; }
-    void DrawPressedContent(IPainter*) override { m_Drawn += "pressed "; }
-    void DrawFocusRect(IPainter* painter) override
+    ~CPainted()
     {
-        m_Drawn += "focus ";
-        CCustomButton::DrawFocusRect(painter);
+        m_Painter.m_Palette = nullptr;
+        m_Painter.EndPaint();
     }
-    bool IsMouseOverButton(int x, int) const override { return x < 50; }
+    ICustomPaletteEx& Palette() { return *m_Painter.m_Palette; }
+    IPainter* get() { return &m_Painter; }
 
-    std::string m_Drawn;
-    bool m_Handle = false;
-    bool m_HandledBefore = true;
+private:
+    IPainter& m_Painter;
 };
 
-class CustomButton : public testing::Test
+unsigned int Bits(_color const& color)
 {
-protected:
-    CustomButton()
-    {
-        NameElement(m_Button, "button");
-        m_Host.Paint();
-    }
-    std::string Draw()
-    {
-        m_Button.m_Drawn.clear();
-        m_Button.Update(utElement);
-        m_Host.Paint();
-        return m_Button.m_Drawn;
-    }
-
-    CTestHost m_Host{200, 100};
-    CByState& m_Button = *new CByState(m_Host.Root(), {0, 40}, alTop);
-};
+    return color.m_Value;
+}
 
 }  // namespace
 
-TEST_F(CustomButton, TheStateDecidesWhatIsDrawn)
+TEST_F(ButtonPaint, TheTextColoursComeFromThePaintersPalette)
 {
-    m_Button.SetCanHaveFocus(false);
-    EXPECT_EQ(Draw(), "normal ");
-    m_Host.Mouse().Move(m_Button, 60, 5);
-    EXPECT_EQ(Draw(), "normal ");
-    m_Host.Mouse().Move(m_Button, 40, 5);
-    EXPECT_EQ(Draw(), "highlighted ");
-    m_Host.Mouse().Press();
-    EXPECT_EQ(Draw(), "pressed ");
-    m_Host.Mouse().Move(5, 90);
-    EXPECT_EQ(Draw(), "normal ");
+    CPainted painter(m_Host);
+    painter.Palette().SetColor(ISysPalette::scControlText, color_table[11]);
+    painter.Palette().SetColor(ISysPalette::scHighlightText, color_table[12]);
+    m_Button.DrawContent(painter.get());
+    EXPECT_EQ(painter.get()->GetTextColor(), color_table[11]);
+    m_Button.SetStyle(CButton::BorderFlat);
+    m_Button.HandleKeyDown(0, vkSpace);
+    m_Button.DrawContent(painter.get());
+    EXPECT_EQ(painter.get()->GetTextColor(), color_table[12]);
 }
 
-TEST_F(CustomButton, WithoutAControlItIsDrawnAsNormal)
+TEST_F(ButtonPaint, TheFlatColoursComeFromThePaintersPalette)
 {
-    CByState alone(nullptr, {10, 10}, alNone);
-    alone.HandleMouseMove(5, 5, 0, mbNone);
-    alone.DrawContent(m_Host.Window().GetPainter());
-    EXPECT_EQ(alone.m_Drawn, "normal ");
+    BeFlat();
+    CPainted painter(m_Host);
+    painter.Palette().SetColor(ISysPalette::scShadow, color_table[6]);
+    painter.Palette().SetColor(ISysPalette::scDarkShadow, color_table[11]);
+    painter.Palette().SetColor(ISysPalette::scHighlight, color_table[4]);
+    m_Button.DrawBackground(painter.get());
+    EXPECT_EQ(painter.get()->GetPen().color, color_table[6]);
+    EXPECT_EQ(painter.get()->GetPen().width, 1);
+    EXPECT_EQ(painter.get()->GetPen().style, pen::psSolid);
+    m_Button.HandleKeyDown(0, vkSpace);
+    m_Button.DrawBackground(painter.get());
+    EXPECT_EQ(painter.get()->GetPen().color, color_table[11]);
+    m_Host.Mouse().Move(m_Button, 5, 5);
+    m_Button.DrawBackground(painter.get());
+    EXPECT_EQ(painter.get()->GetPen().color, color_table[4]);
 }
 
-TEST_F(CustomButton, EnteringAndLeavingTheSensitiveAreaRepaints)
+TEST_F(ButtonPaint, ColoursAreMixedInSinglePrecisionAndOpaque)
 {
-    m_Host.Mouse().Move(m_Button, 60, 5);
-    m_Host.Paint();
-    m_Host.Mouse().Move(m_Button, 40, 5);
-    EXPECT_EQ(m_Host.Paint().Elements(), "button");
-    m_Host.Mouse().Move(m_Button, 30, 5);
-    EXPECT_FALSE(m_Host.IsFramePending());
-    m_Host.Mouse().Move(m_Button, 70, 5);
-    EXPECT_EQ(m_Host.Paint().Elements(), "button");
+    BeFlat();
+    m_Button.SetBkColor(_color::FromRgb(65, 60, 255));
+    CPainted painter(m_Host);
+    painter.Palette().SetColor(ISysPalette::scHighlight, _color::FromRgb(0, 0, 255));
+    m_Host.Mouse().Move(m_Button, 5, 5);
+    m_Button.DrawBackground(painter.get());
+    EXPECT_EQ(Bits(painter.get()->GetBrush().color), 0xFFFF3337u);  // 55.25, 51, 255
+    m_Button.HandleKeyDown(0, vkSpace);
+    m_Button.DrawBackground(painter.get());
+    EXPECT_EQ(Bits(painter.get()->GetBrush().color), 0xFFFF2427u);  // 39, 36, 255
 }
 
-TEST_F(CustomButton, DisabledItFallsThroughToTheNormalDrawingUnlessThatWasHandled)
+TEST_F(ButtonPaint, AFlatTransparentButtonWithoutABackgroundPictureIsFilled)
+{
+    BeFlat();
+    m_Button.SetTransparent(true);
+    EXPECT_THAT(Draw(), Draws("SetBrush yellow").Then("FillRect 0 0 199 40").Then("Rectangle 0 0 199 40"));
+}
+
+TEST_F(ButtonPaint, OverABackgroundPictureARestingButtonWithoutFrameIsThePictureAlone)
+{
+    BeFlat();
+    m_Button.SetTransparent(true);
+    m_Button.SetShape(CButton::ShapeNoFrame);
+    IPainter& painter = *m_Host.Window().GetPainter();
+    painter.m_BkImage = CTestHost::System().CreateRasterPicture(size<int>{200, 100});
+    painter.m_BkImageColor = color_table[9];
+
+    PaintLog const log = Draw();
+    EXPECT_THAT(log, Draws("SetBrush white").Then("FillRect 0 0 199 40").Then("DrawRasterPictureEx*"));
+    EXPECT_EQ(log.Count("FillRect*"), 1);
+    EXPECT_THAT(log, Not(Draws("AlphaBlend*")));
+    EXPECT_THAT(log, Not(Draws("Rectangle*")));
+
+    m_Host.Mouse().Move(m_Button, 5, 5);
+    EXPECT_THAT(Draw(), Draws("AlphaBlend*").Then("Rectangle 0 0 199 40"));
+    painter.m_BkImage = nullptr;
+}
+
+TEST_F(ButtonPaint, AFlatPressedButtonWithoutFrameIsFilledWithItsOwnColourUntilItIsHot)
+{
+    BeFlat();
+    m_Button.SetShape(static_cast<CButton::BorderShape>(7));
+    m_Button.HandleKeyDown(0, vkSpace);
+    PaintLog const log = Draw();
+    EXPECT_THAT(log, Draws("SetBrush yellow").Then("FillRect 0 0 199 40"));
+    EXPECT_EQ(log.Count("SetBrush #*"), 0);
+}
+
+TEST_F(ButtonPaint, AThinBoxKeepsItsFrameWhileItRests)
+{
+    BeFlat();
+    m_Button.SetShape(CButton::ShapeThinBox);
+    EXPECT_THAT(Draw(), Draws("Rectangle 0 0 199 40"));
+}
+
+TEST_F(ButtonPaint, ShapeAndStyleReachTheEdge)
+{
+    m_Button.SetNativeDrawing(false);
+    m_Button.SetStyle(CButton::BorderSunken);
+    Draw();
+    EXPECT_EQ(m_Host.PixelAt(0, 10).m_Value & 0xFFFFFFu, 0x005A5Au);
+    EXPECT_EQ(m_Host.PixelAt(199, 10).m_Value & 0xFFFFFFu, 0xCCFFFFu);
+    std::string const box = m_Host.PixelText({0, 0, 4, 4});
+    m_Button.SetShape(CButton::ShapeThinBox);
+    Draw();
+    EXPECT_NE(m_Host.PixelText({0, 0, 4, 4}), box);
+    // Pressed it is the box again, whatever its shape.
+    m_Button.SetStyle(CButton::BorderRaised);
+    m_Button.HandleKeyDown(0, vkSpace);
+    Draw();
+    EXPECT_EQ(m_Host.PixelText({0, 0, 4, 4}), box);
+}
+
+TEST_F(ButtonPaint, AnEdgeTakesNoNoticeOfThePointer)
+{
+    m_Button.SetNativeDrawing(false);
+    Draw();
+    auto const rest = m_Host.PixelText();
+    m_Host.Mouse().Move(m_Button, 5, 5);
+    Draw();
+    EXPECT_EQ(m_Host.PixelText(), rest);
+}
+
+TEST_F(ButtonPaint, WithoutAControlAFlatButtonIsNeverHot)
+{
+    CButton alone(nullptr, {0, 0}, alNone);
+    alone.SetPos({0, 0, 20, 10}, true);
+    alone.SetBkColor(color_table[3]);
+    alone.SetNativeDrawing(false);
+    alone.SetStyle(CButton::BorderFlat);
+    alone.HandleMouseHover(nullptr);
+    CPainted painter(m_Host);
+    painter.Palette().SetColor(ISysPalette::scShadow, color_table[6]);
+    alone.DrawBackground(painter.get());
+    EXPECT_EQ(painter.get()->GetPen().color, color_table[6]);
+    EXPECT_EQ(painter.get()->GetBrush().color, color_table[3]);
+    EXPECT_EQ(alone.GetNativeState(), 0);
+}
+
+TEST_F(ButtonPaint, PressedWhileDisabledTheStateWordTellsBoth)
 {
     m_Button.SetEnabled(false);
-    EXPECT_EQ(Draw(), "disabled normal ");
-    EXPECT_FALSE(m_Button.m_HandledBefore);
-    m_Button.m_Handle = true;
-    EXPECT_EQ(Draw(), "disabled ");
+    m_Button.HandleKeyDown(0, vkSpace);
+    EXPECT_EQ(m_Button.GetNativeState(), 1 + 8);
+    EXPECT_THAT(Draw(), Draws("DrawControlElement 7 0 0 199 40 0x9"));
 }
 
-TEST_F(CustomButton, TheFocusFrameIsThreePixelsInsideAtAnyScale)
+TEST_F(ButtonPaint, PressedUnderThePointerItIsNotHot)
+{
+    m_Button.SetCanHaveFocus(false);
+    m_Host.Mouse().Press(m_Button, 5, 5);
+    EXPECT_EQ(m_Button.GetNativeState(), 8);
+}
+
+TEST_F(ButtonPaint, ADisabledFlatButtonThatIsPressedKeepsThePressedTextColour)
+{
+    m_Button.SetStyle(CButton::BorderFlat);
+    m_Button.SetEnabled(false);
+    m_Button.HandleKeyDown(0, vkSpace);
+    EXPECT_THAT(Draw(), Draws("SetTextColor grey").Then("SetTextColor blue"));
+}
+
+TEST_F(ButtonPaint, WithoutThePlatformTheTextHasTheButtonsOwnColour)
+{
+    m_Button.SetFgColor(color_table[6]);
+    m_Button.SetNativeDrawing(false);
+    PaintLog log = Draw();
+    EXPECT_EQ(log.Count("SetTextColor*"), 1);
+    EXPECT_THAT(log, Draws("SetTextColor red"));
+    m_Button.SetStyle(CButton::BorderFlat);
+    EXPECT_EQ(Draw().Count("SetTextColor*"), 1);
+}
+
+TEST_F(ButtonPaint, TheGroundComesFirstThenTheTextThenTheFocusFrame)
 {
     m_Host.Focus();
     m_Button.SetFocus(true);
-    m_Host.SetScale(2);
-    m_Button.Update(utElement);
-    EXPECT_THAT(m_Host.Paint().Of("button"), Draws("FocusRect 3 3 196 37"));
-    EXPECT_EQ(Draw(), "normal focus ");
+    m_Button.SetCaption("a");
+    EXPECT_THAT(Draw(), Draws("DrawControlElement*").Then("DrawStringEx \"a\"*").Then("FocusRect*"));
 }
 
-TEST_F(CustomButton, ThePenMarkIsCleared)
+TEST_F(ButtonPaint, TheFocusFrameOfAFlatButtonScalesBeforeItsPixelComesOff)
 {
-    IPainter& painter = *m_Host.Window().GetPainter();
-    painter.m_PenDirty = true;
-    m_Button.DrawContent(&painter);
-    EXPECT_FALSE(painter.m_PenDirty);
+    m_Host.Focus();
+    m_Button.SetFocus(true);
+    BeFlat();
+    m_Host.SetScale(1.9);  // 5.7
+    EXPECT_THAT(Draw(), Draws("FocusRect 4 4 195 36"));
 }
 
-// Arrows ------------------------------------------------------------------------------------------------------------------
-
-namespace
+TEST_F(ButtonPaint, PressedOnlyAFlatStyleChangesTheTextColour)
 {
-
-// An arrow of 8 in a button at (0, 0, 31, 21): across its middle from (12, 7) on, and 11 steps right of it.
-class ArrowButton : public testing::Test
-{
-protected:
-    ArrowButton()
-    {
-        NameElement(m_Button, "button");
-        m_Button.SetFgColor(color_table[4]);
-        m_Host.Paint();
-    }
-    PaintLog Draw()
-    {
-        m_Button.Update(utElement);
-        return m_Host.Paint().Of("button");
-    }
-
-    CTestHost m_Host{32, 22};
-    CArrowButton& m_Button = *new CArrowButton(m_Host.Root(), {0, 0}, alClient);
-};
-
-}  // namespace
-
-TEST_F(ArrowButton, ItStartsLeftAndEightScaledPixels)
-{
-    EXPECT_EQ(m_Button.GetArrowType(), CArrowButton::ArrowLeft);
-    EXPECT_EQ(m_Button.GetArrowSize(), 8);
-    m_Host.SetScale(1.7);
-    CArrowButton scaled(nullptr, {0, 0}, alNone);
-    EXPECT_EQ(scaled.GetArrowSize(), 13);  // 13.6
-    scaled.SetArrowSize(10);
-    EXPECT_EQ(scaled.GetArrowSize(), 17);
+    m_Button.HandleKeyDown(0, vkSpace);
+    PaintLog log = Draw();
+    EXPECT_THAT(log, Draws("SetTextColor brown"));
+    EXPECT_THAT(log, Not(Draws("SetTextColor blue")));
+    m_Button.SetNativeDrawing(false);
+    log = Draw();
+    EXPECT_THAT(log, Not(Draws("SetTextColor blue")));
 }
 
-TEST_F(ArrowButton, TypeAndSizeRepaintOnAChange)
+TEST_F(ButtonPaint, PressedByKeyUnderThePointerADisabledFlatButtonStillHasTheHotFrame)
 {
-    m_Button.SetArrowType(CArrowButton::ArrowLeft);
-    m_Button.SetArrowSize(8);
-    EXPECT_FALSE(m_Host.IsFramePending());
-    m_Button.SetArrowType(CArrowButton::ArrowRight);
-    EXPECT_FALSE(m_Host.Paint().IsEmpty());
-    m_Button.SetArrowSize(9);
-    EXPECT_FALSE(m_Host.Paint().IsEmpty());
-}
-
-TEST_F(ArrowButton, Left)
-{
-    // x = 31 - (31 - 8) / 2 = 20, y = (21 - 8) / 2 = 6
-    EXPECT_THAT(Draw(), Draws("SetPen blue 2")
-                            .Then("MoveTo 20 6")
-                            .Then("LineTo 16 10")
-                            .Then("LineTo 20 14")
-                            .Then("MoveTo 16 6")
-                            .Then("LineTo 12 10")
-                            .Then("LineTo 16 14"));
-}
-
-TEST_F(ArrowButton, Top)
-{
-    m_Button.SetArrowType(CArrowButton::ArrowTop);
-    // x = (31 - 8) / 2 = 11, y = 21 - (21 - 8) / 2 = 15
-    EXPECT_THAT(Draw(), Draws("MoveTo 11 15")
-                            .Then("LineTo 15 11")
-                            .Then("LineTo 19 15")
-                            .Then("MoveTo 11 11")
-                            .Then("LineTo 15 7")
-                            .Then("LineTo 19 11"));
-}
-
-TEST_F(ArrowButton, Right)
-{
-    m_Button.SetArrowType(CArrowButton::ArrowRight);
-    EXPECT_THAT(Draw(), Draws("MoveTo 11 6")
-                            .Then("LineTo 15 10")
-                            .Then("LineTo 11 14")
-                            .Then("MoveTo 15 6")
-                            .Then("LineTo 19 10")
-                            .Then("LineTo 15 14"));
-}
-
-TEST_F(ArrowButton, Bottom)
-{
-    m_Button.SetArrowType(CArrowButton::ArrowBottom);
-    EXPECT_THAT(Draw(), Draws("MoveTo 11 6")
-                            .Then("LineTo 15 10")
-                            .Then("LineTo 19 6")
-                            .Then("MoveTo 11 10")
-                            .Then("LineTo 15 14")
-                            .Then("LineTo 19 10"));
-}
-
-TEST_F(ArrowButton, TheArrowMovesWithThePress)
-{
-    m_Button.SetArrowType(CArrowButton::ArrowRight);
-    m_Host.Mouse().Press(m_Button, 5, 5);
-    EXPECT_THAT(Draw(), Draws("MoveTo 12 7").Then("LineTo 16 11").Then("LineTo 12 15"));
-}
-
-TEST_F(ArrowButton, TheStepFollowsTheScale)
-{
-    m_Host.SetScale(1.5);
-    m_Button.SetArrowType(CArrowButton::ArrowRight);
-    EXPECT_THAT(Draw(), Draws("MoveTo 11 6").Then("MoveTo 17 6"));
-}
-
-TEST_F(ArrowButton, DisabledItsPenIsThePaintersMadeTwoWide)
-{
+    BeFlat();
+    m_Host.Mouse().Move(m_Button, 5, 5);
     m_Button.SetEnabled(false);
-    EXPECT_THAT(Draw(), Draws("SetPen grey 2").Then("MoveTo 20 6"));
+    m_Button.HandleKeyDown(0, vkSpace);
+    EXPECT_THAT(Draw(), Draws("SetBrush #99FF00").Then("SetPen green").Then("Rectangle 0 0 199 40"));
 }
 
-TEST_F(ArrowButton, AContentNoLargerThanTheArrowShowsNone)
+TEST_F(ButtonPaint, DisabledUnderThePointerAButtonWithoutFrameHasNone)
 {
-    m_Button.SetArrowSize(20);
-    EXPECT_THAT(Draw(), Draws("MoveTo*"));
-    m_Button.SetArrowSize(21);
-    EXPECT_THAT(Draw(), Not(Draws("MoveTo*")));
-    m_Host.Resize(22, 40);
-    EXPECT_THAT(Draw(), Not(Draws("MoveTo*")));
-    m_Host.Resize(23, 40);
-    EXPECT_THAT(Draw(), Draws("MoveTo*"));
+    BeFlat();
+    m_Button.SetShape(CButton::ShapeNoFrame);
+    m_Host.Mouse().Move(m_Button, 5, 5);
+    m_Button.SetEnabled(false);
+    EXPECT_THAT(Draw(), Not(Draws("Rectangle*")));
+}
+
+TEST_F(ButtonPaint, TheFocusFrameStandsInTheBoundsInOrder)
+{
+    // Draws the other button in its place.
+    class CCanvas : public CVisualElement
+    {
+    public:
+        CCanvas(CVisualElement* parent, CVisualElement& drawn) : CVisualElement(parent, {0, 20}, alTop), m_Drawn(drawn)
+        {}
+        void DrawContent(IPainter* painter) override { m_Drawn.DrawContent(painter); }
+
+    private:
+        CVisualElement& m_Drawn;
+    };
+    auto* const odd = new CButton(m_Host.Root(), {0, 0}, alNone);
+    odd->SetPos({110, 120, 100, 100}, true);
+    auto* const canvas = new CCanvas(m_Host.Root(), *odd);
+    NameElement(*canvas, "canvas");
+    m_Host.Focus();
+    odd->SetFocus(true);
+    m_Host.Paint();
+    canvas->Update(utElement);
+    EXPECT_THAT(m_Host.Paint().Of("canvas"), Draws("FocusRect -7 -17 -3 -3"));
 }

@@ -2,6 +2,9 @@
 
 #include "vexel/controls/button_set.h"
 
+#include "tests/support/call_log.h"
+#include "tests/support/recording_control.h"
+#include "tests/support/scripted_system.h"
 #include "tests/support/slot.h"
 #include "vexel/controls/button.h"
 #include "vexel/controls/button_captions.h"
@@ -182,4 +185,124 @@ TEST_F(ButtonSet, AButtonMayDeleteTheSetItIsIn)
     auto const end = Listen(m_Set.m_ButtonPressed, [&](int) { delete &m_Set; });
     m_Host.Mouse().Click(GetButton(0), 5, 5);
     EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 0);
+}
+
+TEST_F(ButtonSet, TheCaptionsAreEmptyAtFirst)
+{
+    EXPECT_TRUE(GetButtonCaptions().empty());
+    m_Set.SetButtons(127);
+    for (int i = 0; i < 7; ++i)
+    {
+        EXPECT_EQ(GetButton(i).GetCaption(), "<Unassigned>");
+        EXPECT_EQ(GetButton(i).GetButtonId(), 1 << i);
+        EXPECT_EQ(GetButton(i).GetId(), static_cast<unsigned long>(i + 1));
+    }
+}
+
+TEST_F(ButtonSet, AnEmptyCaptionOfTheTableIsACaption)
+{
+    GetButtonCaptions() = {{2, ""}};
+    m_Set.SetButtons(2);
+    EXPECT_EQ(GetButton(0).GetCaption(), "");
+}
+
+TEST_F(ButtonSet, WhatIsAddedHasTheButtonsOwnLook)
+{
+    CButton* const button = m_Set.AddButton("ab", 7);
+    EXPECT_EQ(button, &GetButton(0));
+    EXPECT_TRUE(button->IsAutoSize());
+    EXPECT_EQ(button->GetAlignment(), alLeft);
+    EXPECT_TRUE(button->IsNativeDrawing());
+    EXPECT_EQ(button->GetCaption(), "ab");
+    EXPECT_TRUE(m_Set.IsVisible());
+}
+
+TEST_F(ButtonSet, OnlyTheFirstButtonShowsTheSet)
+{
+    m_Set.AddButton("ab", 1);
+    m_Set.SetVisible(false);
+    m_Set.AddButton("cd", 2);
+    EXPECT_FALSE(m_Set.IsVisible());
+    EXPECT_EQ(m_Set.GetButtonCount(), 2u);
+}
+
+TEST_F(ButtonSet, WithoutAutomaticScalingTheFirstSizesAreTheSameAtAnyScale)
+{
+    CAutoScaleScope const off(false);
+    m_Host.SetScale(2);
+    CButtonSet alone(nullptr, {10, 10}, alTop);
+    alone.AddButton("ab", 1);
+    alone.AddButton("cd", 2);
+    EXPECT_EQ(alone.GetContainer()->GetSize(), (Size{12, 12}));
+    EXPECT_EQ(GetButton(0, alone).GetSize(), (Size{12, 12}));
+    EXPECT_EQ(alone.GetContainer()->GetChildren()->GetItem(1)->GetSize(), (Size{6, 6}));
+}
+
+TEST_F(ButtonSet, TheSetFollowsItsFirstButtonWhenAskedTo)
+{
+    m_Set.AddButton("ab", 1);
+    m_Set.AddButton("abcd", 2);
+    GetButton(0).SetSize({50, 25}, false);
+    EXPECT_EQ(m_Set.GetSize().height, 17);
+    m_Set.UpdateContainerSize();
+    EXPECT_EQ(m_Set.GetSize().height, 25);
+    EXPECT_EQ(m_Set.GetContainer()->GetSize().width, 50 + 6 + 54);
+    EXPECT_EQ(m_Set.GetContainer()->GetSize().height, 12);
+    EXPECT_EQ(m_Set.GetSize().width, 0);
+}
+
+TEST_F(ButtonSet, ARowThatLostAllItsButtonsIsNoPixelWideAndTheHeightStays)
+{
+    m_Set.AddButton("ab", 1);
+    delete &GetButton(0);
+    m_Set.UpdateContainerSize();
+    EXPECT_EQ(m_Set.GetContainer()->GetSize().width, 0);
+    EXPECT_EQ(m_Set.GetSize().height, 17);
+}
+
+TEST_F(ButtonSet, WithoutARowThereIsNoSizeToBeTaken)
+{
+    m_Set.UpdateContainerSize();
+    EXPECT_EQ(m_Set.GetSize(), (Size{0, 30}));
+}
+
+TEST_F(ButtonSet, WhicheverButtonItIsHandedItTellsItsNumber)
+{
+    CButton alone(nullptr, {0, 0}, alNone);
+    alone.SetButtonId(99);
+    m_Set.ButtonPressed(&alone);
+    EXPECT_EQ(m_Log.Text(), "pressed(99)");
+}
+
+TEST_F(ButtonSet, AButtonClicksBeforeTheSetTells)
+{
+    m_Set.AddButton("ab", 7);
+    m_Log.Add(GetButton(0).m_SigButtonUp, "up").Add(GetButton(0).m_Clicked, "clicked");
+    m_Host.Paint();
+    m_Host.Mouse().Click(GetButton(0), 5, 5);
+    EXPECT_EQ(m_Log.Text(), "up(5, 5, 0, 1) pressed(7) clicked()");  // the set listens first
+}
+
+TEST(ButtonSetWithoutWindow, ClearingWithdrawsEachChildBeforeTheRowGoes)
+{
+    CTestHost::System();  // fonts and metrics
+    CCallLog log;
+    CRecordingControl control(log);
+    auto* const set = new CButtonSet(nullptr, {10, 10}, alTop);
+    log.Name(set, "set");
+    CButton* const first = set->AddButton("ab", 1);
+    CButton* const second = set->AddButton("cd", 2);
+    log.Name(set->GetContainer(), "row");
+    log.Name(first, "first");
+    log.Name(set->GetContainer()->GetChildren()->GetItem(1), "gap");
+    log.Name(second, "second");
+    set->SetControl(&control);
+    log.Clear();
+
+    set->ClearButtons();
+
+    std::string const calls = log.Take({"UpdateElement"});
+    EXPECT_EQ(calls.substr(0, calls.find("second") + 11),
+              "control.UpdateElement(first, 16) control.UpdateElement(gap, 16) control.UpdateElement(second, 16)");
+    delete set;
 }

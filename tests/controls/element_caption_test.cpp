@@ -588,6 +588,8 @@ TEST_F(CaptionButton, ItIsTransparentAndTakesNoFocus)
     EXPECT_TRUE(m_Button.IsTransparent());
     EXPECT_FALSE(m_Button.GetCanHaveFocus());
     EXPECT_EQ(m_Button.GetContentRect(), (Rect{0, 11, 15, 26}));
+    CCaptionButton const fitting(nullptr, {0, 0}, alNone);  // as large as its image, which is none
+    EXPECT_TRUE(fitting.IsTransparent());
 }
 
 TEST_F(CaptionButton, UnderThePointerItsGroundIsWhiteWithALittleOfTheParent)
@@ -616,8 +618,10 @@ TEST_F(CaptionButton, OverABackgroundPictureTheParentsColourIsBlended)
 {
     ShowBkImage(m_Host, true);
     m_Host.Mouse().Move(m_Button, 8, 18);
-    EXPECT_THAT(m_Host.Paint().Of("button"),
+    PaintLog const log = m_Host.Paint().Of("button");
+    EXPECT_THAT(log,
                 Draws("DrawRasterPictureEx*").Then("picture SetBrush red").Then("AlphaBlend 16x16 0 11 15 26 160"));
+    EXPECT_THAT(log, Not(Draws("AlphaBlend*").Then("FillRect*")));
 }
 
 TEST_F(CaptionButton, WithoutAParentThereIsNoGround)

@@ -355,6 +355,22 @@ TEST_F(DrawXpm, AScaledSizeIsTruncated)
     EXPECT_EQ(Surface(), "..rw..../..rw..../wwb...../........");
 }
 
+TEST_F(DrawXpm, WithoutAutomaticScalingItKeepsItsSize)
+{
+    CScaledSystem system(2);
+    SetDPIAutoScale(false);
+    painter.DrawXPM(image, 1, 0, 0, 0, -1, -1, IPainter::roCopy);
+    SetDPIAutoScale(true);
+    EXPECT_EQ(Surface(), "..rw..../.wb...../......../........");
+}
+
+TEST_F(DrawXpm, AScaleBelowOneLeavesItsSize)
+{
+    CScaledSystem system(0.5);
+    painter.DrawXPM(image, 1, 0, 0, 0, -1, -1, IPainter::roCopy);
+    EXPECT_EQ(Surface(), "..rw..../.wb...../......../........");
+}
+
 TEST_F(DrawXpm, TheClipHolds)
 {
     CScaledSystem system(1);

@@ -1,9 +1,12 @@
 #include "vexel/controls/image.h"
 
 #include "vexel/core/control.h"
+#include "vexel/platform/convert.h"
 #include "vexel/platform/native_controls.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/sys_window.h"
+
+#include <cstdint>
 
 namespace vexel
 {
@@ -197,20 +200,21 @@ point<int> CImage::GetDrawStartPos(size<int> const& extent) const
 {
     rectangle<int> const b = GetBounds();
     rectangle<int> const& o = m_Offset;
-    point<int> position;
+    std::int64_t x = 0;
     if ((m_ImageAlign & IPainter::AlignLeft) != 0)
-        position.x = o.left + b.left;
+        x = std::int64_t{o.left} + b.left;
     else if ((m_ImageAlign & IPainter::AlignRight) != 0)
-        position.x = b.right - (o.right + extent.width);
+        x = std::int64_t{b.right} - o.right - extent.width;
     else
-        position.x = (b.left + b.right + o.left - o.right - extent.width) / 2;
+        x = (std::int64_t{b.left} + b.right + o.left - o.right - extent.width) / 2;
+    std::int64_t y = 0;
     if ((m_ImageAlign & IPainter::AlignTop) != 0)
-        position.y = o.top + b.top;
+        y = std::int64_t{o.top} + b.top;
     else if ((m_ImageAlign & IPainter::AlignBottom) != 0)
-        position.y = b.bottom - (o.bottom + extent.height);
+        y = std::int64_t{b.bottom} - o.bottom - extent.height;
     else
-        position.y = (b.top + b.bottom + o.top - o.bottom - extent.height) / 2;
-    return position;
+        y = (std::int64_t{b.top} + b.bottom + o.top - o.bottom - extent.height) / 2;
+    return {SaturateToInt(x), SaturateToInt(y)};
 }
 
 void CImage::DrawContent(IPainter* painter)
@@ -224,8 +228,8 @@ void CImage::DrawContent(IPainter* painter)
         m_Animation->Draw(painter, position.x, position.y);
     }
     else if (m_Picture)
-        painter->DrawRasterPicture(m_Picture.get(), position.x, position.y, position.x + extent.width,
-                                   position.y + extent.height, IPainter::roCopy);
+        painter->DrawRasterPicture(m_Picture.get(), position.x, position.y, AddSaturated(position.x, extent.width),
+                                   AddSaturated(position.y, extent.height), IPainter::roCopy);
     else if (m_ImageIndex >= 0 && GetControl() && GetControl()->GetImageList())
         GetControl()->GetImageList()->Draw(painter, m_ImageIndex, position.x, position.y);
 }

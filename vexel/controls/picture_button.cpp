@@ -82,10 +82,10 @@ CPictureButton::ImageInfo CPictureButton::GetDisabledImage()
     return m_DisabledImage.IsAssigned(images) ? m_DisabledImage : BuidDisabledImage(images);
 }
 
-CPictureButton::ImageInfo CPictureButton::BuidDisabledImage(IImageList*)
+CPictureButton::ImageInfo CPictureButton::BuidDisabledImage(IImageList* list)
 {
     ImageInfo result;
-    if (m_NormalImage.m_Index >= 0)
+    if (m_NormalImage.m_Index >= 0 && list)
     {
         result.m_Index = m_NormalImage.m_Index;
         result.m_Disabled = true;

@@ -8,6 +8,8 @@ namespace vexel
 
 /// A button that shows an image by its state, and nothing else; it takes the size of the normal one. Where the element is
 /// larger than that, the parent shows around it, and presses there don't count.
+/// It fills no ground of its own: in the clear pixels of images that fit, what was painted there before stays, such as
+/// the image of the state before. Whoever gives it such images sets it transparent, so that the parent is painted first.
 class VEXEL_API CPictureButton : public CCustomButton
 {
 public:
@@ -58,7 +60,8 @@ public:
     void SetPressedImage(XPMImage const& image) { SetPressedImage(ImageInfo(image)); }
 
     ImageInfo GetDisabledImage();  ///< The one that was set, else one made from the normal image.
-    /// From an index its disabled form, the picture itself, or the XPM image in shades of the face.
+    /// Of the source that the normal image has with this list: from an index its disabled form, the picture itself, or
+    /// the XPM image in shades of the face.
     ImageInfo BuidDisabledImage(IImageList* list);
     void DrawImage(IPainter* painter, ImageInfo const& image);  ///< In the middle. Nothing without a painter.
 

@@ -531,7 +531,7 @@ void CBasePainter::DrawXPM(XPMImage const& image, double x, double y, int source
     int const height = sourceHeight < 0 ? SubtractSaturated(image.GetHeight(), sourceY) : sourceHeight;
     if (width <= 0 || height <= 0)
         return;
-    double const scale = GetDPIScale();
+    double const scale = GetDPIAutoScale() ? std::max(1.0, GetDPIScale()) : 1.0;  // as an image is measured
     int const targetWidth = ToInt(width * scale);
     int const targetHeight = ToInt(height * scale);
     if (targetWidth <= 0 || targetHeight <= 0)

@@ -222,7 +222,7 @@ public:
     /// brought into 0 to 255.
     virtual void AlphaBlend(double left, double top, double right, double bottom, IRasterPicture* picture,
                             int alpha) = 0;
-    /// `sourceWidth`, `sourceHeight`: -1 for all. Drawn at the device scale.
+    /// `sourceWidth`, `sourceHeight`: -1 for all. Drawn at the device scale, if automatic scaling is on and it is above 1.
     virtual void DrawXPM(XPMImage const& image, double x, double y, int sourceX, int sourceY, int sourceWidth,
                          int sourceHeight, RasterOperation operation) = 0;
 
