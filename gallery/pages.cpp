@@ -11,6 +11,7 @@
 #include "gallery/pages/flashing_page.h"
 #include "gallery/pages/flow_grid_page.h"
 #include "gallery/pages/focus_page.h"
+#include "gallery/pages/grid_page.h"
 #include "gallery/pages/html_text_page.h"
 #include "gallery/pages/input_log_page.h"
 #include "gallery/pages/native_controls_page.h"
@@ -74,6 +75,9 @@ SPage const g_Pages[] = {
     {"buttons", "Buttons", "Press them by mouse, space or return; one repeats while it is held.", &Make<CButtonsPage>},
     {"pictures", "Picture buttons and images", "Buttons that are an image for each state; images, one of them moving.",
      &Make<CPicturesPage>},
+    {"grid", "A grid of two billion rows",
+     "Scroll, click, shift-click, drag past the edge; resize, drag and click the sections of the header.",
+     &Make<CGridPage>},
 };
 
 }  // namespace

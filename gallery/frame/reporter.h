@@ -49,7 +49,7 @@ public:
     {
         std::string text;
         bool first = true;
-        auto const add = [&](auto const& argument) {
+        [[maybe_unused]] auto const add = [&](auto const& argument) {
             using T = std::remove_cvref_t<decltype(argument)>;
             bool const emitter = first && std::is_convertible_v<T, vexel::CVisualElement const*>;
             first = false;

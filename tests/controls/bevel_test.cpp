@@ -146,6 +146,73 @@ TEST_F(Bevel, ABackgroundOfItsOwnIsDrawnBeforeTheFrame)
     EXPECT_THAT(m_Host.Paint().Of("striped"), Draws("FillRect 3 3 4 4").Then("FillRect 0 0 59 0"));
 }
 
+TEST_F(Bevel, InTheColourOfTheSystemTheFrameIsTheSystems)
+{
+    m_Bevel.SetShape(CBevel::ShapeThinBox);
+    m_Bevel.SetStyle(CBevel::BorderSunken);
+    Draw();
+    EXPECT_EQ(PixelAt(0, 10), 0x404040u);
+    EXPECT_EQ(PixelAt(59, 10), 0xF0F0F0u);
+}
+
+TEST_F(Bevel, AFrameLeavesNoPaletteBehind)
+{
+    IPainter& painter = *m_Host.Window().GetPainter();
+    painter.BeginPaint(IPainter::ssPaint);
+    for (bool const colored : {false, true})
+    {
+        if (colored)
+            m_Bevel.SetBkColor(color_table[3]);
+        painter.m_Palette = CreateCustomPalette();
+        m_Bevel.SetShape(CBevel::ShapeThinBox);
+        m_Bevel.DrawContent(&painter);
+        EXPECT_EQ(painter.m_Palette, nullptr) << colored;
+    }
+    painter.EndPaint();
+}
+
+TEST_F(Bevel, AFrameInAnotherColourThanBeforeTakesThat)
+{
+    m_Bevel.SetShape(CBevel::ShapeThinBox);
+    m_Bevel.SetStyle(CBevel::BorderRaised);
+    m_Bevel.SetBkColor(color_table[3]);
+    Draw();
+    m_Bevel.SetBkColor(color_table[6]);  // red
+    Draw();
+    EXPECT_EQ(PixelAt(20, 10), 0x0000FFu);
+    EXPECT_EQ(PixelAt(0, 10), 0xCCCCFFu);
+    m_Bevel.SetBkColor(ISysPalette::scFace);
+    Draw();
+    EXPECT_EQ(PixelAt(0, 10), 0xF0F0F0u);
+}
+
+TEST_F(Bevel, AClosedFrameFillsItsInsideInTheColourOfTheElement)
+{
+    class CBare : public CBevel
+    {
+    public:
+        using CBevel::CBevel;
+        void DrawBackground(IPainter*) override {}
+    };
+    CBare bare(m_Host.Root(), {0, 0}, alClient);  // (0, 31, 59, 39)
+    bare.SetBkColor(color_table[3]);
+    m_Host.Paint();
+    EXPECT_NE(PixelAt(20, 35), 0x00FFFFu);
+    bare.SetShape(CBevel::ShapeBox);
+    m_Host.Paint();
+    EXPECT_EQ(PixelAt(20, 35), 0x00FFFFu);
+}
+
+TEST_F(Bevel, TheShapeIsHandedOn)
+{
+    m_Bevel.SetStyle(CBevel::BorderFlat);
+    m_Bevel.SetShape(CBevel::ShapeBottomLine);
+    PaintLog const log = Draw();
+    EXPECT_THAT(log, Draws("FillRect 0 0 59 30").Then("FillRect 0 30 59 30"));
+    m_Bevel.SetShape(CBevel::ShapeNothing);
+    EXPECT_EQ(Draw().Count("FillRect*"), 1);
+}
+
 // Borders -----------------------------------------------------------------------------------------------------------------
 
 TEST_F(Bevel, ABorderPaintsNothingWhereItsChildrenAre)
@@ -178,6 +245,7 @@ TEST_F(Bevel, ABorderPutsTheClipBack)
     EXPECT_TRUE(painter.GetClipRect().IsZero());
 
     painter.SimpleSetClipRect({1, 1, 10, 10}, false);
+    painter.m_ClipCache = {1, 1, 10, 10};
     border.DrawContent(&painter);
     EXPECT_EQ(painter.GetClipRect(), (rectangle<double>{1, 1, 10, 10}));
     EXPECT_TRUE(painter.m_ClipCache.IsZero());

@@ -2,6 +2,7 @@
 
 #include "vexel/controls/element_caption.h"
 
+#include "tests/support/scripted_system.h"
 #include "tests/support/slot.h"
 #include "tests/support/test_images.h"
 #include "vexel/controls/control_caption.h"
@@ -12,6 +13,10 @@
 #include "vexel/testing/test_kit.h"
 
 #include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <utility>
 
 using namespace vexel;
 using namespace vexel::test;
@@ -201,6 +206,155 @@ TEST_F(ElementCaption, TheStripMayBeDeletedByItsHelpButton)
     EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 0);
 }
 
+TEST_F(ElementCaption, WithoutASystemPaletteItIsNotActive)
+{
+    CElementCaption strip(nullptr, {0, 20}, alTop);
+    CScriptedSystem system;
+    strip.SetBkColor(system.GetPalette()->GetColor(ISysPalette::scHighlight));
+    EXPECT_TRUE(strip.IsActive());
+    system.m_HasPalette = false;
+    strip.SetBkColor(_color());
+    EXPECT_FALSE(strip.IsActive());
+    strip.SetBkColor(ISysPalette::scHighlight);
+    EXPECT_FALSE(strip.IsActive());
+}
+
+TEST_F(ElementCaption, TheTextTakesTheColourThatFitsTheControlItComesTo)
+{
+    CElementCaption strip(nullptr, {0, 20}, alTop);
+    EXPECT_EQ(strip.GetText().GetFgSysColor(), ISysPalette::scFace);
+    ShowBkImage(m_Host, true);
+    strip.ReParent(m_Host.Root(), true);
+    EXPECT_EQ(strip.GetText().GetFgSysColor(), ISysPalette::scLiteral);
+    EXPECT_EQ(strip.GetText().GetFgColor().m_Value, 0xFFFFFFu);
+    EXPECT_EQ(strip.GetFgSysColor(), ISysPalette::scFace) << "the text's alone";
+    CTestHost plain(200, 100);
+    strip.ReParent(plain.Root(), true);
+    EXPECT_EQ(strip.GetText().GetFgSysColor(), ISysPalette::scFace);
+    strip.ReParent(nullptr, false);
+}
+
+TEST_F(ElementCaption, TheHelpButtonIsNeitherShownNorHiddenAgain)
+{
+    CSignalLog log(m_Strip.GetHelpButton().m_SigVisible, "visible");
+    m_Strip.SetHelpId("a");
+    m_Strip.SetHelpId("b");
+    m_Strip.SetHelpId("");
+    m_Strip.SetHelpId("");
+    EXPECT_EQ(log.Text(), "visible(true) visible(false)");
+}
+
+TEST_F(ElementCaption, TheTopicIsKnownWhenTheHelpButtonShows)
+{
+    std::string topic;
+    auto const ask =
+        Listen(m_Strip.GetHelpButton().m_SigVisible, [&](CVisualElement*, bool) { topic = m_Strip.GetHelpId(); });
+    m_Strip.SetHelpId("topic");
+    EXPECT_EQ(topic, "topic");
+}
+
+TEST_F(ElementCaption, TheHelpButtonStandsAtTheRightAndTheTextHasTheRest)
+{
+    m_Strip.SetHelpId("topic");
+    m_Host.Paint();
+    EXPECT_EQ(m_Strip.GetHelpButton().GetPos(), (Rect{182, 0, 198, 11}));
+    EXPECT_EQ(m_Strip.GetText().GetPos(), (Rect{3, 0, 181, 11}));
+}
+
+TEST_F(ElementCaption, EachByteOfTheMixIsTruncated)
+{
+    struct SCase
+    {
+        unsigned ground;
+        unsigned text;
+        char const* mixed;
+    };
+    // Red: 0 to 9 makes 3.6, 9 to 0 makes 5.4; green: 10 to 11 makes 10.4; blue: 200 to 100 makes 160.
+    for (SCase const& each :
+         {SCase{0xFFC80A00, 0xFF640B09, "SetBrush #030A*"}, SCase{0xFFC80A09, 0xFF640B00, "SetBrush #050A*"},
+          SCase{0xFF000000, 0xFF010203, "SetBrush #010000"}})
+    {
+        m_Strip.SetBkColor(_color{each.ground, false});
+        m_Strip.GetText().SetFgColor(_color{each.text, false});
+        EXPECT_THAT(m_Host.Paint().Of("strip"), Draws(each.mixed).Then("FillRect 0 0 199 11"));
+    }
+}
+
+TEST_F(ElementCaption, OpaqueItIsFilledAlsoOverABackgroundPicture)
+{
+    ShowBkImage(m_Host, true);
+    m_Strip.SetTransparent(false);
+    m_Strip.SetBkColor(color_table[9]);
+    m_Strip.GetText().SetFgColor(color_table[6]);
+    EXPECT_THAT(m_Host.Paint().Of("strip"), Draws("SetBrush #FF9999").Then("FillRect 0 0 199 11"));
+}
+
+TEST_F(ElementCaption, StripParentOrControlMayBeDeletedByTheHelpButton)
+{
+    for (char const* const victim : {"strip", "parent", "control"})
+    {
+        CTestHost host(200, 100);
+        auto* const pane = new CVisualElement(host.Root(), {0, 0}, alClient);
+        auto* const strip = new CElementCaption(pane, {0, 30}, alTop);
+        strip->SetHelpId("topic");
+        host.Paint();
+        std::string const which = victim;
+        auto const end = Listen(strip->GetHelpButton().m_Clicked, [&](CButton*) {
+            if (which == "strip")
+                delete strip;
+            else if (which == "parent")
+                delete pane;
+            else
+                host.DestroyControl();
+        });
+        host.Mouse().Press(strip->GetHelpButton(), 8, 5);
+        host.Mouse().Release(190, 5);
+        if (which == "control")
+            EXPECT_FALSE(host.HasControl());
+        else if (which == "parent")
+            EXPECT_EQ(host.Root()->GetChildren()->GetCount(), 0);
+        else
+            EXPECT_EQ(pane->GetChildren()->GetCount(), 0);
+    }
+}
+
+TEST_F(ElementCaption, TheControlMayBeDeletedByTheHelpThatIsAskedFor)
+{
+    auto const end =
+        Listen(m_Host.Control().m_SigHelp, [&](CBaseControl*, std::string const&) { m_Host.DestroyControl(); });
+    m_Strip.SetHelpId("topic");
+    m_Host.Paint();
+    m_Host.Mouse().Click(m_Strip.GetHelpButton(), 8, 5);
+    EXPECT_FALSE(m_Host.HasControl());
+}
+
+TEST_F(ElementCaption, TheTopicOutlivesAStripThatIsDeletedByTheHelp)
+{
+    std::string heard;
+    auto const end = Listen(m_Host.Control().m_SigHelp, [&](CBaseControl*, std::string const&) { delete &m_Strip; });
+    auto const late =
+        Listen(m_Host.Control().m_SigHelp, [&](CBaseControl*, std::string const& topic) { heard = topic; });
+    m_Strip.SetHelpId("a topic that is longer than any small buffer");
+    m_Host.Paint();
+    m_Host.Mouse().Click(m_Strip.GetHelpButton(), 8, 5);
+    EXPECT_EQ(heard, "a topic that is longer than any small buffer");
+}
+
+TEST_F(ElementCaption, ItsPartsAreMadeForTheRightAndTheLeft)
+{
+    CElementCaption none(nullptr, {20, 20}, alNone);
+    EXPECT_EQ(none.GetHelpButton().GetAlignment(), alRight);
+    EXPECT_EQ(none.GetText().GetAlignment(), alLeft);
+    EXPECT_EQ(none.GetText().GetAlong(1, 2), 2) << "so its text runs downward";
+}
+
+TEST_F(ElementCaption, TheStripMayBeDeletedAsItsHelpButtonShows)
+{
+    auto const end = Listen(m_Strip.GetHelpButton().m_SigVisible, [&](CVisualElement*, bool) { delete &m_Strip; });
+    m_Strip.SetHelpId("topic");
+    EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 0);
+}
+
 // Control captions --------------------------------------------------------------------------------------------------------
 
 namespace
@@ -320,6 +474,84 @@ TEST_F(ControlCaption, TheStripMayBeDeletedInItsClick)
     EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 1);
 }
 
+TEST_F(ControlCaption, TheArrowStartsAtTheTopPointingLeftWithoutAnEdge)
+{
+    CControlCaption strip(nullptr, {20, 20}, alNone);
+    EXPECT_EQ(strip.GetArrow().GetSize(), (Size{18, 18}));
+    EXPECT_EQ(strip.GetArrow().GetAlignment(), alTop);
+    EXPECT_EQ(strip.GetArrow().GetArrowType(), CArrowButton::ArrowLeft);
+    EXPECT_EQ(strip.GetChildren()->GetCount(), 3);
+}
+
+TEST_F(ControlCaption, OnlyAPointerFromOutsideLightsItUp)
+{
+    m_Strip.HandleChildrenMouseHover(&m_Strip.GetText());
+    m_Strip.HandleChildrenMouseHover(&m_Strip);
+    EXPECT_FALSE(m_Strip.IsActive());
+    m_Strip.HandleChildrenMouseHover(&m_Below);
+    EXPECT_TRUE(m_Strip.IsActive());
+    m_Strip.HandleChildrenMouseLeave(&m_Strip.GetArrow());
+    m_Strip.HandleChildrenMouseLeave(&m_Strip);
+    EXPECT_TRUE(m_Strip.IsActive());
+    m_Strip.HandleChildrenMouseLeave(nullptr);
+    EXPECT_FALSE(m_Strip.IsActive());
+    m_Strip.HandleChildrenMouseHover(nullptr);
+    EXPECT_TRUE(m_Strip.IsActive());
+}
+
+TEST_F(ControlCaption, TheArrowIsRaisedAlsoWhereTheColourIsAlreadyThatOfAnActiveStrip)
+{
+    m_Strip.SetBkColor(ISysPalette::scHighlight);
+    m_Strip.SetActive(true);
+    EXPECT_EQ(m_Strip.GetArrow().GetStyle(), CButton::BorderRaised);
+    EXPECT_EQ(m_Strip.GetArrow().GetBkSysColor(), ISysPalette::scShadow);
+}
+
+TEST_F(ControlCaption, TheTextTurnsWithTheNewEdge)
+{
+    m_Strip.SetAlignment(alRight);
+    EXPECT_EQ(m_Strip.GetText().GetAlignment(), alRight);
+    m_Strip.SetAlignment(alNone);
+    EXPECT_EQ(m_Strip.GetAlignment(), alNone);
+    EXPECT_EQ(m_Strip.GetText().GetAlignment(), alRight);
+}
+
+TEST_F(ControlCaption, ParentOrControlMayBeDeletedInItsClick)
+{
+    for (bool const control : {false, true})
+    {
+        CTestHost host(200, 100);
+        auto* const pane = new CVisualElement(host.Root(), {0, 0}, alClient);
+        auto* const strip = new CControlCaption(pane, {0, 30}, alTop);
+        host.Paint();
+        auto const end = Listen(strip->m_Clicked, [&](CControlCaption*) {
+            if (control)
+                host.DestroyControl();
+            else
+                delete pane;
+        });
+        host.Mouse().Press(strip->GetText(), 5, 5);
+        host.Mouse().Release(8, 5);
+        EXPECT_EQ(host.HasControl(), !control);
+        EXPECT_TRUE(control || host.Root()->GetChildren()->GetCount() == 0);
+    }
+}
+
+TEST_F(ControlCaption, TheStripMayBeDeletedAsThePointerComesAndGoes)
+{
+    {
+        auto const end = Listen(m_Strip.GetText().m_SigMouseHover, [&](CVisualElement*) { delete &m_Strip; });
+        m_Host.Mouse().Move(m_Strip.GetText(), 5, 5);
+        EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 1);
+    }
+    auto* const next = new CControlCaption(m_Host.Root(), {0, 30}, alTop);
+    m_Host.Paint();
+    auto const end = Listen(next->GetArrow().m_SigMouseLeave, [&](CVisualElement*) { delete next; });
+    m_Host.Mouse().Move(next->GetArrow(), 5, 5);
+    m_Host.Mouse().Move(m_Below, 5, 20);
+    EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 1);
+}
+
 // Caption buttons ---------------------------------------------------------------------------------------------------------
 
 namespace
@@ -408,4 +640,22 @@ TEST_F(CaptionButton, TheHelpButtonHasThreePicturesOfSixteenBySixteenWithSeeThro
         EXPECT_TRUE(each->m_Xpm.GetPixel(0, 0).m_None);
         EXPECT_FALSE(each->m_Xpm.GetPixel(7, 7).m_None);
     }
+}
+
+TEST_F(CaptionButton, TheHelpButtonsPicturesHaveSevenThreeAndThreeColoursWithTheTransparentOne)
+{
+    CHelpButton help(&m_Pane, {14, 14}, alRight);
+    auto const count = [](CImageHolder const& image) {
+        std::set<std::pair<unsigned, bool>> colors;
+        for (int y = 0; y < 16; ++y)
+            for (int x = 0; x < 16; ++x)
+            {
+                _color const color = image.m_Xpm.GetPixel(x, y);
+                colors.insert({color.m_None ? 0 : color.m_Value, color.m_None});
+            }
+        return colors.size();
+    };
+    EXPECT_EQ(count(help.GetNormalImage()), 7u);
+    EXPECT_EQ(count(help.GetHighlightedImage()), 3u);
+    EXPECT_EQ(count(help.GetPressedImage()), 3u);
 }

@@ -245,3 +245,203 @@ TEST_F(Label, AHitTestPaintsNothing)
     EXPECT_EQ(m_Images.Take(), "");
     EXPECT_EQ(m_Host.PixelAt(21, 17), m_Host.PixelAt(190, 190));
 }
+
+// Turned labels: the text runs downward from (0, 0, 40, 100), images stand before it -----------------------------------------
+
+namespace
+{
+
+class TurnedLabel : public Label
+{
+protected:
+    TurnedLabel()
+    {
+        m_Layout = CLayoutManager::GetLayout(alLeft);
+        m_Rect = {0, 0, 40, 100};
+    }
+};
+
+}  // namespace
+
+TEST_F(TurnedLabel, TheImageStandsBeforeACentredText)
+{
+    // The text has y 20 to 100 and stands at 48.
+    EXPECT_EQ(Draw("abc", g_HCenter | g_VCenter), (Rect{13, 48, 24, 72}));
+    EXPECT_EQ(m_Images.Take(), "draw 0 at 13 28");
+}
+
+TEST_F(TurnedLabel, TheImageStandsBeforeATextAtTheEnd)
+{
+    EXPECT_EQ(Draw("abc", g_Right | g_VCenter), (Rect{13, 76, 24, 100}));
+    EXPECT_EQ(m_Images.Take(), "draw 0 at 13 56");
+}
+
+TEST_F(TurnedLabel, AnImageAloneIsCentred)
+{
+    EXPECT_EQ(Draw("", g_HCenter | g_VCenter), (Rect{12, 42, 28, 58}));
+    EXPECT_EQ(m_Images.Take(), "draw 0 at 12 42");
+}
+
+TEST_F(TurnedLabel, AnImageTakesItsHeightAlongTheText)
+{
+    // Image 1 is 6 high: the text begins at y 10. Without a vertical flag the image is centred across.
+    EXPECT_EQ(Draw("abc", g_Left, 1), (Rect{12, 10, 8, 34}));
+    EXPECT_EQ(m_Images.Take(), "draw 1 at 12 0");
+}
+
+TEST_F(TurnedLabel, ThePaintersFontIsPutBackHoweverItEnds)
+{
+    font const before = Painter().GetFont();
+    Draw("abc", g_Left, -1);
+    EXPECT_EQ(Painter().GetFont(), before);
+    m_Rect = {0, 0, 10, 100};  // too narrow for the image
+    Draw("abc", g_Left, 0);
+    EXPECT_EQ(m_Images.Take(), "");
+    EXPECT_EQ(Painter().GetFont(), before);
+    HitTest(5, 5, "abc", g_Left, 1);
+    EXPECT_EQ(Painter().GetFont(), before);
+    Draw("", g_Left, -1);
+    EXPECT_EQ(Painter().GetFont(), before);
+}
+
+TEST_F(TurnedLabel, AFontThatRunsDownwardAlreadyBecomesUpright)
+{
+    font downward = Painter().GetFont();
+    downward.rotation = 2700;
+    Painter().SetFont(downward);
+    EXPECT_EQ(Draw("abc", g_Left | g_VCenter, -1), (Rect{8, 0, 32, 8}));
+    EXPECT_EQ(Painter().GetFont().rotation, 2700);
+}
+
+TEST_F(TurnedLabel, AtTheSidesMeasuringKeepsBackTheImageAloneForTheFlagIsLost)
+{
+    Painter().m_TextShortened = true;
+    EXPECT_EQ(Draw("abc", g_Left | g_VCenter | IPainter::AlignMeasureOnly), (Rect{13, 20, 24, 44}));
+    EXPECT_EQ(m_Images.Take(), "");
+    EXPECT_FALSE(Painter().m_TextShortened) << "the text was really drawn";
+}
+
+TEST_F(TurnedLabel, AHitTestPaintsNoTextEither)
+{
+    Painter().m_TextShortened = true;
+    EXPECT_EQ(HitTest(20, 30, "abc", g_Left | g_VCenter), 2);
+    EXPECT_TRUE(Painter().m_TextShortened);
+}
+
+TEST_F(TurnedLabel, TheHeightOfALineIsItsExtentAcrossNotItsWidth)
+{
+    font bold = Painter().GetFont();
+    bold.style = font::fsBold;  // "W" is 9 wide
+    Painter().SetFont(bold);
+    m_Rect = {0, 0, 17, 100};  // two lines are 16
+    Draw("abc", g_Left | g_Top);
+    EXPECT_EQ(m_Images.Take(), "draw 0 at -3 0");
+}
+
+// Odd cases -----------------------------------------------------------------------------------------------------------------
+
+TEST_F(Label, ATextHigherThanItsPlaceTakesTheImageAlong)
+{
+    m_Rect = {0, 10, 100, 31};  // 21 high, the text 24
+    Draw("a\nb\nc", g_Left | g_Top, 1);
+    EXPECT_EQ(m_Images.Take(), "draw 1 at 0 11");
+    Draw("a\nb\nc", g_Left | g_Bottom, 1);
+    EXPECT_EQ(m_Images.Take(), "draw 1 at 0 8");
+    Draw("a\nb\nc", g_Left | g_VCenter, 1);  // half of -3 is -1
+    EXPECT_EQ(m_Images.Take(), "draw 1 at 0 10");
+    Draw("a\nb\nc", g_Left, 1);
+    EXPECT_EQ(m_Images.Take(), "draw 1 at 0 18");
+}
+
+TEST_F(Label, AnImageThatFitsExactlyIsDrawn)
+{
+    m_Rect = {0, 0, 16, 16};
+    Draw("", g_Left);
+    EXPECT_EQ(m_Images.Take(), "draw 0 at 0 0");
+    m_Rect = {0, 0, 15, 16};
+    EXPECT_EQ(Draw("", g_Left), Rect());
+    m_Rect = {0, 0, 16, 15};
+    EXPECT_EQ(Draw("", g_Left), Rect());
+    EXPECT_EQ(m_Images.Take(), "");
+}
+
+TEST_F(Label, WithoutRoomForTheTextOnlyALeftImageIsDrawn)
+{
+    m_Rect = {0, 0, 18, 40};  // the text has from 20 to 21
+    Draw("abc", g_Right | g_VCenter);
+    EXPECT_EQ(m_Images.Take(), "");
+    Draw("abc", g_HCenter | g_VCenter);
+    EXPECT_EQ(m_Images.Take(), "");
+    Draw("abc", g_Left | g_VCenter);
+    EXPECT_EQ(m_Images.Take(), "draw 0 at 0 13");
+}
+
+TEST_F(Label, AReversedRectangleHasOnePixelForTheText)
+{
+    m_Rect = {30, 40, 10, 0};
+    EXPECT_EQ(Draw("abc", g_Left | g_Top, -1), (Rect{30, 40, 31, 41}));
+    Draw("abc", g_Left | g_Top, 0);
+    Draw("", g_Left | g_Top, 0);
+    EXPECT_EQ(m_Images.Take(), "") << "as they came in, the edges leave no room";
+}
+
+TEST_F(Label, AnImageThatTheListDoesNotHaveTakesItsGapAlone)
+{
+    EXPECT_EQ(Draw("abc", g_Left | g_VCenter, 7), (Rect{0, 16, 28, 24}));
+    EXPECT_EQ(m_Images.Take(), "draw 7 at 0 20");
+    EXPECT_EQ(Draw("abc", g_Left | g_VCenter, -2), (Rect{4, 16, 28, 24}));
+    EXPECT_EQ(m_Images.Take(), "");
+}
+
+TEST_F(Label, InNegativeCoordinatesPlacesAreTruncatedTowardZero)
+{
+    m_Rect = {-50, -10, 50, 0};
+    EXPECT_EQ(Draw("", g_Left, 1), (Rect{-50, -7, -34, -1}));  // (10 - 6) / 2 - 10 + 0.5
+    EXPECT_EQ(m_Images.Take(), "draw 1 at -50 -7");
+    Draw("", g_HCenter, 1);  // (100 - 16) / 2 - 50 + 0.5
+    EXPECT_EQ(m_Images.Take(), "draw 1 at -7 -7");
+}
+
+TEST_F(Label, MeasuredAnImageAloneTakesItsPlaceUndrawn)
+{
+    EXPECT_EQ(Draw("", g_Left | IPainter::AlignMeasureOnly), (Rect{0, 12, 16, 28}));
+    EXPECT_EQ(m_Images.Take(), "");
+}
+
+TEST_F(Label, OnlyADrawnTextTellsWhetherItWasShortened)
+{
+    Painter().m_TextShortened = true;
+    HitTest(5, 5, "abc", g_Left);
+    EXPECT_TRUE(Painter().m_TextShortened);
+    Draw("abc", g_Left | IPainter::AlignMeasureOnly);
+    EXPECT_TRUE(Painter().m_TextShortened);
+    Draw("", g_Left);
+    EXPECT_TRUE(Painter().m_TextShortened);
+    Draw("abc", g_Left);
+    EXPECT_FALSE(Painter().m_TextShortened);
+    HitTest(5, 5, "abcdefghijklmnopq", g_Left);
+    EXPECT_FALSE(Painter().m_TextShortened);
+    Draw("abcdefghijklmnopq", g_Left);
+    EXPECT_TRUE(Painter().m_TextShortened);
+}
+
+TEST_F(Label, AnOverlongTextIsHitInsideItsPlaceOnly)
+{
+    m_Rect = {5, 0, 65, 40};
+    EXPECT_EQ(HitTest(65, 20, "abcdefghijklm", g_Left | g_VCenter), 2);
+    EXPECT_EQ(HitTest(66, 20, "abcdefghijklm", g_Left | g_VCenter), 0);
+}
+
+TEST_F(Label, AnImageWithoutAListIsNotHit)
+{
+    EXPECT_EQ(LabelHitTest({5, 20}, &Painter(), m_Rect, "abc", g_Right | g_VCenter, 4, nullptr, 0, nullptr,
+                           DefaultDelimiters, nullptr),
+              0);
+    EXPECT_EQ(HitTest(0, 12, "", g_Left, -2), 0);
+}
+
+TEST_F(Label, WhatHasNoWidthIsNotHit)
+{
+    EXPECT_EQ(HitTest(0, 17, "", g_Left, 7), 0);
+    EXPECT_EQ(HitTest(0, 20, "\n", g_Left | g_VCenter, -1), 0);
+}

@@ -1,6 +1,9 @@
 // A pane with a title strip that is active as its frame is.
 
 #include "vexel/controls/titled_pane.h"
+
+#include "tests/support/scripted_system.h"
+#include "tests/support/slot.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
 #include "vexel/testing/test_kit.h"
@@ -139,14 +142,123 @@ TEST_F(TitledPane, MayBeDeletedByTheFocusThatItsTitleGives)
     EXPECT_EQ(m_Host.Root()->GetChildren()->GetCount(), 1);
 }
 
+TEST_F(TitledPane, AnyButtonOnItsInactiveTitleFocusesTheFirstElementInside)
+{
+    m_Host.Mouse().Press(m_Pane->GetTitle(), 60, 5, mbRight);
+
+    EXPECT_EQ(m_Host.Control().GetControl()->GetFocusedElement(), m_One);
+}
+
+TEST_F(TitledPane, AClickOnItsTitleTakesTheNativeFocusToo)
+{
+    m_Host.Unfocus();
+    ASSERT_FALSE(m_Host.Window().HasFocus());
+
+    m_Pane->GetTitle().m_SigButtonDown(&m_Pane->GetTitle(), 60, 5, 1, mbLeft);
+
+    EXPECT_TRUE(m_Host.Window().HasFocus());
+    EXPECT_EQ(m_Host.Control().GetControl()->GetFocusedElement(), m_One);
+}
+
+TEST_F(TitledPane, TheColourOfItsTitleAloneDecidesWhatAClickDoes)
+{
+    m_Pane->GetTitle().SetBkColor(ISysPalette::scHighlight);
+
+    m_Host.Mouse().Click(m_Pane->GetTitle(), 60, 5);
+
+    EXPECT_EQ(m_Host.Control().GetControl()->GetFocusedElement(), m_Outside);
+}
+
+TEST_F(TitledPane, OnlyFocusThatComesFromOutsideCounts)
+{
+    for (CVisualElement* const inside : {static_cast<CVisualElement*>(m_Two), static_cast<CVisualElement*>(m_Pane)})
+    {
+        m_Pane->HandleChildFocusChanged(m_One, inside, true);
+        EXPECT_FALSE(m_Pane->IsActive());
+        EXPECT_FALSE(m_Pane->GetTitle().IsActive());
+    }
+    m_Pane->HandleChildFocusChanged(m_One, nullptr, true);
+    EXPECT_TRUE(m_Pane->IsActive());
+    EXPECT_TRUE(m_Pane->GetTitle().IsActive());
+}
+
+TEST_F(TitledPane, ATitleThatLostItsLookGetsItBackWithTheNextFocusFromOutside)
+{
+    m_One->SetFocus(true);
+    m_Pane->GetTitle().SetActive(false);
+
+    m_Pane->HandleChildFocusChanged(m_One, m_Outside, true);
+
+    EXPECT_TRUE(m_Pane->GetTitle().IsActive());
+}
+
+TEST_F(TitledPane, PaneOrControlMayBeDeletedInTheChainsOfAClick)
+{
+    for (bool const control : {false, true})
+    {
+        for (bool const press : {false, true})
+        {
+            CTestHost host(120, 80);
+            auto* const pane = new CTitledPane(host.Root(), {0, 50}, alTop);
+            AddField(pane);
+            host.Focus();
+            AddField(host.Root())->SetFocus(true);
+            host.Paint();
+            auto const end = [&] {
+                if (control)
+                    host.DestroyControl();
+                else
+                    delete pane;
+            };
+            auto const pressed = press ? Listen(pane->GetTitle().m_SigButtonDown,
+                                                [&](CVisualElement*, int, int, int, MouseButton) { end(); })
+                                       : nullptr;
+            auto const focused =
+                press ? nullptr : Listen(pane->m_SigChildGetFocus, [&](CVisualElement*, CVisualElement*) { end(); });
+            ASSERT_FALSE(pane->IsActive());
+            host.Mouse().Press(pane->GetTitle(), 60, 5);
+            EXPECT_EQ(host.HasControl(), !control);
+            EXPECT_TRUE(control || host.Root()->GetChildren()->GetCount() == 1);
+        }
+    }
+}
+
+TEST(FreshTitledPane, WhatIsInsideDoesNotMoveAsItBecomesActive)
+{
+    for (bool const late : {false, true})
+    {
+        CTestHost host(120, 80);
+        auto* const pane = new CTitledPane(late ? nullptr : host.Root(), {0, 50}, alTop);
+        CVisualElement* const field = AddField(pane);
+        if (late)
+            pane->ReParent(host.Root(), true);
+        host.Paint();
+        EXPECT_EQ(pane->GetTitle().GetPos(), (rectangle<int>{1, 1, 118, 12})) << "as high as its font asks";
+        EXPECT_EQ(field->GetPos().top, 13);
+
+        host.Focus();
+        host.Paint();
+
+        EXPECT_TRUE(pane->IsActive());
+        EXPECT_EQ(pane->GetTitle().GetPos(), (rectangle<int>{1, 1, 118, 12}));
+        EXPECT_EQ(field->GetPos().top, 13);
+    }
+}
+
 TEST(TitledPaneScale, ItsTitleIsEighteenPixelsTimesTheScaleOnce)
 {
     for (double const scale : {1.0, 1.5, 2.0})
     {
-        CTestHost host(200, 100, scale);
-        auto* const pane = new CTitledPane(host.Root(), {0, 50}, alLeft);
-        int const extent = static_cast<int>(18 * scale);
-        EXPECT_EQ(pane->GetTitle().GetSize(), (size<int>{extent, extent}));
+        for (bool const automatic : {false, true})
+        {
+            CTestHost host(200, 100, scale);
+            CAutoScaleScope const scaling(automatic);
+            int const extent = static_cast<int>(18 * scale);
+            CTitledPane alone(nullptr, {0, 50}, alLeft);
+            EXPECT_EQ(alone.GetTitle().GetSize(), (size<int>{extent, extent}));
+            auto* const pane = new CTitledPane(host.Root(), {0, 50}, alLeft);
+            EXPECT_EQ(pane->GetTitle().GetSize().width, extent) << "the height goes by the font";
+        }
     }
 }
 

@@ -1,7 +1,8 @@
 #include "vexel/controls/bevel.h"
 
-#include "vexel/controls/detail/painter_colors.h"
 #include "vexel/platform/border.h"
+#include "vexel/platform/painter.h"
+#include "vexel/platform/palette.h"
 
 namespace vexel
 {
@@ -89,17 +90,16 @@ void CBevel::DrawContent(IPainter* painter)
     DrawBackground(painter);
     if (!alive || m_Shape >= ShapeNoFrame)
         return;
-    vexel_ptr<ICustomPaletteEx> palette = painter->m_Palette;
     if (_color const background = GetBkColor(); !IsFaceColor(background))
     {
         if (!m_EdgePalette)
             m_EdgePalette = CreateCustomPalette();
         m_EdgePalette->SetBaseColor(background);
-        palette = m_EdgePalette;
+        painter->m_Palette = m_EdgePalette;
     }
-    detail::CPaletteHolder const holder(painter, palette);
     DrawBorder(painter, GetBevelRect(), static_cast<vexelbase::BorderShape>(m_Shape),
                static_cast<vexelbase::BorderStyle>(m_Style), true);
+    painter->m_Palette = nullptr;
 }
 
 }  // namespace vexel

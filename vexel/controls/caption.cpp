@@ -6,6 +6,8 @@
 #include "vexel/platform/sys_window.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace vexel
 {
@@ -53,17 +55,30 @@ private:
 
 void CCaption::LinkHolder::AddLink(char const* target, int length, rectangle<int> const& rect)
 {
-    m_Links.push_back(
-        {target ? std::string(target, static_cast<std::size_t>(std::max(length, 0))) : std::string(), rect});
+    if (m_Spare.empty())
+        m_Links.emplace_back();
+    else
+    {
+        m_Links.push_back(std::move(m_Spare.back()));
+        m_Spare.pop_back();
+    }
+    Link& link = m_Links.back();
+    link.target.assign(target ? target : "", target ? static_cast<std::size_t>(std::max(length, 0)) : 0);
+    link.rect = rect;
 }
 
 void CCaption::LinkHolder::SetValid(bool valid)
 {
     m_Valid = valid;
     if (valid)
+    {
         std::sort(m_Links.begin(), m_Links.end(), SLinkComparer());
-    else
-        m_Links.clear();
+        m_Spare.clear();
+        return;
+    }
+    // In the order in which they are taken, which is the text's, each comes back to its own string.
+    m_Spare.insert(m_Spare.end(), std::move_iterator(m_Links.begin()), std::move_iterator(m_Links.end()));
+    m_Links.clear();
 }
 
 bool CCaption::LinkHolder::IsLink(point<int> const& position) const
@@ -337,8 +352,17 @@ void CCaption::FollowShortening(bool shortened)
 
 void CCaption::OnDrawLink(char const* target, int length, rectangle<int> const& rect)
 {
-    if (!m_Links.IsValid())
-        m_Links.AddLink(target, length, rect);
+    if (m_Links.IsValid())
+        return;
+    m_LinkOrigin = {0, 0};
+    ElementToControl(&m_LinkOrigin);
+    m_Links.AddLink(target, length, rect);
+}
+
+// The picture may have been moved since it was drawn, and the links with it.
+point<int> CCaption::ToLinkPosition(int x, int y) const
+{
+    return {AddSaturated(x, m_LinkOrigin.x), AddSaturated(y, m_LinkOrigin.y)};
 }
 
 // Input -------------------------------------------------------------------------------------------------------------------
@@ -347,9 +371,7 @@ bool CCaption::HandleMouseMove(int x, int y, int keys, MouseButton)
 {
     if (keys != 0 || !m_UseHTML || m_Links.IsEmpty())
         return false;
-    point<int> position{x, y};
-    ElementToControl(&position);
-    SetCursor(m_Links.IsLink(position) ? 12 : 1);
+    SetCursor(m_Links.IsLink(ToLinkPosition(x, y)) ? 12 : 1);
     return true;
 }
 
@@ -357,9 +379,7 @@ bool CCaption::HandleButtonDown(int x, int y, int, MouseButton button)
 {
     if (button != mbLeft || !m_UseHTML || m_Links.IsEmpty())
         return false;
-    point<int> position{x, y};
-    ElementToControl(&position);
-    std::string const link = m_Links.GetLink(position);
+    std::string const link = m_Links.GetLink(ToLinkPosition(x, y));
     if (link.empty())
         return false;
 

@@ -36,7 +36,7 @@ public:
         }
     };
 
-    /// The links of the last drawing. Points and rectangles: control pixels; edges belong to a link.
+    /// The links of the last drawing. Points and rectangles: control pixels of that time; edges belong to a link.
     class VEXEL_API LinkHolder
     {
     public:
@@ -52,6 +52,7 @@ public:
     private:
         std::vector<Link> m_Links;
         bool m_Valid = false;
+        std::vector<Link> m_Spare;  // of the drawing before, so that the next one need not allocate
     };
 
     CCaption(CVisualElement* parent, size<int> const& extent, Alignment alignment);
@@ -119,8 +120,10 @@ private:
     IImageList* GetImages() const;
     size<double> MeasureText(IPainter* painter, size<int> const& image, size<int> const& extra);
     void FollowShortening(bool shortened);
+    point<int> ToLinkPosition(int x, int y) const;
 
     LinkHolder m_Links;
+    point<int> m_LinkOrigin;  // where the caption's left-top was when the links were drawn; control pixels
     std::string m_Caption;
     int m_TextAlign = IPainter::AlignHCenter | IPainter::AlignVCenter;
     int m_ImageIndex = -1;

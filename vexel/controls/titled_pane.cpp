@@ -9,17 +9,21 @@ namespace vexel
 namespace
 {
 
-constexpr double s_TitleExtent = 18;  // unscaled pixels
+// Scaled once: where sizes are scaled automatically, the element scales by itself what it is made with.
+size<int> GetTitleExtent()
+{
+    double const unscaled = 18;
+    double const scale = GetSystemScale();
+    int const extent = ToInt(GetDPIAutoScale() && scale > 1.0 ? unscaled : unscaled * scale);
+    return {extent, extent};
+}
 
 }  // namespace
 
 CTitledPane::CTitledPane(CVisualElement* parent, size<int> const& extent, Alignment alignment)
-    : CPane(parent, extent, alignment), m_Caption(this, {0, 0}, alTop)
+    : CPane(parent, extent, alignment), m_Caption(this, GetTitleExtent(), alTop)
 {
     m_Caption.SetDynamic(false);
-    ISystem* const system = GetCurrentSystem();
-    int const title = ToInt(s_TitleExtent * (system ? system->GetScale() : 1.0));
-    m_Caption.SetSize({title, title}, false);  // scaled once, whether or not sizes are scaled automatically
     m_Caption.m_SigButtonDown.connect(this, &CTitledPane::HandleCaptionButtonDown);
 }
 

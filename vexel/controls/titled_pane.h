@@ -13,7 +13,7 @@ class VEXEL_API CTitledPane : public CPane
 public:
     CTitledPane(CVisualElement* parent, size<int> const& extent, Alignment alignment);
 
-    CElementCaption& GetTitle() { return m_Caption; }  ///< At the top, 18 pixels high, scaled.
+    CElementCaption& GetTitle() { return m_Caption; }  ///< At the top, as high as its font asks.
     CElementCaption const& GetTitle() const { return m_Caption; }
     void SetTitleAlignment(Alignment alignment) { m_Caption.SetAlignment(alignment); }
 

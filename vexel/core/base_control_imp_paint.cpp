@@ -106,6 +106,7 @@ void CBaseControlImp::PaintTree(IPainter* painter)
 {
     if (m_FullUpdate || m_Updates.GetCount() == 0)
     {
+        CVisualElement::s_DrawnWithParent = true;
         if (m_Root)
             m_Root->OnDraw(painter);
         return;

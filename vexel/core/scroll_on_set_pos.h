@@ -13,4 +13,8 @@ namespace vexel
 VEXEL_API bool ScrollOnSetPos(CVisualElement* element, rectangle<int> const& newPos, rectangle<int> const& oldPos,
                               rectangle<int> const& bounds);
 
+/// True if all of `rect` (own pixels, right and bottom included) shows and no visible child lies on it, so that its pixels
+/// can be moved on the screen. Overlapping siblings are not looked for.
+VEXEL_API bool CanMovePixels(CVisualElement const* element, rectangle<int> const& rect);
+
 }  // namespace vexel

@@ -15,6 +15,7 @@ namespace vexel
 
 unsigned long CVisualElement::s_TreeVersion = 1;
 unsigned long CVisualElement::s_DestroyCount = 0;
+bool CVisualElement::s_DrawnWithParent = true;
 CVisualElement::CTransit* CVisualElement::s_Transit = nullptr;
 
 CVisualElement::CVisualElement(CVisualElement* parent, size<int> const& extent, Alignment alignment)

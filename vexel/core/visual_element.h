@@ -3,6 +3,7 @@
 #include "vexel/core/alive_guard.h"
 #include "vexel/core/base.h"
 #include "vexel/core/drag_drop.h"
+#include "vexel/core/draw_elements.h"
 #include "vexel/core/element_list.h"
 #include "vexel/core/fwd.h"
 #include "vexel/core/types.h"
@@ -171,6 +172,8 @@ public:
     /// parent's font is taken over. Under itself or a descendant is refused with an assertion.
     void ReParent(CVisualElement* parent, bool rearrange);
     void SetControl(IControl* control);  ///< This element and all below. Called along the tree, not by applications.
+    /// How many elements have died so far: whoever keeps plain pointers sees by it whether all of these still live.
+    static unsigned long GetDestroyCount() { return s_DestroyCount; }
     bool IsChildrenAvailable(int count) const;  ///< Below 1: is there any child? Otherwise: exactly so many.
     CVisualElement* FindVisualElement(int x, int y) const;  ///< Deepest visible one below; own pixels; null: none.
     /// This one or the first below, depth first. `visibleOnly`: it must be displayable.
@@ -247,6 +250,9 @@ public:
     ISysPalette::SysColor GetFgSysColor() const { return m_FgSysColor; }
 
     // Painting -----------------------------------------------------------------------------------------------------------------
+    /// Within the painting of an element: an ancestor is being painted and the element along with it, so that none of its
+    /// pixels may be counted on. False where the element is painted for itself alone.
+    static bool IsDrawnWithParent() { return s_DrawnWithParent; }
     /// The content rectangle in control pixels, or in the painter's logical units if one is given.
     rectangle<double> GetDrawRect(IPainter* painter) const;
     rectangle<double> GetDrawValidRect(IPainter* painter) const;  ///< The same of the part whose picture stands.
@@ -311,6 +317,7 @@ private:
     friend class CBaseControlImp;
     friend class CChildren;
     friend class CElementList;
+    friend void DrawElements(IVisualElements*, IPainter*, rectangle<int> const&);
 
     struct SFont;    // a font with what it comes to on the present default font; shared by equal elements
     struct STexts;   // what few elements have
@@ -345,6 +352,7 @@ private:
     static unsigned long s_TreeVersion;   // changes with every rectangle and parent
     static unsigned long s_DestroyCount;  // of elements
     static CTransit* s_Transit;           // innermost first
+    static bool s_DrawnWithParent;
 
     // What layout, hit tests and painting touch stands close together.
     rectangle<int> m_Pos;

@@ -131,6 +131,7 @@ void DrawElements(IVisualElements* list, IPainter* painter, rectangle<int> const
         info.m_LogicalExtent = {static_cast<double>(info.m_DeviceExtent.width),
                                 static_cast<double>(info.m_DeviceExtent.height)};
         painter->SetCoordSystem(IPainter::mmCustom, &info);
+        CVisualElement::s_DrawnWithParent = lastParent && list == &lastParent->m_Children;
         element->OnDraw(painter);
         if (!alive || !surface)
             return;
@@ -217,6 +218,23 @@ bool ScrollOnSetPos(CVisualElement* element, rectangle<int> const& newPos, recta
 
     parent->ElementToControl(&area);
     control->ScrollContent(dx, dy, {area.left, area.top, area.right, area.bottom});
+    return true;
+}
+
+bool CanMovePixels(CVisualElement const* element, rectangle<int> const& rect)
+{
+    rectangle<int> shown = rect;
+    if (!element->GetDisplayableRect(&shown) || shown != rect)
+        return false;
+    IChildren* const children = element->GetChildren();
+    for (int i = 0; i < children->GetCount(); ++i)
+    {
+        CVisualElement const* const child = children->GetItem(i);
+        rectangle<int> const& pos = child->GetPos();
+        if (child->IsVisible() && pos.left <= rect.right && rect.left <= pos.right && pos.top <= rect.bottom &&
+            rect.top <= pos.bottom)
+            return false;
+    }
     return true;
 }
 

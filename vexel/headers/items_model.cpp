@@ -3,6 +3,9 @@
 namespace vexel
 {
 
-IItemsModel::~IItemsModel() = default;
+IItemsModel::~IItemsModel()
+{
+    m_SigDestroy(this);
+}
 
 }  // namespace vexel

@@ -12,11 +12,16 @@ namespace vexel
 class VEXEL_API IItemsModel
 {
 public:
+    IItemsModel() = default;
+    IItemsModel(IItemsModel const&) = delete;
+    IItemsModel& operator=(IItemsModel const&) = delete;
     virtual ~IItemsModel();
     virtual int GetItemCount() const = 0;
     virtual std::string GetItemCaption(int index) const = 0;
 
     signal_t<> m_SigChanged;  ///< The content is another.
+    /// The model dies; only this class's part still lives. Widgets forget it.
+    signal_t<IItemsModel*> m_SigDestroy;
 };
 
 /// Items with pictures.

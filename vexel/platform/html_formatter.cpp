@@ -318,7 +318,8 @@ void CHTMLTextFormatter::DrawLinkPart(IPainter* painter, int x, int y)
     rectangle<int> rect = painter->RunToDevice({x, y, AddSaturated(x, width), AddSaturated(y, height)});
     rect.right = SubtractSaturated(rect.right, 1);
     rect.bottom = SubtractSaturated(rect.bottom, 1);
-    if (m_State.told)
+    // In a turned text further parts may stand anywhere beside the first one.
+    if (m_State.told && m_BaseFont.rotation % 3600 == 0)
     {
         OnDrawLink(nullptr, 0, rect);
         return;

@@ -66,8 +66,9 @@ public:
     void SkipText(char const* text, int length) override;
 
     /// A part of a link was drawn. `target`: the link's target, `length` characters, not terminated; null for the
-    /// further parts of a link that is spread over several lines or styles. `rect`: device pixels of the window, edges
-    /// included. Never called while a text is only measured.
+    /// further parts of a link that is spread over several lines or styles, which stand behind or below the first one.
+    /// In a turned text each part has the target. `rect`: device pixels of the window, edges included. Never called
+    /// while a text is only measured.
     virtual void OnDrawLink(char const* target, int length, rectangle<int> const& rect);
 
 protected:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexel/core/alive_guard.h"
 #include "vexel/export.h"
 #include "vexel/signals/signal.h"
 #include "vexel/views/dirty_item_set.h"
@@ -13,16 +14,30 @@ class IIndexTranslator;
 class VEXEL_API IBaseItemsModel : public IDirtyItemSet
 {
 public:
+    IBaseItemsModel() = default;
+    IBaseItemsModel(IBaseItemsModel const&) = delete;
+    IBaseItemsModel& operator=(IBaseItemsModel const&) = delete;
+    ~IBaseItemsModel() override
+    {
+        CAliveLink::Forget(this);
+        m_SigDestroy(this);
+    }
+
     /// The items have other indices now. Null: nothing.
     virtual void UpdateModelState(IIndexTranslator* translator) = 0;
 
     signal_t<> m_SigChanged;  ///< Anything that needs a repaint or a new layout; after the change.
+    /// The model dies; only this class's part still lives. Views go back to their own models.
+    signal_t<IBaseItemsModel*> m_SigDestroy;
 };
+
+/// Guards a model whose signals are fired: a slot may delete it.
+using CModelGuard = CAlivePtr<IBaseItemsModel const>;
 
 /// The geometry of one axis of a list or grid: how many items, how big each, how much room the view has and where it
 /// stands. Holds no item data. Sizes and positions are pixels along the axis; indices start at 0.
 ///
-/// Signals fire inside the setters. A slot of m_SigSizeChanged sees the model in mid-change and must not delete it.
+/// Signals fire inside the setters. A slot of m_SigSizeChanged sees the model in mid-change.
 class VEXEL_API IBaseItemViewModel : public IBaseItemsModel
 {
 public:

@@ -74,6 +74,35 @@ TEST(ControlAllocation, ACaptionThatIsTurnedWithItsSide)
     EXPECT_EQ(bench.AllocationsOfADrawing(caption), 0);
 }
 
+TEST(ControlAllocation, ACaptionWithLinks)
+{
+    SBench bench;
+    CCaption caption(nullptr, {0, 0}, alClient);
+    caption.UseHTML(true);
+    caption.SetTextAlign(IPainter::AlignLeft | IPainter::AlignTop);
+    caption.SetCaption("<a href=\"a\">short</a> and <a href=\"a target that no small buffer has room for\">long, over "
+                       "two lines</a> and <a href=\"another of those targets without end\"><b>bo</b>ld</a>");
+    EXPECT_EQ(bench.AllocationsOfADrawing(caption), 0);
+    EXPECT_TRUE(caption.HandleButtonDown(5, 4, 1, mbLeft));
+}
+
+TEST(ControlAllocation, LinksThatAreNotDrawnAgainAreFreed)
+{
+    CCaption::LinkHolder holder;
+    std::string const target(100, 't');
+    auto const draw = [&](int links) {
+        holder.SetValid(false);
+        for (int i = 0; i < links; ++i)
+            holder.AddLink(target.data(), 100, {i, 0, i, 8});
+        holder.SetValid(true);
+    };
+    draw(3);
+    draw(3);
+    long const before = SAllocations::s_Alive;
+    draw(1);
+    EXPECT_EQ(SAllocations::s_Alive, before - 2);
+}
+
 TEST(ControlAllocation, ButtonsOfAllLooksAndStages)
 {
     EXPECT_EQ(AllocationsOfAButton([](CButton&) {}), 0);

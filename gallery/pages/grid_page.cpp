@@ -1,0 +1,77 @@
+#include "gallery/pages/grid_page.h"
+
+#include "vexel/platform/system.h"
+#include "vexel/scroll/scroll_box.h"
+
+#include <limits>
+
+namespace gallery
+{
+
+namespace
+{
+
+constexpr int s_Rows = std::numeric_limits<int>::max();
+constexpr int s_Columns = 1000;
+
+}  // namespace
+
+CGridPage::CGridPage() : m_Columns(s_Columns) {}
+
+CGridPage::~CGridPage() = default;
+
+void CGridPage::Build(CVisualElement* parent)
+{
+    m_Columns.SetItemCount(s_Columns);
+    m_Columns.m_Caption = [](int column) { return "Column " + std::to_string(column + 1); };
+
+    auto* const box = new CScrollBox(parent, {0, 0}, alClient);
+    auto* const header = new CSimpleHeader(box, {0, 24}, alTop);
+    m_Grid = new CTextGrid(box, {0, 0}, alClient, [this](int row, int column, std::string& text) {
+        int const number = m_Columns.VisibleIndex2ModelIndex(column);
+        bool const down = m_Columns.m_SortedColumn == number && m_Columns.m_Direction == 2;
+        long long const first = down ? static_cast<long long>(s_Rows) - row : row + 1LL;
+        text = std::to_string(number == 0 ? first : first * 1000 + number);
+    });
+    m_Grid->SetHighlight("77");
+    m_Grid->GetRowViewModel()->SetCount(s_Rows);
+    IDiscreteItemViewModel* const columns = m_Grid->GetColumnViewModel();
+    columns->SetDefaultItemSize(static_cast<int>(110 * GetSystemScale()));
+    columns->SetCount(s_Columns);
+    columns->SetItemSize(0, static_cast<int>(90 * GetSystemScale()));
+    m_Grid->GetRowHandler().SetNotifySelection(true);
+
+    header->SetModel(&m_Columns);
+    header->SetViewModel(columns);
+    m_Columns.ConnectHeader(header);
+    box->ConnectElement(m_Grid, CScrollBox::ctBoth, true);
+    box->ConnectElement(header, CScrollBox::ctHorizontal, false);
+
+    header->m_SigSectionClicked.connect(this, &CGridPage::SectionClicked);
+    header->m_SigSectionMoved.connect(this, &CGridPage::SectionMoved);
+    Report(header->m_SigSectionClicked, "clicked");
+    Report(header->m_SigResized, "resized");
+    Report(header->m_SigSectionMoved, "moved");
+    Report(header->m_SigDividerDoubleClicked, "divider double-clicked");
+    Report(m_Grid->GetRowSelectionModel()->m_SigCurrentChanged, "current row");
+    Report(m_Grid->m_SigSelectionChanged, "selection changed");
+}
+
+void CGridPage::SectionClicked(CSimpleHeader*, int section)
+{
+    m_Columns.Sort(section);
+    RepaintAll();
+}
+
+void CGridPage::SectionMoved(CSimpleHeader*, int, int)
+{
+    RepaintAll();
+}
+
+void CGridPage::RepaintAll()
+{
+    m_Grid->GetRowViewModel()->AddDirtyItems(0, s_Rows);
+    m_Grid->Update(utElement);
+}
+
+}  // namespace gallery

@@ -1,0 +1,429 @@
+#include "vexel/scroll/scroll_box.h"
+
+#include "vexel/core/control.h"
+#include "vexel/platform/sys_window.h"
+#include "vexel/platform/system.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vexel
+{
+
+namespace
+{
+
+int GetBarMetric()
+{
+    ISystem* const system = GetCurrentSystem();
+    return system ? system->GetSystemMetric(ISystem::smScrollBarWidth) : 0;
+}
+
+}  // namespace
+
+// The wrapped models ------------------------------------------------------------------------------------------------------
+
+void CScrollBox::CInternalScrollModel::SetStepSize(double, double) const
+{
+    if (m_Wrapped)
+        static_cast<void>(m_Wrapped->GetFrom());
+    m_Owner->RefreshScroll();
+}
+
+void CScrollBox::CInternalScrollModel::SetMeasure(std::pair<double, int> measure)
+{
+    if (m_Wrapped)
+        m_Wrapped->SetMeasure(measure);
+    m_Owner->RefreshScroll();
+}
+
+std::pair<double, int> CScrollBox::CInternalScrollModel::GetMeasure() const
+{
+    return m_Wrapped ? m_Wrapped->GetMeasure() : std::pair<double, int>(1.0, 1);
+}
+
+void CScrollBox::CInternalScrollModel::Update()
+{
+    m_Owner->RefreshScroll();
+}
+
+void CScrollBox::CVertInternalScrollModel::SetStart(double value)
+{
+    CAliveGuard const alive(m_Owner);
+    m_Owner->VertScroll(CScrollEvent::saSetValue, value);
+    if (alive)
+        m_Owner->RefreshScroll();
+}
+
+void CScrollBox::CHorzInternalScrollModel::SetStart(double value)
+{
+    CAliveGuard const alive(m_Owner);
+    m_Owner->HorzScroll(CScrollEvent::saSetValue, value);
+    if (alive)
+        m_Owner->RefreshScroll();
+}
+
+// Life --------------------------------------------------------------------------------------------------------------------
+
+CScrollBox::CScrollBox(CVisualElement* parent, size<int> const& extent, Alignment alignment)
+    : CScrollableElement(parent, extent, alignment), m_VertHolder(this, {0, 0}, alRight),
+      m_HorzHolder(this, {0, 0}, alBottom), m_Corner(&m_VertHolder, {0, 0}, alBottom),
+      m_VertBarHost(&m_VertHolder, {0, 0}, alClient), m_HorzBarHost(&m_HorzHolder, {0, 0}, alClient)
+{
+    CBase* const parts[] = {&m_VertHolder, &m_HorzHolder, &m_Corner, &m_VertBarHost, &m_HorzBarHost};
+    for (CBase* const part : parts)
+        part->SetDynamic(false);
+    int const thickness = GetBarMetric();  // device pixels
+    m_VertHolder.SetSize({thickness, thickness}, false);
+    m_HorzHolder.SetSize({thickness, thickness}, false);
+    m_VertElement.m_SigScroll.connect(this, &CScrollBox::VertScroll);
+    m_HorzElement.m_SigScroll.connect(this, &CScrollBox::HorzScroll);
+    CreateScrollbars(GetControl());
+    RefreshScroll();
+}
+
+CScrollBox::~CScrollBox()
+{
+    SetModelOwner(nullptr);
+    TakeWrappersBack();
+}
+
+void CScrollBox::ProcessSetControl(IControl* control)
+{
+    CreateScrollbars(control);
+}
+
+void CScrollBox::AfterSetControl()
+{
+    RefreshScroll();
+}
+
+void CScrollBox::HandleControlDestroy()
+{
+    ReleaseScrollbars();
+}
+
+// Bars --------------------------------------------------------------------------------------------------------------------
+
+void CScrollBox::CreateScrollbars(IControl* control)
+{
+    CAliveGuard const alive(this);
+    ReleaseScrollbars();
+    ISysWindow* const window = alive && control ? control->GetWindow() : nullptr;
+    if (!window)
+        return;
+    vexel_ptr<IScrollBar> const vertical = window->CreateScrollBar(ISysWindow::stVertical);
+    vexel_ptr<IScrollBar> const horizontal = window->CreateScrollBar(ISysWindow::stHorizontal);
+    if (!vertical || !horizontal)
+        return;
+
+    m_VertBarHost.SetNativeControl(vertical.get());
+    if (!alive)
+        return;
+    m_VertBarHost.FitWidth();
+    int const width = m_VertBarHost.GetSize().width;
+    m_VertHolder.SetWidth(width, false);
+    m_HorzBarHost.SetNativeControl(horizontal.get());
+    if (!alive)
+        return;
+    m_HorzBarHost.FitHeight();
+    int const height = m_HorzBarHost.GetSize().height;
+    m_HorzHolder.SetHeight(height, false);
+    m_Corner.SetSize({width, height}, false);
+
+    m_VertBar = vertical.get();
+    m_HorzBar = horizontal.get();
+    m_VertElement.SetScrollBar(m_VertBar);
+    m_HorzElement.SetScrollBar(m_HorzBar);
+    m_VertBar->Subscribe(&m_VertElement, typeid(IScrollBarNotify), true);
+    m_HorzBar->Subscribe(&m_HorzElement, typeid(IScrollBarNotify), true);
+}
+
+void CScrollBox::ReleaseScrollbars()
+{
+    m_VertBar = nullptr;
+    m_VertElement.SetScrollBar(nullptr);
+    m_HorzBar = nullptr;
+    m_HorzElement.SetScrollBar(nullptr);
+    CAliveGuard const alive(this);
+    m_VertBarHost.SetNativeControl(nullptr);
+    if (alive)
+        m_HorzBarHost.SetNativeControl(nullptr);
+}
+
+void CScrollBox::SetCornerAlways(bool always)
+{
+    if (always == m_CornerAlways)
+        return;
+    m_CornerAlways = always;
+    RefreshScroll();
+}
+
+void CScrollBox::RefreshScroll()
+{
+    CAliveGuard const alive(this);
+    bool const vertBefore = m_VertElement.IsScrollBarVisible();
+    bool const horzBefore = m_HorzElement.IsScrollBarVisible();
+    // The vertical bar comes first: where it appears it narrows the pane.
+    if (CVisualElement const* const pane = GetCentralPane())
+        m_VertElement.Recalculate(GetVertScroll(), pane->GetBounds().bottom);
+    if (!alive)
+        return;
+    m_VertHolder.SetVisible(m_VertElement.IsScrollBarVisible());
+    if (!alive)
+        return;
+    if (CVisualElement const* const pane = GetCentralPane())
+        m_HorzElement.Recalculate(GetHorzScroll(), pane->GetBounds().right);
+    if (!alive)
+        return;
+    m_HorzHolder.SetVisible(m_HorzElement.IsScrollBarVisible());
+    if (!alive)
+        return;
+    bool const vertical = m_VertElement.IsScrollBarVisible();
+    bool const horizontal = m_HorzElement.IsScrollBarVisible();
+    if (vertical != vertBefore || horizontal != horzBefore)
+        OnRearrange(this);
+    if (alive)
+        m_Corner.SetVisible((vertical && horizontal) || m_CornerAlways);
+}
+
+// What is scrolled ----------------------------------------------------------------------------------------------------------
+
+void CScrollBox::SetCentralPane(CVisualElement* pane)
+{
+    if (!pane || pane == GetCentralPane())
+        return;
+    CScrollableElement::SetCentralPane(pane);
+    RefreshScroll();
+}
+
+void CScrollBox::SetVertScroll(IScrollModel* model)
+{
+    if (model == &m_VertWrapper)
+        return;
+    m_OwnerTypes &= ~unsigned{ctVertical};
+    CScrollableElement::SetVertScroll(model);
+    m_VertWrapper.SetWrapped(model);
+    RefreshScroll();
+}
+
+void CScrollBox::SetHorzScroll(IScrollModel* model)
+{
+    if (model == &m_HorzWrapper)
+        return;
+    m_OwnerTypes &= ~unsigned{ctHorizontal};
+    CScrollableElement::SetHorzScroll(model);
+    m_HorzWrapper.SetWrapped(model);
+    RefreshScroll();
+}
+
+void CScrollBox::ConnectElement(CScrollableElement* element, ConnectionType type, bool connect)
+{
+    if (!element)
+        return;
+    CAliveGuard const alive(this);
+    CAliveGuard const other(element);
+    KeepConnected(element);
+    if (connect)
+    {
+        SetModelOwner(element);
+        SetCentralPane(element);
+        if (!alive || !other)
+            return;
+        // A wrapped model has no meaning inside of its wrapping: a second connection keeps what is there.
+        if ((type & ctHorizontal) && element->GetHorzScroll() != &m_HorzWrapper)
+            SetHorzScroll(element->GetHorzScroll());
+        if (!alive || !other)
+            return;
+        if ((type & ctVertical) && element->GetVertScroll() != &m_VertWrapper)
+            SetVertScroll(element->GetVertScroll());
+        if (!alive || !other)
+            return;
+        m_OwnerTypes |= static_cast<unsigned>(type);
+        if (type & ctVertical)
+            element->SetVertScroll(&m_VertWrapper);
+        if ((type & ctHorizontal) && other && alive)
+            element->SetHorzScroll(&m_HorzWrapper);
+        return;
+    }
+    if (type & ctVertical)
+        element->SetVertScroll(&m_VertWrapper);
+    if ((type & ctHorizontal) && other && alive)
+        element->SetHorzScroll(&m_HorzWrapper);
+    if ((type & ctBoth) && other && alive)
+        element->SetCentralPane(GetCentralPane());
+}
+
+void CScrollBox::KeepConnected(CScrollableElement* element)
+{
+    // The places of those that died are taken again.
+    CElementPtr<CScrollableElement>* place = nullptr;
+    for (auto const& connected : m_Connected)
+    {
+        if (connected->get() == element)
+            return;
+        if (!*connected)
+            place = connected.get();
+    }
+    if (!place)
+        place = m_Connected.emplace_back(std::make_unique<CElementPtr<CScrollableElement>>()).get();
+    place->Watch(element);
+}
+
+// Elements may outlive the box; its models may not be left in them.
+void CScrollBox::TakeWrappersBack()
+{
+    for (auto const& connected : m_Connected)
+    {
+        if (*connected && (*connected)->GetVertScroll() == &m_VertWrapper)
+            (*connected)->SetVertScroll(nullptr);
+        if (*connected && (*connected)->GetHorzScroll() == &m_HorzWrapper)
+            (*connected)->SetHorzScroll(nullptr);
+    }
+}
+
+void CScrollBox::SetModelOwner(CScrollableElement* element)
+{
+    if (element == m_ModelOwner)
+        return;
+    if (m_ModelOwner)
+        m_ModelOwner->m_SigDestroy.disconnect(this, &CScrollBox::ModelOwnerDies);
+    m_ModelOwner = element;
+    m_OwnerTypes = 0;
+    if (m_ModelOwner)
+        m_ModelOwner->m_SigDestroy.connect(this, &CScrollBox::ModelOwnerDies);
+}
+
+// Its models have gone with it.
+void CScrollBox::ModelOwnerDies(CVisualElement*)
+{
+    m_ModelOwner = nullptr;
+    unsigned const types = m_OwnerTypes;
+    CAliveGuard const alive(this);
+    if (types & ctVertical)
+        SetVertScroll(nullptr);
+    if ((types & ctHorizontal) && alive)
+        SetHorzScroll(nullptr);
+}
+
+// Moves -------------------------------------------------------------------------------------------------------------------
+
+int CScrollBox::ScrollImp(IScrollModel* model, double value)
+{
+    if (!model || m_InScroll)
+        return 0;
+
+    class CScope
+    {
+    public:
+        explicit CScope(CScrollBox* box) : m_Alive(box), m_Box(box) { box->m_InScroll = true; }
+        ~CScope()
+        {
+            if (m_Alive)
+                m_Box->m_InScroll = false;
+        }
+        CScope(CScope const&) = delete;
+        CScope& operator=(CScope const&) = delete;
+
+        CAliveGuard const m_Alive;
+
+    private:
+        CScrollBox* const m_Box;
+    };
+
+    CScope const scope(this);
+    double const old = model->GetStart();
+    model->SetStart(value);
+    // Whoever heard of it may have taken the model away.
+    bool const isStill = scope.m_Alive && (model == GetVertScroll() || model == GetHorzScroll());
+    if (!isStill || !m_ReportPixels)
+        return 0;
+    CScrollConverter const converter(model);
+    int const distance = FloorToInt(converter.L2P(model->GetStart()) - converter.L2P(old) + 0.5);
+    return model->GetFrom() > model->GetTo() ? SubtractSaturated(0, distance) : distance;
+}
+
+void CScrollBox::VertScroll(CScrollEvent::ScrollAction, double value)
+{
+    CAliveGuard const alive(this);
+    int const distance = ScrollImp(GetVertScroll(), value);
+    if (!alive || distance == 0)
+        return;
+    Scroll(0, SubtractSaturated(0, distance), false);
+    if (alive)
+        UpdateAtOnce();
+}
+
+void CScrollBox::HorzScroll(CScrollEvent::ScrollAction, double value)
+{
+    CAliveGuard const alive(this);
+    int const distance = ScrollImp(GetHorzScroll(), value);
+    if (!alive || distance == 0)
+        return;
+    Scroll(SubtractSaturated(0, distance), 0, false);
+    if (alive)
+        UpdateAtOnce();
+}
+
+void CScrollBox::UpdateAtOnce()
+{
+    ISysWindow* const window = m_UpdateAtOnce && GetControl() ? GetControl()->GetWindow() : nullptr;
+    if (window)
+        window->UpdateNow();
+}
+
+bool CScrollBox::HandleWheel(int, int, int, MouseButton, int delta)
+{
+    CAliveGuard const alive(this);
+    int step = 1;
+    m_SigGetWheelStep(this, step);
+    alive.Check();
+
+    bool const vertical = GetVertScroll() && m_VertElement.IsScrollBarVisible();
+    if (!vertical && !(GetHorzScroll() && m_HorzElement.IsScrollBarVisible()))
+        return false;
+    IScrollModel const* const model = vertical ? GetVertScroll() : GetHorzScroll();
+    double const old = model->GetStart();
+    double const value = old - static_cast<double>(step) * delta;
+    if (vertical)
+        VertScroll(CScrollEvent::saLine, value);
+    else
+        HorzScroll(CScrollEvent::saLine, value);
+    alive.Check();
+    IScrollModel const* const present = vertical ? GetVertScroll() : GetHorzScroll();
+    if (present == model && model->GetStart() != old)
+        RefreshScroll();
+    return true;
+}
+
+// From CVisualElement -------------------------------------------------------------------------------------------------------
+
+void CScrollBox::SetPos(rectangle<int> const& rect, bool force)
+{
+    rectangle<int> const old = GetPos();
+    CAliveGuard const alive(this);
+    CScrollableElement::SetPos(rect, force);
+    if (alive && (force || GetPos() != old))
+        RefreshScroll();
+}
+
+void CScrollBox::SetEnabled(bool enabled)
+{
+    CAliveGuard const alive(this);
+    CScrollableElement::SetEnabled(enabled);
+    if (!alive)
+        return;
+    m_VertElement.SetEnabled(enabled);
+    m_HorzElement.SetEnabled(enabled);
+    if (enabled)
+    {
+        RefreshScroll();
+        return;
+    }
+    if (m_VertBar)
+        m_VertBar->SetEnabled(false);
+    if (m_HorzBar)
+        m_HorzBar->SetEnabled(false);
+}
+
+}  // namespace vexel

@@ -1,0 +1,256 @@
+#include "vexel/platform/convert.h"
+#include "vexel/platform/painter.h"
+#include "vexel/views/item_event_handler.h"
+#include "vexel/views/item_walks.h"
+
+#include <algorithm>
+
+namespace vexel
+{
+
+namespace
+{
+
+constexpr int s_DragStep = 8;   // pixels a tick, at any scale
+constexpr int s_DragSlack = 2;  // a range that is longer than the view by less than this counts as fitting
+
+}  // namespace
+
+int CContinuousItemEventHandler::GetItemIndex(int x, int y)
+{
+    return Utils::HitTest(GetViewModel(), AlongOf(x, y));
+}
+
+void CContinuousItemEventHandler::OnColViewModelScroll(int position, int delta, bool* handled)
+{
+    if (!GetViewer() || delta == 0)
+    {
+        *handled = false;
+        return;
+    }
+    *handled = ScrollItems(position, delta);
+    RequestRepaint();
+}
+
+void CContinuousItemEventHandler::CalcFirstSection(int* first, int* skip) const
+{
+    IContinuousItemViewModel const* const model = GetViewModel();
+    int const offset = model->GetOffset();
+    int const item = Utils::HitTestImpl(model, offset, 0);
+    if (item < 0)
+        return;
+    *first = item;
+    *skip = SubtractSaturated(offset, Utils::GetItemOffset(model, item));
+}
+
+// Into view ------------------------------------------------------------------------------------------------------------------
+
+bool CContinuousItemEventHandler::MakeCurrentVisible(bool toEnd)
+{
+    IContinuousItemViewModel* const model = GetViewModel();
+    int const current = GetCurrent();
+    if (IsNoAutoVisible() || model->GetCount() < 2)
+        return false;
+    int const begin = Utils::GetItemOffset(model, current);
+    int const size = current < 0 ? 0 : model->GetItemSize(current);
+    int const end = AddSaturated(begin, size);
+    int const view = model->GetViewSize();
+    if (begin >= model->GetOffset() && end <= AddSaturated(model->GetOffset(), view))
+        return false;
+    model->SetOffset(toEnd && size < view ? SaturateToInt(std::int64_t{end} - view - 1) : begin);
+    return true;
+}
+
+void CContinuousItemEventHandler::ShowNewCurrent(int before)
+{
+    MakeCurrentVisible(before < GetCurrent());
+}
+
+void CContinuousItemEventHandler::ItemToView(int item)
+{
+    IContinuousItemViewModel* const model = GetViewModel();
+    if (model->GetCount() < 2 || item < 0 || item >= model->GetCount())
+        return;
+    int const view = model->GetViewSize();
+    int const size = model->GetItemSize(item);
+    int begin = Utils::GetItemOffset(model, item);
+    if (begin >= model->GetOffset() && AddSaturated(begin, size) <= AddSaturated(model->GetOffset(), view))
+        return;
+    if (view > size)
+    {
+        int const before = (view - size) / 2;
+        if (begin > before)
+            begin -= before;
+        int const full = model->GetFullItemsSize();
+        if (SubtractSaturated(full, begin) <= view)
+            begin = SaturateToInt(std::int64_t{full} - view - 1);
+    }
+    model->SetOffset(begin);
+}
+
+// Mouse ---------------------------------------------------------------------------------------------------------------------
+
+bool CContinuousItemEventHandler::ProcessButtonDown(int x, int y, int keys, MouseButton button, bool*)
+{
+    if (button != mbLeft)
+        return false;
+    m_Down = {x, y};
+    m_FromKeyboard = false;
+    return PressItem(GetItemIndex(x, y), keys);
+}
+
+bool CContinuousItemEventHandler::ProcessMouseMove(int x, int y, int keys, MouseButton button, bool* handled)
+{
+    CAlivePtr<CEventHandler> const alive(this);
+    CEventHandlerBase::ProcessMouseMove(x, y, keys, button, handled);
+    if (!alive || !IsDragging(keys, button))
+        return false;
+    return DragTo(GetItemIndex(x, y), x, y, button, handled);
+}
+
+void CContinuousItemEventHandler::ProcessRepeatOperation()
+{
+    IContinuousItemViewModel* const model = GetViewModel();
+    int const before = GetCurrent();
+    int const view = model->GetViewSize();
+    int offset = model->GetOffset();
+    bool const forward = m_ScrollState == ssForward;
+    if (forward)
+    {
+        int const room = SubtractSaturated(model->GetFullItemsSize(), view);
+        int const limit = room < s_DragSlack ? 0 : room;
+        offset = AddSaturated(offset, s_DragStep);
+        if (offset >= limit)
+        {
+            offset = limit;
+            StopScrolling();
+        }
+    }
+    else
+    {
+        offset -= s_DragStep;
+        if (offset < 0)
+        {
+            offset = 0;
+            StopScrolling();
+        }
+    }
+    CAlivePtr<CEventHandler> const alive(this);
+    model->SetOffset(offset);
+    if (!alive)
+        return;
+    IContinuousItemViewModel const* const now = GetViewModel();
+    int const edge = forward ? AddSaturated(now->GetViewSize(), now->GetOffset()) : now->GetOffset();
+    int const item = Utils::HitTestImpl(now, edge, 0);
+    if (item < 0)
+        return;
+    SetCurrentItem(item);
+    if (alive)
+        ProcessItemChange(before, item, ksShift, GetSelectionModel());
+}
+
+// Keys ----------------------------------------------------------------------------------------------------------------------
+
+bool CContinuousItemEventHandler::ProcessKeyDown(int keys, int key, bool*)
+{
+    CAlivePtr<CEventHandler> const alive(this);
+    if (SelectAll(keys, key))
+        return true;
+    m_FromKeyboard = true;
+    int const before = GetCurrent();
+    if (key == vkSpace)
+    {
+        if (GetSelectionType() != stNone)
+            ToggleItem(before);
+    }
+    else if (!MoveByKey(key))
+    {
+        return false;
+    }
+    if (alive)
+        FollowCurrent(before, keys);
+    return true;
+}
+
+bool CContinuousItemEventHandler::MoveByKey(int key)
+{
+    bool const vertical = GetDirection() == idVertical;
+    CAlivePtr<CEventHandler> const alive(this);
+    IContinuousItemViewModel* const model = GetViewModel();
+    int const current = GetCurrent();
+    int const last = model->GetCount() - 1;
+    switch (key)
+    {
+    case vkEnd:
+    case vkHome:
+        if (!vertical)
+            return false;
+        model->SetOffset(key == vkEnd ? SubtractSaturated(model->GetFullItemsSize(), model->GetViewSize()) : 0);
+        if (alive)
+            SetCurrentItem(key == vkEnd ? last : 0);
+        return true;
+    case vkUp:
+    case vkLeft:
+        if (vertical != (key == vkUp))
+            return false;
+        SetCurrentItem(current > 0 ? std::min(current - 1, last) : 0);
+        if (alive)
+            MakeCurrentVisible(false);
+        return true;
+    case vkDown:
+    case vkRight:
+        if (vertical != (key == vkDown))
+            return false;
+        SetCurrentItem(current >= -1 ? std::min(AddSaturated(current, 1), last) : 0);
+        if (alive)
+            MakeCurrentVisible(true);
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Paint ---------------------------------------------------------------------------------------------------------------------
+
+void CContinuousItemEventHandler::ProcessDraw(IPainter* painter, rectangle<double> const& rect)
+{
+    if (!painter || !m_Painter)
+        return;
+    IContinuousItemViewModel const* const model = GetViewModel();
+    ISelectionModel const* const selection = GetSelectionModel();
+    double const from = m_Layout->GetAlong(rect.left, rect.top);
+    double const near = m_Layout->GetAcross(rect.left, rect.top);
+    double const far = m_Layout->GetAcross(rect.right, rect.bottom);
+    int const view = model->GetViewSize();
+    int const count = model->GetCount();
+    int const current = selection->GetCurrent();
+    bool const stretch = model->IsLastItemStretched();
+
+    CAlivePtr<CEventHandler> const alive(this);
+    CModelGuard const modelAlive(model);
+    CModelGuard const selectionAlive(selection);
+    int first = -1;
+    int skip = 0;
+    if (view >= 0)
+        CalcFirstSection(&first, &skip);
+    double const to = from + std::max(view, 0);
+    double position = from;
+    for (int i = first; i >= 0 && i < count && position <= to; ++i)
+    {
+        double end = position + std::max(model->GetItemSize(i) - skip, 1) - 1;
+        if (stretch && i == count - 1)
+            end = std::max(to, end);
+        int const state = (selection->IsItemSelected(i) ? isSelected : 0) | (i == current ? isCurrent : 0);
+        IDirtyItemSet::DirtyType const dirty =
+            GetCellUpdateType(painter, model->GetItemType(i), selection->GetItemType(i));
+        m_Painter->DrawItem(painter, i, skip, state, m_Layout->MakeRect(position, near, end, far), dirty);
+        if (!alive || !modelAlive || !selectionAlive)
+            return;
+        skip = 0;
+        position = end + 1;
+    }
+    if (!(stretch && count > 0) && position <= to)
+        m_Painter->DrawEmptyArea(painter, m_Layout->MakeRect(position, near, to, far));
+}
+
+}  // namespace vexel

@@ -1,0 +1,287 @@
+#include "vexel/platform/convert.h"
+#include "vexel/platform/painter.h"
+#include "vexel/views/item_event_handler.h"
+#include "vexel/views/item_walks.h"
+
+#include <algorithm>
+
+namespace vexel
+{
+
+int CDiscreteItemEventHandler::GetItemIndex(int x, int y)
+{
+    return Utils::HitTest(GetViewModel(), AlongOf(x, y));
+}
+
+void CDiscreteItemEventHandler::OnRowViewModelScroll(int position, int delta, bool* handled)
+{
+    if (!GetViewer() || delta == 0)
+    {
+        *handled = false;
+        return;
+    }
+    if (*handled)  // the model says that pixels can be moved
+        *handled = ScrollItems(position, delta);
+    RequestRepaint();
+}
+
+// Into view ------------------------------------------------------------------------------------------------------------------
+
+bool CDiscreteItemEventHandler::MakeCurrentVisible(bool toStart)
+{
+    IDiscreteItemViewModel* const model = GetViewModel();
+    int const current = GetCurrent();
+    if (IsNoAutoVisible() || (model->GetStartItem() <= current && current <= Utils::GetLastVisibleItem(model)))
+        return false;
+    if (toStart)
+        model->SetStartItem(current);
+    else
+        model->SetStartItem(current < 0 ? 0 : Utils::CalcStart(model, current));
+    return true;
+}
+
+void CDiscreteItemEventHandler::CheckNewCurrent()
+{
+    IDiscreteItemViewModel* const model = GetViewModel();
+    int const current = GetCurrent();
+    std::int64_t const behind = std::int64_t{current} - Utils::GetLastVisibleItem(model);
+    if (behind < 1 || behind > 2)
+        return;
+    int start = current;
+    if (current >= 0 && model->GetViewSize() >= 1)
+    {
+        std::int64_t room = std::int64_t{model->GetViewSize()} - model->GetItemSize(current);
+        while (start > 0 && room >= model->GetItemSize(start - 1))
+            room -= std::max(model->GetItemSize(--start), 1);
+    }
+    model->SetStartItem(start);
+}
+
+void CDiscreteItemEventHandler::ShowNewCurrent(int)
+{
+    CheckNewCurrent();
+}
+
+void CDiscreteItemEventHandler::ItemToView(int item)
+{
+    IDiscreteItemViewModel* const model = GetViewModel();
+    if (item < 0 || item >= model->GetCount())
+        return;
+    int const room = SubtractSaturated(model->GetViewSize(), model->GetItemSize(item));
+    std::int64_t const half = std::max(room / 2, 0);
+    int start = item;
+    if (room >= 2)
+    {
+        std::int64_t sum = 0;
+        while (start > 0 && sum < half)
+            sum += std::max(model->GetItemSize(--start), 1);
+        if (sum > half)
+            ++start;
+    }
+    model->SetStartItem(std::min({start, item, Utils::CalcMaxStart(model)}));
+}
+
+// Mouse ---------------------------------------------------------------------------------------------------------------------
+
+bool CDiscreteItemEventHandler::ProcessButtonDown(int x, int y, int keys, MouseButton button, bool*)
+{
+    int const item = GetItemIndex(x, y);
+    bool const left = button == mbLeft;
+    // A right click on what is selected leaves the selection to the context menu.
+    if (!left && (button != mbRight || GetSelectionModel()->IsItemSelected(item)))
+        return false;
+    m_Down = {x, y};
+    m_FromKeyboard = false;
+    return PressItem(item, keys);
+}
+
+bool CDiscreteItemEventHandler::ProcessMouseMove(int x, int y, int keys, MouseButton button, bool* handled)
+{
+    CAlivePtr<CEventHandler> const alive(this);
+    CEventHandlerBase::ProcessMouseMove(x, y, keys, button, handled);
+    if (!alive || !IsDragging(keys, button))
+        return false;
+    return DragTo(GetItemIndex(x, y), x, y, button, handled);
+}
+
+// A drag past the edge: one item at a time.
+void CDiscreteItemEventHandler::ProcessRepeatOperation()
+{
+    IDiscreteItemViewModel* const model = GetViewModel();
+    int const before = GetCurrent();
+    int item = 0;
+    int start = model->GetStartItem();
+    if (m_ScrollState == ssForward)
+    {
+        int const last = Utils::CalcMaxStart(model);
+        start = AddSaturated(start, 1);
+        if (start < last)
+        {
+            item = Utils::GetLastVisibleItem(model);
+        }
+        else
+        {
+            item = model->GetCount() - 1;
+            start = last;
+            StopScrolling();
+        }
+    }
+    else if (start < 1)
+    {
+        start = 0;
+        StopScrolling();
+    }
+    else
+    {
+        item = --start;
+    }
+    CAlivePtr<CEventHandler> const alive(this);
+    model->SetStartItem(start);
+    if (alive && item >= 0)
+        SetCurrentItem(item);
+    if (alive)
+        ProcessItemChange(before, item, ksShift, GetSelectionModel());
+}
+
+// Keys ----------------------------------------------------------------------------------------------------------------------
+
+bool CDiscreteItemEventHandler::ProcessKeyDown(int keys, int key, bool*)
+{
+    CAlivePtr<CEventHandler> const alive(this);
+    if (SelectAll(keys, key))
+        return true;
+    m_FromKeyboard = true;
+    int const before = GetCurrent();
+    if (key == vkSpace)
+    {
+        if (GetSelectionType() != stNone)
+            ToggleItem(before);
+    }
+    else if (!MoveByKey(key))
+    {
+        return false;
+    }
+    if (alive)
+        FollowCurrent(before, keys);
+    return true;
+}
+
+// False: not a key of this direction.
+bool CDiscreteItemEventHandler::MoveByKey(int key)
+{
+    bool const vertical = GetDirection() == idVertical;
+    CAlivePtr<CEventHandler> const alive(this);
+    int const current = GetCurrent();
+    int const last = GetViewModel()->GetCount() - 1;
+    switch (key)
+    {
+    case vkPageUp:
+        if (vertical)
+            PageUp();
+        return vertical;
+    case vkPageDown:
+        if (vertical)
+            PageDown();
+        return vertical;
+    case vkEnd:
+    case vkHome:
+        if (!vertical)
+            return false;
+        GetViewModel()->SetStartItem(key == vkEnd ? last : 0);
+        if (alive)
+            SetCurrentItem(key == vkEnd ? last : 0);
+        return true;
+    case vkUp:
+    case vkLeft:
+        if (vertical != (key == vkUp))
+            return false;
+        SetCurrentItem(current > 0 ? std::min(current - 1, last) : 0);
+        if (alive && GetCurrent() == GetViewModel()->GetStartItem() - 1)
+            GetViewModel()->SetStartItem(GetCurrent());
+        if (alive)
+            MakeCurrentVisible(false);
+        return true;
+    case vkDown:
+    case vkRight:
+        if (vertical != (key == vkDown))
+            return false;
+        SetCurrentItem(current >= -1 ? std::min(AddSaturated(current, 1), last) : 0);
+        if (alive)
+            CheckNewCurrent();
+        if (alive)
+            MakeCurrentVisible(true);
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The current item keeps its place in the view, unless it had none.
+void CDiscreteItemEventHandler::PageUp()
+{
+    CAlivePtr<CEventHandler> const alive(this);
+    int const start = GetViewModel()->GetStartItem();
+    int const current = GetCurrent();
+    bool const shown = MakeCurrentVisible(false);
+    if (!alive)
+        return;
+    int const keep = start == 0 || shown ? 0 : SubtractSaturated(current, start);
+    int const page = Utils::CalcStart(GetViewModel(), start - 1);
+    GetViewModel()->SetStartItem(page);
+    if (alive)
+        SetCurrentItem(AddSaturated(keep, page));
+}
+
+void CDiscreteItemEventHandler::PageDown()
+{
+    CAlivePtr<CEventHandler> const alive(this);
+    int const start = GetViewModel()->GetStartItem();
+    int const current = GetCurrent();
+    bool const shown = MakeCurrentVisible(true);
+    if (!alive)
+        return;
+    int const keep = shown ? 0 : SubtractSaturated(current, start);
+    int const page = AddSaturated(Utils::GetLastVisibleItem(GetViewModel()), 1);
+    GetViewModel()->SetStartItem(page);
+    if (alive)
+        SetCurrentItem(std::max(std::min(AddSaturated(page, keep), GetViewModel()->GetCount() - 1), 0));
+}
+
+// Paint ---------------------------------------------------------------------------------------------------------------------
+
+void CDiscreteItemEventHandler::ProcessDraw(IPainter* painter, rectangle<double> const& rect)
+{
+    if (!painter || !m_Painter)
+        return;
+    IDiscreteItemViewModel const* const model = GetViewModel();
+    ISelectionModel const* const selection = GetSelectionModel();
+    double const from = m_Layout->GetAlong(rect.left, rect.top);
+    double const to = m_Layout->GetAlong(rect.right, rect.bottom);
+    double const near = m_Layout->GetAcross(rect.left, rect.top);
+    double const far = m_Layout->GetAcross(rect.right, rect.bottom);
+    int const count = model->GetCount();
+    int const current = selection->GetCurrent();
+    bool const stretch = model->IsLastItemStretched();
+
+    CAlivePtr<CEventHandler> const alive(this);
+    CModelGuard const modelAlive(model);
+    CModelGuard const selectionAlive(selection);
+    double position = from;
+    for (int i = model->GetStartItem(); i < count && position <= to; ++i)
+    {
+        double end = position + std::max(model->GetItemSize(i), 1) - 1;
+        if (stretch && i == count - 1)
+            end = std::max(static_cast<double>(model->GetViewSize()), end);
+        int const state = (selection->IsItemSelected(i) ? isSelected : 0) | (i == current ? isCurrent : 0);
+        IDirtyItemSet::DirtyType const dirty =
+            GetCellUpdateType(painter, model->GetItemType(i), selection->GetItemType(i));
+        m_Painter->DrawItem(painter, i, 0, state, m_Layout->MakeRect(position, near, end, far), dirty);
+        if (!alive || !modelAlive || !selectionAlive)
+            return;
+        position = end + 1;
+    }
+    if (!(stretch && count > 0) && position <= to)
+        m_Painter->DrawEmptyArea(painter, m_Layout->MakeRect(position, near, to, far));
+}
+
+}  // namespace vexel
