@@ -65,7 +65,9 @@ void CCellLook::Draw(IPainter* painter, rectangle<double> const& rect, SCell con
 
 CTextGrid::CTextGrid(CVisualElement* parent, size<int> const& extent, Alignment alignment, Text text)
     : CGridViewer(parent, extent, alignment), m_Text(std::move(text))
-{}
+{
+    AttributeChanged();  // with the own margin
+}
 
 void CTextGrid::SetHighlight(std::string const& highlight)
 {

@@ -42,7 +42,10 @@ public:
 
     CTextRows(CVisualElement* parent, size<int> const& extent, Alignment alignment, Text text)
         : CRowViewer<Model>(parent, extent, alignment), m_Text(std::move(text))
-    {}
+    {
+        this->AttributeChanged();  // with the own margin
+    }
+    int GetRowMargin() const override { return 6; }
 
 protected:
     void DrawRow(IPainter* painter, int row, int, int state, rectangle<double> const& rect,
@@ -70,6 +73,7 @@ public:
     CTextGrid(CVisualElement* parent, size<int> const& extent, Alignment alignment, Text text);
 
     void SetHighlight(std::string const& highlight);
+    int GetRowMargin() const override { return 6; }
 
 protected:
     void DrawCell(IPainter* painter, int row, int rowSkip, int column, int columnSkip, int state,

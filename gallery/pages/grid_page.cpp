@@ -2,6 +2,7 @@
 
 #include "vexel/platform/system.h"
 #include "vexel/scroll/scroll_box.h"
+#include "vexel/views/item_walks.h"
 
 #include <limits>
 
@@ -53,14 +54,32 @@ void CGridPage::Build(CVisualElement* parent)
     Report(header->m_SigResized, "resized");
     Report(header->m_SigSectionMoved, "moved");
     Report(header->m_SigDividerDoubleClicked, "divider double-clicked");
+    m_Grid->GetRowViewModel()->m_SigChanged.connect(this, &CGridPage::RowsChanged);
+    m_Grid->m_SigSelectionChanged.connect(this, &CGridPage::SelectionChanged);
     Report(m_Grid->GetRowSelectionModel()->m_SigCurrentChanged, "current row");
-    Report(m_Grid->m_SigSelectionChanged, "selection changed");
+    Report(m_SigSelected, "selected rows");
+    Report(m_SigRows, "rows in view");
 }
 
 void CGridPage::SectionClicked(CSimpleHeader*, int section)
 {
     m_Columns.Sort(section);
     RepaintAll();
+}
+
+void CGridPage::RowsChanged()
+{
+    IDiscreteItemViewModel const* const rows = m_Grid->GetRowViewModel();
+    range<int> const shown{rows->GetStartItem(), Utils::GetLastVisibleItem(rows)};
+    if (shown == m_Shown)
+        return;
+    m_Shown = shown;
+    m_SigRows(shown.first, shown.second);
+}
+
+void CGridPage::SelectionChanged()
+{
+    m_SigSelected(m_Grid->GetRowSelectionModel()->GetSelectedCount());
 }
 
 void CGridPage::SectionMoved(CSimpleHeader*, int, int)

@@ -42,7 +42,7 @@ double CScrollConverter::L2P(double value) const
     return physical * v / logical;
 }
 
-double CScrollConverter::P2L(int position) const
+double CScrollConverter::P2L(double position) const
 {
     if (!m_Model)
         return 0.0;

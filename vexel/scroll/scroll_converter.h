@@ -20,7 +20,8 @@ public:
     IScrollModel* GetModel() const { return m_Model; }
 
     double L2P(double value) const;  ///< Not rounded.
-    double P2L(int position) const;
+    double P2L(int position) const { return P2L(static_cast<double>(position)); }
+    double P2L(double position) const;  ///< Also for ranges of more physical units than an int can count.
 
     bool IsNormalScale() const;  ///< The whole range fits a bar of 32 bits. Requires a model.
     /// Spreads a range that doesn't fit over 2,147,483,646 physical units, by changing the model's measure. True: it had

@@ -43,7 +43,7 @@ void CScrollElement::Recalculate(IScrollModel* model, int pagePixels)
     if (scrolls && info.position + info.page > info.maximum)
     {
         info.position = std::max(0.0, info.maximum - info.page);
-        double const start = m_Converter.P2L(info.inverted ? 0 : ToInt(info.position));
+        double const start = m_Converter.P2L(info.inverted ? 0.0 : info.position);
         m_SigScroll(CScrollEvent::saRangeChanged, start);
         if (!alive || !m_ScrollBar)
             return;
@@ -92,7 +92,7 @@ double CScrollElement::GetWholePage(IScrollModel const& model, int page) const
 
 double CScrollElement::GetVal() const
 {
-    return m_ScrollBar ? m_Converter.P2L(ToInt(m_ScrollBar->GetScrollPos())) : 0.0;
+    return m_ScrollBar ? m_Converter.P2L(std::trunc(m_ScrollBar->GetScrollPos())) : 0.0;
 }
 
 void CScrollElement::SetVal(double value)
@@ -100,7 +100,7 @@ void CScrollElement::SetVal(double value)
     if (!m_ScrollBar)
         return;
     m_ScrollBar->SetScrollPos(std::trunc(m_Converter.L2P(value)));
-    double const accepted = m_Converter.P2L(ToInt(m_ScrollBar->GetScrollPos()));
+    double const accepted = m_Converter.P2L(std::trunc(m_ScrollBar->GetScrollPos()));
     m_SigScroll(CScrollEvent::saSetValue, accepted);
 }
 
@@ -115,7 +115,7 @@ void CScrollElement::ScrollBarOnScroll(CScrollEvent* event)
         position = info.maximum - info.page;
     if (info.inverted)
         position = info.maximum - position - info.page;
-    double const start = m_Converter.P2L(ToInt(std::trunc(position)));
+    double const start = m_Converter.P2L(std::trunc(position));
     m_SigScroll(event->m_Action, start);
 }
 

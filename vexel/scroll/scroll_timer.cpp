@@ -4,6 +4,7 @@
 #include "vexel/scroll/scroll_converter.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace vexel
 {
@@ -57,14 +58,14 @@ void CScrollTimer::OnTimer(CTimerEvent*)
         return;
     CAlivePtr<CScrollTimer> const alive(this);
     CScrollConverter const converter(model);
-    int position = ToInt(converter.L2P(model->GetStart()));
+    double position = std::trunc(converter.L2P(model->GetStart()));
     if (m_Forward)
     {
         rectangle<int> const content = m_Element->GetContentRect();
         double const along = m_Element->GetAlong(SubtractSaturated(content.right, content.left),
                                                  SubtractSaturated(content.bottom, content.top));
-        int const limit = ToInt(converter.L2P(model->GetTo()) - along);  // the element is still filled
-        position = AddSaturated(position, m_CurrentStep);
+        double const limit = std::trunc(converter.L2P(model->GetTo()) - along);  // the element is still filled
+        position += m_CurrentStep;
         if (position > limit)
         {
             position = limit;
@@ -73,11 +74,11 @@ void CScrollTimer::OnTimer(CTimerEvent*)
     }
     else
     {
-        position = SubtractSaturated(position, m_CurrentStep);
+        position -= m_CurrentStep;
         double const limit = converter.L2P(model->GetFrom());
         if (limit > position)
         {
-            position = ToInt(limit);
+            position = std::trunc(limit);
             Stop();
         }
     }

@@ -55,6 +55,7 @@ public:                              // From CViewerBase
     void ProcessEndDraw() override;  ///< Nothing is dirty any more.
 
 public:                                             // Overridable
+    // A subclass with a height or margin of its own calls AttributeChanged at the end of its constructor.
     virtual int CalculateDefaultRowHeight() const;  ///< Pixels; 0: no text height is known, the rows keep theirs.
     virtual int GetRowMargin() const { return 0; }  ///< Is added to it.
     void DrawRow(IPainter* painter, int row, int skip, int state, rectangle<double> const& rect,
