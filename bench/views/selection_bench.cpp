@@ -99,6 +99,24 @@ template <class Peer> void Query(benchmark::State& state)
         benchmark::DoNotOptimize(peer.IsSelected(static_cast<int>(random() % (s_Runs * s_Distance))));
 }
 
+// As a paint asks: for the items of a page that follow each other.
+template <class Peer> void QueryPages(benchmark::State& state)
+{
+    Peer peer;
+    Fill(peer, false, true);
+    std::mt19937 random(2);
+    int index = 0, left = 0;
+    for (auto _ : state)
+    {
+        if (--left < 0)
+        {
+            index = static_cast<int>(random() % (s_Runs * s_Distance));
+            left = 49;
+        }
+        benchmark::DoNotOptimize(peer.IsSelected(index++));
+    }
+}
+
 template <class Peer> void Register()
 {
     auto const name = [](char const* what) { return std::string("selection/") + what + "/" + Peer::s_Name; };
@@ -108,6 +126,7 @@ template <class Peer> void Register()
     benchmark::RegisterBenchmark(name("build_runs_in_order").c_str(), Build<Peer>, false, true)->Unit(slow);
     benchmark::RegisterBenchmark(name("build_runs_at_random").c_str(), Build<Peer>, true, true)->Unit(slow);
     benchmark::RegisterBenchmark(name("query_a_million_runs").c_str(), Query<Peer>);
+    benchmark::RegisterBenchmark(name("query_pages_of_a_million_runs").c_str(), QueryPages<Peer>);
 }
 
 // A million columns, every second with a size of its own.

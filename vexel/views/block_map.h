@@ -37,7 +37,7 @@ private:
     static constexpr std::size_t s_MaxNodes = 256;  // of a block
     static constexpr std::size_t s_Group = 16;      // nodes that stand together in a few cache lines
 
-    struct SLeaf
+    struct alignas(64) SLeaf
     {
         // The last key of each group; the largest int where there is none. A lookup reads these and one group.
         std::array<int, s_MaxNodes / s_Group> groupKeys;
