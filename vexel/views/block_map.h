@@ -1,9 +1,13 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <limits>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace vexel
@@ -30,10 +34,23 @@ public:
     };
 
 private:
+    static constexpr std::size_t s_MaxNodes = 256;  // of a block
+    static constexpr std::size_t s_Group = 16;      // nodes that stand together in a few cache lines
+
+    struct alignas(64) SLeaf
+    {
+        // The last key of each group; the largest int where there is none. A lookup reads these and one group.
+        std::array<int, s_MaxNodes / s_Group> groupKeys;
+        std::array<SNode, s_MaxNodes> nodes;
+    };
     struct SBlock
     {
-        std::vector<SNode> nodes;  // never empty
+        std::unique_ptr<SLeaf> leaf;
+        std::size_t count = 0;  // never 0 between operations
         std::int64_t weight = 0;
+
+        SNode* First() const { return leaf->nodes.data(); }
+        SNode const& Last() const { return leaf->nodes[count - 1]; }
     };
 
 public:
@@ -49,18 +66,18 @@ public:
 
         iterator() = default;
 
-        reference operator*() const { return (*m_Blocks)[m_Block].nodes[m_Place]; }
+        reference operator*() const { return (*m_Blocks)[m_Block].leaf->nodes[m_Place]; }
         pointer operator->() const { return &**this; }
         iterator& operator++()
         {
-            if (++m_Place == (*m_Blocks)[m_Block].nodes.size())
+            if (++m_Place == (*m_Blocks)[m_Block].count)
                 ++m_Block, m_Place = 0;
             return *this;
         }
         iterator& operator--()
         {
             if (m_Place == 0)
-                m_Place = (*m_Blocks)[--m_Block].nodes.size();
+                m_Place = (*m_Blocks)[--m_Block].count;
             --m_Place;
             return *this;
         }
@@ -92,6 +109,38 @@ public:
         std::size_t m_Place = 0;
     };
 
+    CBlockMap() = default;
+    CBlockMap(CBlockMap const& other) { *this = other; }
+    CBlockMap(CBlockMap&& other) noexcept { Swap(other); }
+    ~CBlockMap() = default;
+    CBlockMap& operator=(CBlockMap const& other)
+    {
+        if (this == &other)
+            return *this;
+        std::vector<SBlock> blocks;
+        blocks.reserve(other.m_Blocks.size());
+        for (SBlock const& block : other.m_Blocks)
+            blocks.push_back({std::make_unique<SLeaf>(*block.leaf), block.count, block.weight});
+        m_LastKeys = other.m_LastKeys;
+        m_Blocks = std::move(blocks);
+        m_Count = other.m_Count;
+        m_Weight = other.m_Weight;
+        return *this;
+    }
+    CBlockMap& operator=(CBlockMap&& other) noexcept
+    {
+        CBlockMap taken(std::move(other));
+        Swap(taken);
+        return *this;
+    }
+    void Swap(CBlockMap& other) noexcept
+    {
+        m_Blocks.swap(other.m_Blocks);
+        m_LastKeys.swap(other.m_LastKeys);
+        std::swap(m_Count, other.m_Count);
+        std::swap(m_Weight, other.m_Weight);
+    }
+
     bool IsEmpty() const { return m_Blocks.empty(); }
     int GetCount() const { return static_cast<int>(m_Count); }
     std::int64_t GetWeight() const { return m_Weight; }
@@ -101,13 +150,19 @@ public:
     /// The first node whose key is not below `key`, or the end. Wider than a key, so that "one below" never wraps.
     iterator LowerBound(std::int64_t key) const
     {
-        auto const last = std::lower_bound(m_LastKeys.begin(), m_LastKeys.end(), key, IsBelow);
-        if (last == m_LastKeys.end())
+        if (m_Blocks.empty() || key > m_LastKeys.back())
             return end();
-        auto const block = static_cast<std::size_t>(last - m_LastKeys.begin());
-        auto const& nodes = m_Blocks[block].nodes;
-        auto const node = std::lower_bound(nodes.begin(), nodes.end(), key, IsNodeBelow);
-        return {m_Blocks, block, static_cast<std::size_t>(node - nodes.begin())};
+        int const wanted = static_cast<int>(std::max<std::int64_t>(key, std::numeric_limits<int>::min()));
+        std::size_t const block = FindBlock(wanted);
+        SLeaf const& leaf = *m_Blocks[block].leaf;
+        std::size_t place = 0;  // counted without branches, which no processor could foresee
+        for (int const last : leaf.groupKeys)
+            place += last < wanted ? s_Group : 0;
+        std::size_t const groupEnd = std::min(place + s_Group, m_Blocks[block].count);
+        std::size_t below = 0;
+        for (std::size_t i = place; i < groupEnd; ++i)
+            below += leaf.nodes[i].key < wanted;
+        return {m_Blocks, block, place + below};
     }
     /// The node of that key, or the end.
     iterator Find(int key) const
@@ -126,15 +181,21 @@ public:
     /// Leaves a node that is there already as it is.
     iterator Insert(int key, Value value)
     {
-        iterator place = LowerBound(key);
-        if (place != end() && place->key == key)
-            return place;
+        iterator const place = LowerBound(key);
+        return place != end() && place->key == key ? place : InsertAt(place, key, value);
+    }
+    /// The key isn't there, and LowerBound of it is `place`.
+    iterator InsertAt(iterator place, int key, Value value)
+    {
         place = MakeRoom(place);
         SBlock& block = m_Blocks[place.m_Block];
-        block.nodes.insert(block.nodes.begin() + static_cast<std::ptrdiff_t>(place.m_Place), SNode{key, value});
-        m_LastKeys[place.m_Block] = block.nodes.back().key;
+        SNode* const first = block.First();
+        std::move_backward(first + place.m_Place, first + block.count, first + block.count + 1);
+        first[place.m_Place] = {key, value};
+        ++block.count;
         ++m_Count;
         AddWeight(block, Weight::Of(key, value));
+        NodesMoved(place.m_Block, place.m_Place);
         return place;
     }
     /// Inserts, or replaces the value.
@@ -147,7 +208,7 @@ public:
     void SetValue(iterator place, Value value)
     {
         SBlock& block = m_Blocks[place.m_Block];
-        SNode& node = block.nodes[place.m_Place];
+        SNode& node = block.leaf->nodes[place.m_Place];
         AddWeight(block, Weight::Of(node.key, value) - Weight::Of(node.key, node.value));
         node.value = value;
     }
@@ -169,7 +230,7 @@ public:
             return from;
         if (from.m_Place > 0)
         {
-            EraseNodes(from.m_Block, from.m_Place, m_Blocks[from.m_Block].nodes.size());
+            EraseNodes(from.m_Block, from.m_Place, m_Blocks[from.m_Block].count);
             ++from.m_Block;
             from.m_Place = 0;
         }
@@ -184,13 +245,13 @@ public:
         SSum sum;
         for (std::size_t i = 0; i < place.m_Block; ++i)
         {
-            sum.count += static_cast<int>(m_Blocks[i].nodes.size());
+            sum.count += static_cast<int>(m_Blocks[i].count);
             sum.weight += m_Blocks[i].weight;
         }
         sum.count += static_cast<int>(place.m_Place);
         for (std::size_t i = 0; i < place.m_Place; ++i)
         {
-            SNode const& node = m_Blocks[place.m_Block].nodes[i];
+            SNode const& node = m_Blocks[place.m_Block].leaf->nodes[i];
             sum.weight += Weight::Of(node.key, node.value);
         }
         return sum;
@@ -202,7 +263,7 @@ public:
         std::size_t i = 0;
         for (; i < m_Blocks.size(); ++i)
         {
-            SSum const with{sum.count + static_cast<int>(m_Blocks[i].nodes.size()), sum.weight + m_Blocks[i].weight};
+            SSum const with{sum.count + static_cast<int>(m_Blocks[i].count), sum.weight + m_Blocks[i].weight};
             if (!pass(m_LastKeys[i], with))
                 break;
             sum = with;
@@ -211,15 +272,39 @@ public:
     }
 
 private:
-    static constexpr std::size_t s_MaxNodes = 256;  // of a block
-
-    static bool IsBelow(int key, std::int64_t than) { return key < than; }
-    static bool IsNodeBelow(SNode const& node, std::int64_t than) { return node.key < than; }
+    // The first block whose last key is not below; there is one.
+    std::size_t FindBlock(int key) const
+    {
+        int const* base = m_LastKeys.data();
+        for (std::size_t count = m_LastKeys.size(); count > 1;)
+        {
+            std::size_t const half = count / 2;
+            base += base[half - 1] < key ? half : 0;
+            count -= half;
+        }
+        return static_cast<std::size_t>(base - m_LastKeys.data());
+    }
 
     void AddWeight(SBlock& block, std::int64_t weight)
     {
         block.weight += weight;
         m_Weight += weight;
+    }
+
+    // The nodes of a block from this place on are others.
+    void NodesMoved(std::size_t at, std::size_t place)
+    {
+        SBlock const& block = m_Blocks[at];
+        m_LastKeys[at] = block.Last().key;
+        auto& keys = block.leaf->groupKeys;
+        for (std::size_t group = place / s_Group; group < keys.size(); ++group)
+        {
+            std::size_t const last = group * s_Group + s_Group - 1;
+            if (last < block.count)
+                keys[group] = block.leaf->nodes[last].key;
+            else
+                keys[group] = last < block.count + s_Group - 1 ? block.Last().key : std::numeric_limits<int>::max();
+        }
     }
 
     // Where a node can be inserted before the given place; its block is not full.
@@ -228,18 +313,18 @@ private:
         if (m_Blocks.empty())
         {
             InsertBlock(0);
-            return begin();
+            return {m_Blocks, 0, 0};
         }
         if (place == end())
         {
-            place = {m_Blocks, m_Blocks.size() - 1, m_Blocks.back().nodes.size()};
+            place = {m_Blocks, m_Blocks.size() - 1, m_Blocks.back().count};
             if (place.m_Place == s_MaxNodes)  // keys that come in order fill their blocks
             {
                 InsertBlock(m_Blocks.size());
                 return {m_Blocks, m_Blocks.size() - 1, 0};
             }
         }
-        if (m_Blocks[place.m_Block].nodes.size() < s_MaxNodes)
+        if (m_Blocks[place.m_Block].count < s_MaxNodes)
             return place;
         Split(place.m_Block);
         if (place.m_Place > s_MaxNodes / 2)
@@ -248,39 +333,43 @@ private:
     }
     void InsertBlock(std::size_t at)
     {
-        m_Blocks.emplace(m_Blocks.begin() + static_cast<std::ptrdiff_t>(at));
+        SBlock block;
+        block.leaf = std::make_unique<SLeaf>();
         m_LastKeys.insert(m_LastKeys.begin() + static_cast<std::ptrdiff_t>(at), 0);
+        m_Blocks.insert(m_Blocks.begin() + static_cast<std::ptrdiff_t>(at), std::move(block));
     }
     void Split(std::size_t at)
     {
         InsertBlock(at + 1);
         SBlock& low = m_Blocks[at];
         SBlock& high = m_Blocks[at + 1];
-        auto const half = low.nodes.begin() + s_MaxNodes / 2;
-        high.nodes.assign(half, low.nodes.end());
-        low.nodes.erase(half, low.nodes.end());
-        for (SNode const& node : high.nodes)
-            high.weight += Weight::Of(node.key, node.value);
+        constexpr std::size_t half = s_MaxNodes / 2;
+        std::copy(low.First() + half, low.First() + low.count, high.First());
+        high.count = low.count - half;
+        low.count = half;
+        for (std::size_t i = 0; i < high.count; ++i)
+            high.weight += Weight::Of(high.leaf->nodes[i].key, high.leaf->nodes[i].value);
         low.weight -= high.weight;
-        m_LastKeys[at] = low.nodes.back().key;
-        m_LastKeys[at + 1] = high.nodes.back().key;
+        NodesMoved(at, half);
+        NodesMoved(at + 1, 0);
     }
     // Some of the nodes of one block, not all.
     void EraseNodes(std::size_t at, std::size_t from, std::size_t to)
     {
         SBlock& block = m_Blocks[at];
+        SNode* const first = block.First();
         for (std::size_t i = from; i < to; ++i)
-            AddWeight(block, -Weight::Of(block.nodes[i].key, block.nodes[i].value));
-        block.nodes.erase(block.nodes.begin() + static_cast<std::ptrdiff_t>(from),
-                          block.nodes.begin() + static_cast<std::ptrdiff_t>(to));
+            AddWeight(block, -Weight::Of(first[i].key, first[i].value));
+        std::move(first + to, first + block.count, first + from);
+        block.count -= to - from;
         m_Count -= to - from;
-        m_LastKeys[at] = block.nodes.back().key;
+        NodesMoved(at, from > 0 ? from - 1 : 0);  // the group before may be the last one now
     }
     void EraseBlocks(std::size_t from, std::size_t to)
     {
         for (std::size_t i = from; i < to; ++i)
         {
-            m_Count -= m_Blocks[i].nodes.size();
+            m_Count -= m_Blocks[i].count;
             m_Weight -= m_Blocks[i].weight;
         }
         auto const first = static_cast<std::ptrdiff_t>(from);

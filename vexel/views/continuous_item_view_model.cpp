@@ -43,7 +43,10 @@ void ChangeOffset(IContinuousItemViewModel& model, int& stored, int offset)
         return;
     AddUncovered(model, old);
     bool handled = true;
+    CModelGuard const alive(&model);
     model.m_SigSizeChanged(0, SubtractSaturated(old, stored), &handled);
+    if (!alive)
+        return;
     if (!handled)
         model.AddDirtyItems(0, model.GetCount());
     model.m_SigChanged();
@@ -54,9 +57,12 @@ void ViewSizeChanged(IContinuousItemViewModel& model, int old, int size, bool in
 {
     if (size > old)
     {
+        CModelGuard const alive(&model);
         int const full = model.GetFullItemsSize();
         if (std::int64_t{full} - model.GetOffset() < size)
             model.SetOffset(std::max(SubtractSaturated(full, size), 0));
+        if (!alive)
+            return;
         if (int const edge = Utils::HitTest(&model, old); edge >= 0)
             model.AddDirtyItems(edge, model.GetCount());
     }
@@ -69,23 +75,28 @@ void ViewSizeChanged(IContinuousItemViewModel& model, int old, int size, bool in
         model.m_SigChanged();
 }
 
-// The part of SetItemSize that comes before the store: the viewer moves pixels while the old sizes still hold.
-void AnnounceItemSize(IContinuousItemViewModel& model, int index, int old, int size)
+// The part of SetItemSize that comes before the store: the viewer moves pixels while the old sizes still hold. False if
+// a slot deleted the model.
+bool AnnounceItemSize(IContinuousItemViewModel& model, int index, int old, int size)
 {
     int const edge = Utils::HitTest(&model, model.GetViewSize());
     int const limit = std::min(AddSaturated(index, 1), model.GetCount());
     int const position = SaturateToInt(detail::CItemRuns(model).Sum(0, limit) - model.GetOffset());
     bool handled = false;
+    CModelGuard const alive(&model);
     model.m_SigSizeChanged(position, SubtractSaturated(size, old), &handled);
+    if (!alive)
+        return false;
     int const count = model.GetCount();
     if (!handled)
     {
         model.AddDirtyItems(index, count);
-        return;
+        return true;
     }
     model.AddDirtyItems(index, AddSaturated(index, 1));
     if (edge >= 0)
         model.AddDirtyItems(edge, count);
+    return true;
 }
 
 }  // namespace
@@ -95,7 +106,8 @@ void CSimpleContinuousItemViewModel::SetItemSize(int index, int size)
     int const old = GetItemSize(index);
     if (size == old)
         return;
-    AnnounceItemSize(*this, index, old, size);
+    if (!AnnounceItemSize(*this, index, old, size))
+        return;
     SaveItemWidth(index, size);
     UpdateFullWidth(SubtractSaturated(size, old));
     m_SigChanged();
@@ -158,7 +170,8 @@ void CDefaultColumnViewModel::SetItemSize(int index, int size)
     int const now = size < 1 ? m_DefaultItemSize : size;
     if (now == old)
         return;
-    AnnounceItemSize(*this, index, old, now);
+    if (!AnnounceItemSize(*this, index, old, now))
+        return;
     if (now == m_DefaultItemSize)
         m_ItemSizes.Remove(index);
     else
@@ -206,8 +219,10 @@ void COneItemViewModel::SetViewSize(int size, bool)
         return;
     bool const grew = m_ViewSize < size;
     m_ViewSize = size;
+    CModelGuard const alive(this);
     Changed(grew);
-    SetOffset(m_Offset);
+    if (alive)
+        SetOffset(m_Offset);
 }
 
 void COneItemViewModel::SetOffset(int offset)
@@ -216,7 +231,10 @@ void COneItemViewModel::SetOffset(int offset)
     if (now == m_Offset)
         return;
     bool handled = true;
+    CModelGuard const alive(this);
     m_SigSizeChanged(now, SubtractSaturated(m_Offset, now), &handled);
+    if (!alive)
+        return;
     m_Offset = now;
     Changed(true);
 }

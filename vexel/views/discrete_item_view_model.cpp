@@ -25,9 +25,12 @@ void CSimpleDiscreteItemViewModel::UpdateModelState(IIndexTranslator* translator
 
 void CSimpleDiscreteItemViewModel::SetCount(int count)
 {
+    CModelGuard const alive(this);
     m_Count = count;
     if (GetStartItem() >= count)
         SetStartItem(0);
+    if (!alive)
+        return;
     AddDirtyItems(0, std::numeric_limits<int>::max());
     m_SigChanged();
 }
@@ -41,6 +44,7 @@ void CSimpleDiscreteItemViewModel::SetDefaultItemSize(int size)
 
 void CSimpleDiscreteItemViewModel::SetViewSize(int size, bool invalidateAll)
 {
+    CModelGuard const alive(this);
     int const old = std::max(m_ViewSize, 0);
     m_ViewSize = size;
     if (size > old)
@@ -50,6 +54,8 @@ void CSimpleDiscreteItemViewModel::SetViewSize(int size, bool invalidateAll)
             SetStartItem(maxStart);
         else if (int const edge = Utils::HitTestImpl(this, old, GetStartItem()); edge >= 0)
             AddDirtyItems(edge, m_Count);
+        if (!alive)
+            return;
     }
     if (size != old)
         AddDirtyItems(m_Count, m_Count);  // the empty area behind the items
@@ -86,7 +92,10 @@ void CSimpleDiscreteItemViewModel::SetStartItem(int item)
         int const distance = Utils::GetItemsSize(this, oldStart, start);
         delta = start > oldStart ? -distance : distance;
     }
+    CModelGuard const alive(this);
     m_SigSizeChanged(0, delta, &handled);
+    if (!alive)
+        return;
     if (!handled)
         AddDirtyItems(0, m_Count);
     m_SigChanged();
@@ -117,32 +126,41 @@ void CEqualItemsViewModel::UpdateView()
         if (anchor >= std::int64_t{start} + shown)
             start = anchor - shown + 1;
     }
+    CModelGuard const alive(this);
     SetStartItem(start);
-    CSimpleDiscreteItemViewModel::SetDefaultItemSize(itemSize);
+    if (alive)
+        CSimpleDiscreteItemViewModel::SetDefaultItemSize(itemSize);
 }
 
 void CEqualItemsViewModel::SetCount(int count)
 {
     if (count == GetCount())
         return;
+    CModelGuard const alive(this);
     CSimpleDiscreteItemViewModel::SetCount(count);
-    UpdateView();
+    if (alive)
+        UpdateView();
 }
 
 void CEqualItemsViewModel::SetViewSize(int size, bool invalidateAll)
 {
     if (size == GetViewSize() && !invalidateAll)
         return;
+    CModelGuard const alive(this);
     CSimpleDiscreteItemViewModel::SetViewSize(size, invalidateAll);
-    UpdateView();
+    if (alive)
+        UpdateView();
+    if (!alive)
+        return;
     AddDirtyBottomEdge();
 }
 
 void CEqualItemsViewModel::SetStartItem(int item)
 {
     int const old = GetStartItem();
+    CModelGuard const alive(this);
     CSimpleDiscreteItemViewModel::SetStartItem(item);
-    if (GetStartItem() < old)
+    if (alive && GetStartItem() < old)
         AddDirtyBottomEdge();
 }
 
@@ -157,7 +175,10 @@ void CDefaultDiscreteItemViewModel::UpdateModelState(IIndexTranslator* translato
 {
     if (!translator || !translator->TranslationIsPresented())
         return;
+    CModelGuard const alive(this);
     CSimpleDiscreteItemViewModel::UpdateModelState(translator);
+    if (!alive)
+        return;
     m_ItemSizes.Translate(*translator);
     m_SigChanged();
 }
@@ -170,9 +191,10 @@ void CDefaultDiscreteItemViewModel::SetItemSize(int index, int size)
     int const now = size < 1 ? GetDefaultItemSize() : size;
     int const last = Utils::GetLastVisibleItem(this);
     int const maxStart = Utils::CalcMaxStart(this);
+    CModelGuard const alive(this);
     if (maxStart < GetStartItem())
         SetStartItem(maxStart);
-    if (now == old)
+    if (!alive || now == old)
         return;
 
     // Pixels are moved while the old sizes still hold. An item on the edge of that window may stay unmarked.
@@ -182,6 +204,8 @@ void CDefaultDiscreteItemViewModel::SetItemSize(int index, int size)
     {
         handled = true;
         m_SigSizeChanged(Utils::GetItemsSize(this, start, index + 1), SubtractSaturated(now, old), &handled);
+        if (!alive)
+            return;
     }
     if (handled)
     {
@@ -217,16 +241,22 @@ void CNonEqualItemsViewModel::SetCount(int count)
 {
     if (count == GetCount())
         return;
+    CModelGuard const alive(this);
     CDefaultDiscreteItemViewModel::SetCount(count);
-    UpdateView();
+    if (alive)
+        UpdateView();
 }
 
 void CNonEqualItemsViewModel::SetViewSize(int size, bool invalidateAll)
 {
     if (size == GetViewSize() && !invalidateAll)
         return;
+    CModelGuard const alive(this);
     CDefaultDiscreteItemViewModel::SetViewSize(size, invalidateAll);
-    UpdateView();
+    if (alive)
+        UpdateView();
+    if (!alive)
+        return;
     int const last = Utils::GetLastVisibleItem(this);
     AddDirtyItems(SubtractSaturated(last, 1), AddSaturated(last, 1));
 }
@@ -234,8 +264,9 @@ void CNonEqualItemsViewModel::SetViewSize(int size, bool invalidateAll)
 void CNonEqualItemsViewModel::SetStartItem(int item)
 {
     int const old = GetStartItem();
+    CModelGuard const alive(this);
     CDefaultDiscreteItemViewModel::SetStartItem(item);
-    if (GetStartItem() >= old)
+    if (!alive || GetStartItem() >= old)
         return;
     int const last = Utils::GetLastVisibleItem(this);
     AddDirtyItems(last, AddSaturated(last, 1));

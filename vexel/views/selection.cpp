@@ -59,6 +59,14 @@ void Selection::erase(iterator& place)
 
 void Selection::SelectRun(int low, int high)
 {
+    auto const near = m_Nodes.LowerBound(std::int64_t{low} - 1);
+    if (near == m_Nodes.end() || near->key > std::int64_t{high} + 1)  // no node within reach
+    {
+        if (near != m_Nodes.end() && near->value == selEnd)
+            m_Regular = false;  // but a run around
+        m_Nodes.InsertAt(std::next(m_Nodes.InsertAt(near, low, selBegin)), high, selEnd);
+        return;
+    }
     // What lies between is swallowed; a node at `low` stays.
     auto right = m_Nodes.Erase(m_Nodes.LowerBound(std::int64_t{low} + 1), m_Nodes.LowerBound(high));
     if (right == m_Nodes.end() || right->key > std::int64_t{high} + 1)
@@ -105,7 +113,7 @@ void Selection::SelectOne(int index)
     auto near = m_Nodes.LowerBound(before);
     if (near == m_Nodes.end() || (near->key > behind && near->value != selEnd))
     {
-        m_Nodes.Insert(index, selOne);
+        m_Nodes.InsertAt(near, index, selOne);
         return;
     }
     bool const inside = near->value == selEnd && near->key > index;

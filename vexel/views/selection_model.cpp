@@ -86,8 +86,10 @@ void CSelectionModelBase::SetCurrent(int index)
         return;
     AddDirtyItems(old, old);
     AddDirtyItems(index, index);
+    CModelGuard const alive(this);
     m_SigChanged();
-    m_SigCurrentChanged(old, index);
+    if (alive)
+        m_SigCurrentChanged(old, index);
 }
 
 void CSelectionModelBase::SelectItem(int index, bool select)
@@ -96,8 +98,9 @@ void CSelectionModelBase::SelectItem(int index, bool select)
         return;
     AddDirtyItems(index, index);
     SetItemSelectionImp(index, select);
+    CModelGuard const alive(this);
     m_SigChanged();
-    if (select)
+    if (alive && select)
         m_SigSelectionChanged();
 }
 
@@ -111,8 +114,10 @@ void CSelectionModelBase::SetSelectionRange(int a, int b)
         AddDirtyItems(low, high);
     ClearSelectionImp();
     SetItemsSelectionImp(low, high, true);
+    CModelGuard const alive(this);
     m_SigChanged();
-    m_SigSelectionChanged();
+    if (alive)
+        m_SigSelectionChanged();
 }
 
 void CSelectionModelBase::ClearSelection()
@@ -154,11 +159,12 @@ void CDefaultSelectionModel::UpdateModelState(IIndexTranslator* translator)
 
     bool const currentMoved = m_Current != oldCurrent;
     int const newCurrent = m_Current;
+    CModelGuard const alive(this);
     if (currentMoved || moved)
         m_SigChanged();
-    if (currentMoved)
+    if (alive && currentMoved)
         m_SigCurrentChanged(oldCurrent, newCurrent);
-    if (moved)
+    if (alive && moved)
         m_SigSelectionChanged();
 }
 
@@ -178,8 +184,10 @@ void CDefaultSelectionModel::SetSelectionRange(int a, int b)
     AddDirtyItems(low, high);
     m_Selection.Clear();
     m_Selection.SetItemsSelection(low, high, true);
+    CModelGuard const alive(this);
     m_SigChanged();
-    m_SigSelectionChanged();
+    if (alive)
+        m_SigSelectionChanged();
 }
 
 bool CDefaultSelectionModel::GetNextSelectedItem(int& index) const
