@@ -399,6 +399,25 @@ TEST_F(MovedSelection, RunsMayBeLaidOverEachOther)
     EXPECT_FALSE(m_Model.IsItemSelected(25));
 }
 
+TEST_F(MovedSelection, ARunMayBeginOrEndInsideAnother)
+{
+    m_Model.SetSelectionRange(0, 9);
+    for (int i = 15; i <= 25; ++i)
+        m_Model.SelectItem(i, true);
+    CMapping ahead([](int i) { return i < 10 ? i + 5 : i - 5; });  // 5 to 14, and 10 to 20
+    m_Model.UpdateModelState(&ahead);
+    EXPECT_EQ(m_Model.GetSelectedCount(), 16);
+    EXPECT_TRUE(m_Model.IsItemSelected(8));
+
+    m_Model.SetSelectionRange(0, 9);
+    for (int i = 15; i <= 25; ++i)
+        m_Model.SelectItem(i, true);
+    CMapping back([](int i) { return i < 10 ? i + 5 : i - 14; });  // 5 to 14, and 1 to 11
+    m_Model.UpdateModelState(&back);
+    EXPECT_EQ(m_Model.GetSelectedCount(), 14);
+    EXPECT_TRUE(m_Model.IsItemSelected(13));
+}
+
 TEST_F(MovedSelection, OfMillionsInOneRun)
 {
     m_Model.SetSelectionRange(0, 3000000);
