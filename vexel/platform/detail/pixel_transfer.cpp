@@ -106,7 +106,12 @@ void CopyPixels(CPixelBuffer& target, rectangle<int> const& area, CPixelBuffer c
         for (int i = 0; i < height; ++i)
         {
             int const y = fromBelow ? height - 1 - i : i;
-            std::memmove(target.Row(area.top + y) + area.left, source.Row(from.y + y) + from.x, ByteCount(width));
+            std::uint32_t* const to = target.Row(area.top + y) + area.left;
+            std::uint32_t const* const drawn = source.Row(from.y + y) + from.x;
+            if (&target == &source && from.y == area.top)
+                std::memmove(to, drawn, ByteCount(width));
+            else
+                CopyPixelRow(to, drawn, width);
         }
         return;
     }

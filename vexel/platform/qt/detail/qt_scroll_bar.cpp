@@ -7,6 +7,8 @@
 #include "vexel/signals/notify.h"
 
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionSlider>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -22,10 +24,34 @@ constexpr int LinesPerNotch = 3;
 
 }  // namespace
 
+// In a long range most steps leave the thumb on its pixels: then nothing needs to be painted.
 class CQtScrollBar::CBar final : public CNativeWidget<QScrollBar>
 {
 public:
     using CNativeWidget<QScrollBar>::CNativeWidget;
+
+protected:
+    void sliderChange(SliderChange change) override
+    {
+        QStyleOptionSlider option;
+        initStyleOption(&option);
+        SLook const look{style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this),
+                         sliderPosition() == minimum(), sliderPosition() == maximum()};
+        if (std::exchange(m_Look, look) != look || change != SliderValueChange)
+            CNativeWidget<QScrollBar>::sliderChange(change);
+    }
+
+private:
+    struct SLook
+    {
+        QRect thumb;
+        bool atMinimum = false;  // a style may show an arrow that leads nowhere
+        bool atMaximum = false;
+
+        bool operator==(SLook const&) const = default;
+    };
+
+    SLook m_Look;
 };
 
 CQtScrollBar::CQtScrollBar(CQtWindow& window, bool vertical)

@@ -31,7 +31,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstring>
 #include <utility>
 #include <vector>
 
@@ -341,13 +340,13 @@ bool CQtWindow::CopyToStore(QRegion const& region, QImage const& image, QPainter
         area.Intersect({std::max(0, -dx), std::max(0, -dy), target->width() - dx, target->height() - dy});
         if (area.IsEmpty() || area.right > image.width() || area.bottom > image.height())
             return area.IsEmpty();
-        std::size_t const bytes = static_cast<std::size_t>(area.Width()) * 4;
         uchar* to = target->bits() + std::ptrdiff_t{area.top + dy} * target->bytesPerLine() +
                     std::ptrdiff_t{area.left + dx} * 4;
         uchar const* from = image.constScanLine(area.top) + std::ptrdiff_t{area.left} * 4;
         for (int y = area.top; y < area.bottom; ++y)
         {
-            std::memcpy(to, from, bytes);
+            CopyPixelRow(reinterpret_cast<std::uint32_t*>(to), reinterpret_cast<std::uint32_t const*>(from),
+                         area.Width());
             to += target->bytesPerLine();
             from += image.bytesPerLine();
         }
