@@ -215,7 +215,7 @@ TEST(RandomSelection, FollowsItsRulesWithoutAnyTerms)
 {
     CTestRandom random;
     int step = 0;
-    for (int round = 0; step < 500000; ++round)
+    for (int round = 0; step < 1000000; ++round)
     {
         Selection selection;
         CRules rules;
@@ -254,7 +254,7 @@ TEST(RandomSelection, IsASetOfIndicesWithinItsTerms)
 {
     CTestRandom random;
     int step = 0;
-    for (int round = 0; step < 500000; ++round)
+    for (int round = 0; step < 1000000; ++round)
     {
         Selection selection;
         std::set<int> model;

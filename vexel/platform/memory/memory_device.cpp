@@ -99,7 +99,8 @@ void CMemoryDevice::DrawRun(SRun const& run)
     SSquareFont const square(*run.textFont, GetSystemScale());
     int const rotation = (run.textFont->rotation % 3600 + 3600) % 3600;
 
-    std::vector<rectangle<int>> rects;
+    std::vector<rectangle<int>>& rects = m_Glyphs;
+    rects.clear();
     char const* text = run.text;
     char const* const end = text + run.length;
     int x = 0;

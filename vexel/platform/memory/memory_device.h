@@ -3,6 +3,8 @@
 #include "vexel/export.h"
 #include "vexel/platform/raster_device.h"
 
+#include <vector>
+
 namespace vexelbase::memory
 {
 
@@ -30,6 +32,9 @@ public:
     /// sign. Every pixel of the rectangle is painted.
     void DrawControlElement(IPainter::ControlElement element, rectangle<int> const& area, rectangle<int> const& clip,
                             int state) override;
+
+private:
+    std::vector<rectangle<int>> m_Glyphs;  // of the run that is being drawn; kept for its memory
 };
 
 }  // namespace vexelbase::memory
