@@ -329,10 +329,11 @@ bool CQtWindow::CopyToStore(QRegion const& region, QImage const& image, QPainter
     auto* const target = static_cast<QImage*>(device);
     QTransform const transform = painter.deviceTransform();
     if (target->format() != QImage::Format_RGB32 || transform.type() > QTransform::TxScale ||
-        transform.m11() != m_Ratio || transform.m22() != m_Ratio)
+        transform.m11() != m_Ratio || transform.m22() != m_Ratio || transform.dx() != std::round(transform.dx()) ||
+        transform.dy() != std::round(transform.dy()))
         return false;
-    int const dx = ToInt(std::round(transform.dx()));
-    int const dy = ToInt(std::round(transform.dy()));
+    int const dx = ToInt(transform.dx());
+    int const dy = ToInt(transform.dy());
     auto const copy = [&](QRect const& rect) {
         rectangle<int> area{FloorToInt(rect.left() * m_Ratio), FloorToInt(rect.top() * m_Ratio),
                             CeilToInt((rect.left() + rect.width()) * m_Ratio),
