@@ -269,6 +269,25 @@ TEST_F(ScrollBox, ADisabledBoxHasDisabledBars)
     EXPECT_EQ(Info(Horz()), "0 to 500 by 5, page 182, at 0");
 }
 
+TEST_F(ScrollBox, ABoxThatWasDisabledBeforeHasDisabledBarsToo)
+{
+    Connect(400, 300);
+    m_Box->ReParent(nullptr, false);
+    m_Box->SetEnabled(false);
+    CTestHost other(150, 80);
+    m_Box->ReParent(other.Root(), true);
+    other.Paint();
+    EXPECT_FALSE(Vert()->IsNodeEnabled());
+    Vert()->DragThumb(50);
+    Horz()->DragThumb(50);
+    EXPECT_EQ(m_Pane->m_Vert.m_Start, 0.0);
+    EXPECT_EQ(m_Pane->m_Horz.m_Start, 0.0);
+    m_Box->SetEnabled(true);
+    Vert()->DragThumb(50);
+    EXPECT_EQ(m_Pane->m_Vert.m_Start, 50.0);
+    delete m_Box;
+}
+
 TEST_F(ScrollBox, EnablingDoesNotEnableABarWithoutARange)
 {
     Connect(100, 300);

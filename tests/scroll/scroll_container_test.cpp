@@ -343,6 +343,62 @@ TEST_F(ScrollContainer, AnElementThatWasShownIsPutBackToTheStart)
     EXPECT_EQ(m_Content->GetParent(), &Part());
 }
 
+TEST_F(ScrollContainer, AnElementThatLeftMayBeShownAgain)
+{
+    m_Content->ReParent(nullptr, true);
+    m_Host.Paint();
+    m_Container->SetScrolled(m_Content);
+    m_Host.Paint();
+    EXPECT_EQ(m_Content->GetParent(), &Part());
+    EXPECT_EQ(Part().GetScrolled(), m_Content);
+    Part().SetVertStart(50);
+    EXPECT_EQ(m_Content->GetPos().top, -50);
+    m_Content->SetSize({20, 20}, false);
+    m_Host.Paint();
+    EXPECT_FALSE(Vert()->IsVisible());
+    ExpectPainted();
+}
+
+TEST_F(ScrollContainer, AnElementThatWasDockedNowhereIsLaidOutAsWell)
+{
+    m_Container->SetScrolled(nullptr);
+    delete m_Content;
+    m_Host.Paint();
+    auto* const plain = new CPlaced(nullptr, {30, 40}, alNone);
+    m_Container->SetScrolled(plain);
+    m_Host.Paint();
+    EXPECT_EQ(plain->GetPos(), (rectangle<int>{0, 0, 30, 40}));
+    ExpectPainted();
+}
+
+TEST_F(ScrollContainer, AMoveUncoversTheBackgroundOfTheView)
+{
+    // The last line of the range lies below the element.
+    Part().SetVertStart(339);
+    EXPECT_EQ(m_Content->GetPos().bottom, 61);
+    ExpectPainted();
+    Part().SetFillAroundChild(true);
+    Part().SetVertStart(300);
+    m_Host.Paint();
+    Part().SetVertStart(339);
+    Part().SetHorzStart(219);
+    ExpectPainted();
+}
+
+TEST_F(ScrollContainer, AnElementThatDoesNotFillItselfMovesOnTheBackgroundOfTheView)
+{
+    auto* const group = new CVisualElement(nullptr, {300, 400}, alNone);
+    m_Container->SetScrolled(group);
+    delete m_Content;
+    new CLeaf(group, {10, 10, 40, 40}, 10);
+    new CLeaf(group, {60, 100, 90, 150}, 11);
+    m_Host.Paint();
+    Vert()->DragThumb(30);
+    ExpectPainted();
+    Horz()->DragThumb(30);
+    ExpectPainted();
+}
+
 TEST_F(ScrollContainer, AnElementThatDiesOrLeavesIsForgotten)
 {
     delete m_Content;

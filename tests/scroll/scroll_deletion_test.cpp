@@ -343,6 +343,83 @@ TEST(ScrollDeletion, ThePaneMayGoWithItsModelsWhileItsModelMoves)
     }
 }
 
+TEST(ScrollDeletion, EachAxisForgetsTheModelOfItsOwnOwner)
+{
+    CTestHost host(200, 100);
+    auto* const box = new CScrollBox(host.Root(), {10, 10}, alClient);
+    auto* const first = new CTestPane(box, alTop);
+    auto* const second = new CTestPane(box);
+    first->m_Horz.m_To = 400;
+    second->m_Vert.m_To = 300;
+    box->ConnectElement(first, CScrollBox::ctHorizontal, true);
+    box->ConnectElement(second, CScrollBox::ctVertical, true);
+    host.Paint();
+    EXPECT_EQ(box->GetHorzScroll(), &first->m_Horz);
+    EXPECT_EQ(box->GetVertScroll(), &second->m_Vert);
+    delete first;
+    EXPECT_EQ(box->GetHorzScroll(), nullptr);
+    EXPECT_EQ(box->GetVertScroll(), &second->m_Vert);
+    host.Paint();
+    box->GetWrappedVertScroll()->SetStart(20);
+    EXPECT_EQ(second->m_Vert.m_Start, 20.0);
+    delete second;
+    EXPECT_EQ(box->GetVertScroll(), nullptr);
+    host.Paint();
+
+    // One that owns both, and then one of them only.
+    auto* const both = new CTestPane(box);
+    auto* const other = new CTestPane(box, alTop);
+    CTestModel own(0, 500);
+    both->m_Vert.m_To = 300;
+    box->ConnectElement(both, CScrollBox::ctBoth, true);
+    box->ConnectElement(other, CScrollBox::ctHorizontal, true);
+    delete both;
+    EXPECT_EQ(box->GetVertScroll(), nullptr);
+    EXPECT_EQ(box->GetHorzScroll(), &other->m_Horz);
+    box->SetHorzScroll(&own);
+    delete other;
+    EXPECT_EQ(box->GetHorzScroll(), &own);
+    box->SetHorzScroll(nullptr);
+}
+
+TEST(ScrollDeletion, TheBoxMayGoWhenItsModelTakesAScale)
+{
+    class CScaled : public CTestModel
+    {
+    public:
+        std::function<void()> m_OnMeasure;
+        void SetMeasure(std::pair<double, int> measure) override
+        {
+            CTestModel::SetMeasure(measure);
+            if (std::function<void()> const then = std::exchange(m_OnMeasure, nullptr))
+                then();
+        }
+    };
+    for (bool const byRange : {false, true})
+    {
+        CTestHost host(200, 100);
+        auto* box = new CScrollBox(host.Root(), {10, 10}, alClient);
+        auto* const pane = new CTestPane(box);
+        CScaled model;
+        model.m_To = 300;
+        pane->SetVertScroll(&model);
+        box->ConnectElement(pane, CScrollBox::ctBoth, true);
+        host.Paint();
+        model.m_OnMeasure = [&] { delete std::exchange(box, nullptr); };
+        if (byRange)
+        {
+            model.m_To = 1e12;
+            box->RefreshScroll();
+        }
+        else
+        {
+            box->GetWrappedVertScroll()->SetMeasure({1.0, 2});
+        }
+        EXPECT_EQ(box, nullptr);
+        host.Paint();
+    }
+}
+
 TEST(ScrollDeletion, ElementsOutliveTheBoxWithoutItsModels)
 {
     CTestPane pane(nullptr);

@@ -303,13 +303,16 @@ TEST_F(ScrollElement, ALongRangeIsSpreadOverTheBar)
     EXPECT_EQ(model.m_Calls.Take(), "");  // once
 }
 
-TEST_F(ScrollElement, ALongRangeWithAFixedMeasureStopsAtTheEndsOfTheBar)
+TEST_F(ScrollElement, ALongRangeWithAFixedMeasureIsBeyondTheReachOfItsBar)
 {
     CTestModel model(0, 1e18, 0);
     model.m_TakesMeasure = false;
     Recalculate(model, 40);
-    EXPECT_EQ(m_Bar->m_Info.maximum, 2147483647.0);
     EXPECT_TRUE(m_Element.IsScrollBarVisible());
+    UserScrolls(1e18, CScrollEvent::saThumb);
+    EXPECT_EQ(m_Log.Take(), "scroll(0, 2147483647)");
+    UserScrolls(3e9, CScrollEvent::saThumb);
+    EXPECT_EQ(m_Log.Take(), "scroll(0, 2147483647)");
 }
 
 // The user ---------------------------------------------------------------------------------------------------------------

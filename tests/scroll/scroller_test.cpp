@@ -279,6 +279,34 @@ TEST_F(Scroller, OtherContentTakesThePlaceOfTheFormer)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+TEST_F(Scroller, ContentThatLeftMayBeShownAgain)
+{
+    Ask(200);
+    m_Content->ReParent(nullptr, true);
+    m_Host.Paint();
+    m_Scroller->SetScrolled(m_Content);
+    m_Host.Paint();
+    EXPECT_EQ(m_Content->GetParent(), &Part());
+    EXPECT_EQ(m_Content->GetPos(), (rectangle<int>{0, 0, 99, 200}));
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(Scroller, ContentThatStandsElsewhereIsLeftAlone)
+{
+    Ask(200);
+    CVisualElement elsewhere(nullptr, {10, 10}, alNone);
+    m_Content->ReParent(&elsewhere, true);
+    m_Content->SetPos({1, 2, 3, 4}, false);
+    m_Content->Take();
+    m_Host.Resize(120, 90);
+    m_Host.Paint();
+    Part().OnBottomButtonClick(nullptr);
+    m_Host.Paint();
+    EXPECT_EQ(m_Content->Take(), "");
+    EXPECT_FALSE(m_Scroller->IsFullRepainted());
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
 TEST_F(Scroller, ContentThatDiesIsForgotten)
 {
     Ask(200);
