@@ -382,6 +382,28 @@ TEST(ScrollDeletion, EachAxisForgetsTheModelOfItsOwnOwner)
     box->SetHorzScroll(nullptr);
 }
 
+TEST(ScrollDeletion, AnElementMayGoWhileItIsConnected)
+{
+    for (bool const vertical : {false, true})
+    {
+        CTestHost host(200, 100);
+        auto* const box = new CScrollBox(host.Root(), {10, 10}, alClient);
+        auto* pane = new CTestPane(box);
+        host.Paint();
+        CTestModel& model = vertical ? pane->m_Vert : pane->m_Horz;
+        model.m_To = 10;
+        model.m_Start = 5;  // all of it fits, so that it is moved to its beginning
+        model.m_OnSetStart = [&] { delete std::exchange(pane, nullptr); };
+        box->ConnectElement(pane, CScrollBox::ctBoth, true);
+        EXPECT_EQ(pane, nullptr);
+        EXPECT_EQ(box->GetVertScroll(), nullptr);
+        EXPECT_EQ(box->GetHorzScroll(), nullptr);
+        host.Paint();
+        box->GetWrappedVertScroll()->SetStart(3);
+        box->GetWrappedHorzScroll()->SetStart(3);
+    }
+}
+
 TEST(ScrollDeletion, TheBoxMayGoWhenItsModelTakesAScale)
 {
     class CScaled : public CTestModel

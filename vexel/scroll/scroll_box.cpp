@@ -84,7 +84,8 @@ CScrollBox::CScrollBox(CVisualElement* parent, size<int> const& extent, Alignmen
 
 CScrollBox::~CScrollBox()
 {
-    SetModelOwner(nullptr);
+    m_VertOwner.Watch(nullptr);
+    m_HorzOwner.Watch(nullptr);
     TakeWrappersBack();
 }
 
@@ -165,15 +166,17 @@ void CScrollBox::RefreshScroll()
     bool const vertBefore = m_VertElement.IsScrollBarVisible();
     bool const horzBefore = m_HorzElement.IsScrollBarVisible();
     // The vertical bar comes first: where it appears it narrows the pane.
-    if (CVisualElement const* const pane = GetCentralPane())
-        m_VertElement.Recalculate(GetVertScroll(), pane->GetBounds().bottom);
+    CVisualElement const* pane = GetCentralPane();
+    if (pane || !GetVertScroll())
+        m_VertElement.Recalculate(GetVertScroll(), pane ? pane->GetBounds().bottom : 0);
     if (!alive)
         return;
     m_VertHolder.SetVisible(m_VertElement.IsScrollBarVisible());
     if (!alive)
         return;
-    if (CVisualElement const* const pane = GetCentralPane())
-        m_HorzElement.Recalculate(GetHorzScroll(), pane->GetBounds().right);
+    pane = GetCentralPane();
+    if (pane || !GetHorzScroll())
+        m_HorzElement.Recalculate(GetHorzScroll(), pane ? pane->GetBounds().right : 0);
     if (!alive)
         return;
     m_HorzHolder.SetVisible(m_HorzElement.IsScrollBarVisible());
@@ -201,7 +204,8 @@ void CScrollBox::SetVertScroll(IScrollModel* model)
 {
     if (model == &m_VertWrapper)
         return;
-    m_OwnerTypes &= ~unsigned{ctVertical};
+    if (!m_VertOwner.get() || m_VertOwner.get()->GetVertScroll() != model)
+        m_VertOwner.Watch(nullptr);
     CScrollableElement::SetVertScroll(model);
     m_VertWrapper.SetWrapped(model);
     RefreshScroll();
@@ -211,7 +215,8 @@ void CScrollBox::SetHorzScroll(IScrollModel* model)
 {
     if (model == &m_HorzWrapper)
         return;
-    m_OwnerTypes &= ~unsigned{ctHorizontal};
+    if (!m_HorzOwner.get() || m_HorzOwner.get()->GetHorzScroll() != model)
+        m_HorzOwner.Watch(nullptr);
     CScrollableElement::SetHorzScroll(model);
     m_HorzWrapper.SetWrapped(model);
     RefreshScroll();
@@ -226,20 +231,24 @@ void CScrollBox::ConnectElement(CScrollableElement* element, ConnectionType type
     KeepConnected(element);
     if (connect)
     {
-        SetModelOwner(element);
         SetCentralPane(element);
         if (!alive || !other)
             return;
         // A wrapped model has no meaning inside of its wrapping: a second connection keeps what is there.
         if ((type & ctHorizontal) && element->GetHorzScroll() != &m_HorzWrapper)
+        {
+            m_HorzOwner.Watch(element);
             SetHorzScroll(element->GetHorzScroll());
-        if (!alive || !other)
-            return;
+            if (!alive || !other)
+                return;
+        }
         if ((type & ctVertical) && element->GetVertScroll() != &m_VertWrapper)
+        {
+            m_VertOwner.Watch(element);
             SetVertScroll(element->GetVertScroll());
-        if (!alive || !other)
-            return;
-        m_OwnerTypes |= static_cast<unsigned>(type);
+            if (!alive || !other)
+                return;
+        }
         if (type & ctVertical)
             element->SetVertScroll(&m_VertWrapper);
         if ((type & ctHorizontal) && other && alive)
@@ -282,28 +291,22 @@ void CScrollBox::TakeWrappersBack()
     }
 }
 
-void CScrollBox::SetModelOwner(CScrollableElement* element)
+void CScrollBox::CModelOwner::Watch(CScrollableElement* element)
 {
-    if (element == m_ModelOwner)
+    if (element == m_Element)
         return;
-    if (m_ModelOwner)
-        m_ModelOwner->m_SigDestroy.disconnect(this, &CScrollBox::ModelOwnerDies);
-    m_ModelOwner = element;
-    m_OwnerTypes = 0;
-    if (m_ModelOwner)
-        m_ModelOwner->m_SigDestroy.connect(this, &CScrollBox::ModelOwnerDies);
+    if (m_Element)
+        m_Element->m_SigDestroy.disconnect(this, &CModelOwner::Dies);
+    m_Element = element;
+    if (m_Element)
+        m_Element->m_SigDestroy.connect(this, &CModelOwner::Dies);
 }
 
-// Its models have gone with it.
-void CScrollBox::ModelOwnerDies(CVisualElement*)
+// Its model has gone with it.
+void CScrollBox::CModelOwner::Dies(CVisualElement*)
 {
-    m_ModelOwner = nullptr;
-    unsigned const types = m_OwnerTypes;
-    CAliveGuard const alive(this);
-    if (types & ctVertical)
-        SetVertScroll(nullptr);
-    if ((types & ctHorizontal) && alive)
-        SetHorzScroll(nullptr);
+    m_Element = nullptr;
+    (m_Box->*m_SetModel)(nullptr);
 }
 
 // Moves -------------------------------------------------------------------------------------------------------------------

@@ -130,9 +130,24 @@ public:
     void HandleControlDestroy() override;
 
 private:
+    // The element whose own model is scrolled on an axis. The model goes with it.
+    class CModelOwner : public subscriber_base_t
+    {
+    public:
+        CModelOwner(CScrollBox* box, void (CScrollBox::*setModel)(IScrollModel*)) : m_Box(box), m_SetModel(setModel) {}
+
+        CScrollableElement* get() const { return m_Element; }
+        void Watch(CScrollableElement* element);
+
+    private:
+        void Dies(CVisualElement*);
+
+        CScrollBox* const m_Box;
+        void (CScrollBox::*const m_SetModel)(IScrollModel*);
+        CScrollableElement* m_Element = nullptr;
+    };
+
     void UpdateAtOnce();
-    void SetModelOwner(CScrollableElement* element);
-    void ModelOwnerDies(CVisualElement* element);
     void KeepConnected(CScrollableElement* element);
     void TakeWrappersBack();
 
@@ -152,8 +167,8 @@ private:
     bool m_InScroll = false;
     bool m_UpdateAtOnce = false;
     std::vector<std::unique_ptr<CElementPtr<CScrollableElement>>> m_Connected;  // those that have wrapped models
-    CScrollableElement* m_ModelOwner = nullptr;                                 // whose own models are scrolled
-    unsigned m_OwnerTypes = 0;                                                  // on these axes
+    CModelOwner m_VertOwner{this, &CScrollBox::SetVertScroll};
+    CModelOwner m_HorzOwner{this, &CScrollBox::SetHorzScroll};
 };
 
 }  // namespace vexel
