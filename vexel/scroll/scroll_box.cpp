@@ -32,9 +32,11 @@ void CScrollBox::CInternalScrollModel::SetStepSize(double, double) const
 
 void CScrollBox::CInternalScrollModel::SetMeasure(std::pair<double, int> measure)
 {
+    CAliveGuard const alive(m_Owner);
     if (m_Wrapped)
         m_Wrapped->SetMeasure(measure);
-    m_Owner->RefreshScroll();
+    if (alive)
+        m_Owner->RefreshScroll();
 }
 
 std::pair<double, int> CScrollBox::CInternalScrollModel::GetMeasure() const
