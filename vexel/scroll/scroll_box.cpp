@@ -337,10 +337,11 @@ int CScrollBox::ScrollImp(IScrollModel* model, double value)
     };
 
     CScope const scope(this);
+    bool const isOwn = model == GetVertScroll() || model == GetHorzScroll();
     double const old = model->GetStart();
     model->SetStart(value);
     // Whoever heard of it may have taken the model away.
-    bool const isStill = scope.m_Alive && (model == GetVertScroll() || model == GetHorzScroll());
+    bool const isStill = scope.m_Alive && (!isOwn || model == GetVertScroll() || model == GetHorzScroll());
     if (!isStill || !m_ReportPixels)
         return 0;
     CScrollConverter const converter(model);
