@@ -138,6 +138,11 @@ void CScrollBox::CreateScrollbars(IControl* control)
     m_HorzBar = horizontal.get();
     m_VertElement.SetScrollBar(m_VertBar);
     m_HorzElement.SetScrollBar(m_HorzBar);
+    if (!IsEnabled())
+    {
+        m_VertBar->SetEnabled(false);
+        m_HorzBar->SetEnabled(false);
+    }
     m_VertBar->Subscribe(&m_VertElement, typeid(IScrollBarNotify), true);
     m_HorzBar->Subscribe(&m_HorzElement, typeid(IScrollBarNotify), true);
 }
