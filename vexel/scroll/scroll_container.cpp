@@ -118,11 +118,13 @@ void CScrollContainer::CCentralPart::SetVertStart(double value)
     MoveChild(rect);
 }
 
-// All of it is painted anew: what moves out of the view is not on the screen.
+// All of the view is painted anew: what moves into it is not on the screen, and the element may uncover its background.
 void CScrollContainer::CCentralPart::MoveChild(rectangle<int> const& rect)
 {
     CAliveGuard const alive(this);
     m_Scrolled->SetPos(rect, true);
+    if (alive)
+        OnChange(this, utElement);
     ISysWindow* const window = alive && GetControl() ? GetControl()->GetWindow() : nullptr;
     if (window)
         window->UpdateNow();
