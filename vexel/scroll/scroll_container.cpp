@@ -303,13 +303,11 @@ CScrollContainer::~CScrollContainer()
 
 void CScrollContainer::SetScrolled(CVisualElement* element)
 {
-    if (element == m_Scrolled)
-        return;
     CAliveGuard const alive(this);
     if (CVisualElement* const old = m_Scrolled)
     {
         LetGo();
-        if (old->GetParent() == &m_CentralPart)
+        if (old != element && old->GetParent() == &m_CentralPart)
             old->ReParent(nullptr, true);
         if (!alive)
             return;
@@ -332,6 +330,10 @@ void CScrollContainer::SetScrolled(CVisualElement* element)
     if (!alive)
         return;
     m_CentralPart.SetHorzStart(0);
+    if (alive)
+        m_CentralPart.OnRearrange(&m_CentralPart);  // an element that is docked nowhere asks for no layout
+    if (alive)
+        m_CentralPart.Update(utElement);
     if (alive)
         RefreshScroll();
 }
