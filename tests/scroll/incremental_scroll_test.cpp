@@ -376,7 +376,7 @@ private:
         IVisualElements* const siblings = element->GetParent()->GetChildren();
         for (;;)
         {
-            int const left = 45 * m_Random.Int(0, 5), top = 45 * m_Random.Int(0, 5);
+            int const left = 45 * m_Random.Int(0, 3), top = 45 * m_Random.Int(0, 3);
             bool taken = false;
             for (int i = 0; i < siblings->GetCount(); ++i)
             {
@@ -384,7 +384,7 @@ private:
                 taken = taken || (siblings->GetItem(i) != element && pos.left / 45 == left / 45 &&
                                   pos.top / 45 == top / 45 && !pos.IsEmpty());
             }
-            if (taken && siblings->GetCount() < 30)
+            if (taken && siblings->GetCount() < 12)
                 continue;
             element->SetPos({left + m_Random.Int(0, 5), top + m_Random.Int(0, 5), left + m_Random.Int(10, 44),
                              top + m_Random.Int(10, 44)},
@@ -550,8 +550,7 @@ private:
             if (!child->IsVisible())
                 continue;
             rectangle<int> const& pos = child->GetPos();
-            if (!IsContent(child) && child->GetAlignment() != alNone &&
-                (pos.left < 0 || pos.top < 0 || pos.right > bounds.right || pos.bottom > bounds.bottom ||
+            if (!IsContent(child) && (pos.left < 0 || pos.top < 0 || pos.right > bounds.right || pos.bottom > bounds.bottom ||
                  pos.IsEmpty()))
                 return child;
             if (CVisualElement* const found = FindMisplaced(child))
