@@ -201,6 +201,49 @@ TEST_F(ScrollBox, AViewThatFellOffTheEndComesBack)
     EXPECT_EQ(Info(Vert()), "0 to 250 by 5, page 99, at 151");
 }
 
+TEST_F(ScrollBox, AViewWhoseRangeComesToFitMovesBackToItsBeginning)
+{
+    auto* const header = new CTestPane(m_Box, alTop);
+    Connect(400, 300);
+    m_Box->ConnectElement(header, CScrollBox::ctHorizontal, false);
+    m_Box->GetWrappedVertScroll()->SetStart(60);
+    m_Box->GetWrappedHorzScroll()->SetStart(30);
+    m_Host.Paint();
+    m_Pane->m_Calls.Take();
+    header->m_Calls.Take();
+    m_Pane->m_Vert.m_To = 40;
+    m_Pane->m_Horz.m_To = 50;
+    m_Box->RefreshScroll();
+    EXPECT_EQ(m_Pane->m_Vert.m_Start, 0.0);
+    EXPECT_EQ(m_Pane->m_Horz.m_Start, 0.0);
+    EXPECT_EQ(m_Pane->m_Calls.Take(), "scroll(0, 60) scroll(30, 0)");
+    EXPECT_EQ(header->m_Calls.Take(), "scroll(0, 60) scroll(30, 0)");
+    m_Box->GetWrappedVertScroll()->SetStart(20);  // there and back
+    EXPECT_EQ(m_Pane->m_Calls.Take(), "scroll(0, -20) scroll(0, 20)");
+    m_Box->SetReportPixels(false);
+    m_Box->GetWrappedVertScroll()->SetStart(20);
+    EXPECT_EQ(m_Pane->m_Calls.Take(), "");
+    EXPECT_EQ(m_Pane->m_Vert.m_Start, 0.0);
+}
+
+TEST_F(ScrollBox, AModelThatRefreshesTheBoxWithinAMoveIsMovedOnce)
+{
+    Connect(100, 50);
+    m_Pane->m_Vert.m_OnSetStart = [&] { m_Box->RefreshScroll(); };
+    m_Box->GetWrappedVertScroll()->SetStart(20);
+    EXPECT_EQ(m_Pane->m_Vert.m_Start, 0.0);
+    EXPECT_EQ(m_Pane->m_Calls.Take(), "");  // it never got away from 0
+    m_Pane->m_Vert.m_OnSetStart = nullptr;
+    Connect(100, 300);
+    m_Box->GetWrappedVertScroll()->SetStart(150);
+    m_Pane->m_Vert.m_OnSetStart = [&] { m_Box->RefreshScroll(); };
+    m_Pane->m_Calls.Take();
+    m_Pane->m_Vert.m_To = 200;
+    m_Box->RefreshScroll();
+    EXPECT_EQ(m_Pane->m_Vert.m_Start, 101.0);
+    EXPECT_EQ(m_Pane->m_Calls.Take(), "scroll(0, 49)");
+}
+
 // The user at the bar ------------------------------------------------------------------------------------------------------
 
 TEST_F(ScrollBox, ADraggedBarMovesTheModelAndThePane)
@@ -411,6 +454,20 @@ TEST_F(ScrollBox, ItselfNeedsNoRepaintByAScroll)
     EXPECT_FALSE(m_Box->IsFullRepainted());
     PaintLog const paint = m_Host.FullPaint();
     EXPECT_EQ(paint.Of("CScrollBox").Count("FillRect*"), 0);
+}
+
+TEST_F(ScrollBox, AMoveLeavesOnlyTheUncoveredStripToBePainted)
+{
+    Connect(400, 300);
+    EXPECT_EQ(m_Pane->GetValidRect(), (rectangle<int>{0, 0, 182, 82}));
+    m_Host.Mouse().Wheel(*m_Pane, 10, 10, -3);
+    EXPECT_EQ(m_Pane->GetValidRect(), (rectangle<int>{0, 0, 182, 79}));
+    Horz()->StepLine(2);
+    EXPECT_EQ(m_Pane->GetValidRect(), (rectangle<int>{0, 0, 172, 79}));
+    m_Host.Paint();
+    EXPECT_EQ(m_Pane->GetValidRect(), (rectangle<int>{0, 0, 182, 82}));
+    Vert()->DragThumb(0);
+    EXPECT_EQ(m_Pane->GetValidRect(), (rectangle<int>{0, 3, 182, 82}));
 }
 
 // Wheel ----------------------------------------------------------------------------------------------------------------------

@@ -19,6 +19,14 @@ int GetBarMetric()
     return system ? system->GetSystemMetric(ISystem::smScrollBarWidth) : 0;
 }
 
+// How far a model has gone since, as it must be drawn.
+int GetPixels(IScrollModel* model, double before)
+{
+    CScrollConverter const converter(model);
+    int const distance = FloorToInt(converter.L2P(model->GetStart()) - converter.L2P(before) + 0.5);
+    return model->GetFrom() > model->GetTo() ? SubtractSaturated(0, distance) : distance;
+}
+
 }  // namespace
 
 // The wrapped models ------------------------------------------------------------------------------------------------------
@@ -167,6 +175,29 @@ void CScrollBox::SetCornerAlways(bool always)
     RefreshScroll();
 }
 
+// A range that has come to fit its page goes back to its beginning by itself, past the box: how far it went.
+class CScrollBox::CSnap
+{
+public:
+    CSnap(CScrollBox* box, IScrollModel* model)
+        : m_Box(box), m_Model(model), m_Start(model ? model->GetStart() : 0), m_Moves(box->m_Moves)
+    {}
+
+    int GetDistance(IScrollModel* present) const
+    {
+        if (!m_Model || present != m_Model || m_Box->m_Moves != m_Moves || m_Box->m_InScroll || !m_Box->m_ReportPixels)
+            return 0;
+        ++m_Box->m_Moves;
+        return GetPixels(m_Model, m_Start);
+    }
+
+private:
+    CScrollBox* const m_Box;
+    IScrollModel* const m_Model;
+    double const m_Start;
+    unsigned const m_Moves;
+};
+
 void CScrollBox::RefreshScroll()
 {
     CAliveGuard const alive(this);
@@ -175,7 +206,12 @@ void CScrollBox::RefreshScroll()
     // The vertical bar comes first: where it appears it narrows the pane.
     CVisualElement const* pane = GetCentralPane();
     if (pane || !GetVertScroll())
+    {
+        CSnap const snap(this, GetVertScroll());
         m_VertElement.Recalculate(GetVertScroll(), pane ? pane->GetBounds().bottom : 0);
+        if (int const distance = alive ? snap.GetDistance(GetVertScroll()) : 0)
+            Scroll(0, SubtractSaturated(0, distance), false);
+    }
     if (!alive)
         return;
     m_VertHolder.SetVisible(m_VertElement.IsScrollBarVisible());
@@ -183,7 +219,12 @@ void CScrollBox::RefreshScroll()
         return;
     pane = GetCentralPane();
     if (pane || !GetHorzScroll())
+    {
+        CSnap const snap(this, GetHorzScroll());
         m_HorzElement.Recalculate(GetHorzScroll(), pane ? pane->GetBounds().right : 0);
+        if (int const distance = alive ? snap.GetDistance(GetHorzScroll()) : 0)
+            Scroll(SubtractSaturated(0, distance), 0, false);
+    }
     if (!alive)
         return;
     m_HorzHolder.SetVisible(m_HorzElement.IsScrollBarVisible());
@@ -344,14 +385,13 @@ int CScrollBox::ScrollImp(IScrollModel* model, double value)
     CScope const scope(this);
     bool const isOwn = model == GetVertScroll() || model == GetHorzScroll();
     double const old = model->GetStart();
+    ++m_Moves;
     model->SetStart(value);
     // Whoever heard of it may have taken the model away.
     bool const isStill = scope.m_Alive && (!isOwn || model == GetVertScroll() || model == GetHorzScroll());
     if (!isStill || !m_ReportPixels)
         return 0;
-    CScrollConverter const converter(model);
-    int const distance = FloorToInt(converter.L2P(model->GetStart()) - converter.L2P(old) + 0.5);
-    return model->GetFrom() > model->GetTo() ? SubtractSaturated(0, distance) : distance;
+    return GetPixels(model, old);
 }
 
 void CScrollBox::VertScroll(CScrollEvent::ScrollAction, double value)

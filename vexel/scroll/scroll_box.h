@@ -147,6 +147,8 @@ private:
         CScrollableElement* m_Element = nullptr;
     };
 
+    class CSnap;
+
     void UpdateAtOnce();
     void KeepConnected(CScrollableElement* element);
     void TakeWrappersBack();
@@ -165,6 +167,7 @@ private:
     bool m_ReportPixels = true;
     bool m_CornerAlways = false;
     bool m_InScroll = false;
+    unsigned m_Moves = 0;  // of models, by this box
     bool m_UpdateAtOnce = false;
     std::vector<std::unique_ptr<CElementPtr<CScrollableElement>>> m_Connected;  // those that have wrapped models
     CModelOwner m_VertOwner{this, &CScrollBox::SetVertScroll};
