@@ -344,7 +344,7 @@ private:
         CHead* const left = m_Random.Bool() ? new CHead(box, alLeft) : nullptr;
         auto* const pane = new CPane(box);
         pane->m_Horz.m_To = m_Random.Int(10, 300);
-        pane->m_Vert.m_To = m_Random.Int(10, 300);
+        pane->m_Vert.m_To = m_Random.Int(50, 300);
         if (m_Random.Chance(20))
             pane->m_Vert.m_From = 40;
         box->ConnectElement(pane, CScrollBox::ctBoth, true);
