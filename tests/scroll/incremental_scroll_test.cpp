@@ -295,7 +295,7 @@ private:
             return;
         }
         auto const alignment = static_cast<Alignment>(m_Random.Int(alLeft, alBottom));
-        size<int> const large{m_Random.Int(50, 120), m_Random.Int(50, 120)};
+        size<int> const large{m_Random.Int(45, 90), m_Random.Int(45, 80)};
         CVisualElement* element = nullptr;
         switch (m_Random.Int(0, 7))
         {
@@ -538,7 +538,11 @@ private:
             if (!child->IsVisible())
                 continue;
             rectangle<int> const& pos = child->GetPos();
-            if (!IsContent(child) && (pos.left < 0 || pos.top < 0 || pos.right > bounds.right ||
+            Alignment const dock = child->GetAlignment();
+            // One that got less than it asked for lies over its neighbours.
+            bool const squeezed = ((dock == alLeft || dock == alRight) && pos.Width() < child->GetSize().width) ||
+                                  ((dock == alTop || dock == alBottom) && pos.Height() < child->GetSize().height);
+            if (!IsContent(child) && (squeezed || pos.left < 0 || pos.top < 0 || pos.right > bounds.right ||
                                       pos.bottom > bounds.bottom || pos.IsEmpty()))
                 return child;
             if (CVisualElement* const found = FindMisplaced(child))

@@ -681,6 +681,28 @@ TEST_F(ScrollContainer, AScrollOfATreeAroundRefreshesThePlacesBelow)
     static_cast<void>(element);
 }
 
+TEST_F(ScrollContainer, AMoveDoesNotScrollThePanesThatMoveAlong)
+{
+    CCallLog log;
+    auto* const deep = new CRecordingElement(log, "deep", m_Content);
+    log.Clear();
+    Vert()->DragThumb(30);
+    EXPECT_EQ(log.Take({"ScrollContent"}), "");
+    m_Content->Scroll(3, 4, false);  // by itself it would hear
+    EXPECT_EQ(log.Take({"ScrollContent"}), "deep.ScrollContent(3, 4)");
+    static_cast<void>(deep);
+}
+
+TEST_F(ScrollContainer, WhatStandsBesideTheViewScrollsAlongWithIt)
+{
+    auto* const header = new CScrollableElement(m_Container, {10, 10}, alTop);
+    m_Container->ConnectElement(header, CScrollBox::ctHorizontal, false);
+    m_Host.Paint();
+    m_Host.Name(*header, "header");
+    Horz()->DragThumb(30);
+    EXPECT_THAT(m_Host.Paint().Elements(), testing::HasSubstr("header"));
+}
+
 TEST_F(ScrollContainer, ContainersMayStandInContainers)
 {
     auto* const inner = new CScrollContainer(m_Content, {10, 10}, alNone);

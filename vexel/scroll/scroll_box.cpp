@@ -210,7 +210,7 @@ void CScrollBox::RefreshScroll()
         CSnap const snap(this, GetVertScroll());
         m_VertElement.Recalculate(GetVertScroll(), pane ? pane->GetBounds().bottom : 0);
         if (int const distance = alive ? snap.GetDistance(GetVertScroll()) : 0)
-            Scroll(0, SubtractSaturated(0, distance), false);
+            ScrollAll(0, SubtractSaturated(0, distance));
     }
     if (!alive)
         return;
@@ -223,7 +223,7 @@ void CScrollBox::RefreshScroll()
         CSnap const snap(this, GetHorzScroll());
         m_HorzElement.Recalculate(GetHorzScroll(), pane ? pane->GetBounds().right : 0);
         if (int const distance = alive ? snap.GetDistance(GetHorzScroll()) : 0)
-            Scroll(SubtractSaturated(0, distance), 0, false);
+            ScrollAll(SubtractSaturated(0, distance), 0);
     }
     if (!alive)
         return;
@@ -400,7 +400,7 @@ void CScrollBox::VertScroll(CScrollEvent::ScrollAction, double value)
     int const distance = ScrollImp(GetVertScroll(), value);
     if (!alive || distance == 0)
         return;
-    Scroll(0, SubtractSaturated(0, distance), false);
+    ScrollAll(0, SubtractSaturated(0, distance));
     if (alive)
         UpdateAtOnce();
 }
@@ -411,9 +411,27 @@ void CScrollBox::HorzScroll(CScrollEvent::ScrollAction, double value)
     int const distance = ScrollImp(GetHorzScroll(), value);
     if (!alive || distance == 0)
         return;
-    Scroll(SubtractSaturated(0, distance), 0, false);
+    ScrollAll(SubtractSaturated(0, distance), 0);
     if (alive)
         UpdateAtOnce();
+}
+
+void CScrollBox::ScrollAll(int dx, int dy)
+{
+    if (!m_PaneMovesItself)
+    {
+        Scroll(dx, dy, false);
+        return;
+    }
+    CAliveGuard const alive(this);
+    for (int i = 0; alive && i < GetChildren()->GetCount(); ++i)
+    {
+        CVisualElement* const child = GetChildren()->GetItem(i);
+        if (child == GetCentralPane())
+            child->ScrollContent(dx, dy);
+        else if (child->IsVisible())
+            child->Scroll(dx, dy, false);
+    }
 }
 
 void CScrollBox::UpdateAtOnce()

@@ -129,6 +129,10 @@ public:
     bool HandleWheel(int x, int y, int keys, MouseButton button, int delta) override;
     void HandleControlDestroy() override;
 
+protected:
+    /// The pane has moved what stands in it, with its pixels, when its model has: of a scroll it hears alone.
+    void SetPaneMovesItself(bool itself) { m_PaneMovesItself = itself; }
+
 private:
     // The element whose own model is scrolled on an axis. The model goes with it.
     class CModelOwner : public subscriber_base_t
@@ -149,6 +153,7 @@ private:
 
     class CSnap;
 
+    void ScrollAll(int dx, int dy);
     void UpdateAtOnce();
     void KeepConnected(CScrollableElement* element);
     void TakeWrappersBack();
@@ -167,6 +172,7 @@ private:
     bool m_ReportPixels = true;
     bool m_CornerAlways = false;
     bool m_InScroll = false;
+    bool m_PaneMovesItself = false;
     unsigned m_Moves = 0;  // of models, by this box
     bool m_UpdateAtOnce = false;
     std::vector<std::unique_ptr<CElementPtr<CScrollableElement>>> m_Connected;  // those that have wrapped models

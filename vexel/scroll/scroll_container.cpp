@@ -285,6 +285,7 @@ CScrollContainer::CScrollContainer(CVisualElement* parent, size<int> const& exte
 {
     m_CentralPart.SetDynamic(false);
     m_CentralPart.ReParent(this, true);
+    SetPaneMovesItself(true);
     m_CentralPart.m_SigButtonDown.connect(&m_CentralPart, &CCentralPart::HandlePaneButtonDown);
     m_SigGetWheelStep.connect(this, &CScrollContainer::GetWheelStepSize);
     SetHorzScroll(static_cast<IHorzPhysicalScrollModel*>(&m_CentralPart));
