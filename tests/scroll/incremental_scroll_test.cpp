@@ -285,6 +285,8 @@ private:
         bool const free = parent != m_Base && (parent->GetChildren()->GetCount() == 0
                                                    ? m_Random.Chance(40)
                                                    : parent->GetChildren()->GetItem(0)->GetAlignment() == alNone);
+        if (free && parent->GetChildren()->GetCount() >= 12)
+            return;
         if (free)
         {
             auto* const leaf = new CLeaf(parent, {10, 10}, alNone, m_Random.Int(0, 17));
@@ -372,7 +374,7 @@ private:
                 taken = taken || (siblings->GetItem(i) != element && pos.left / 45 == left / 45 &&
                                   pos.top / 45 == top / 45 && !pos.IsEmpty());
             }
-            if (taken && siblings->GetCount() < 12)
+            if (taken)
                 continue;
             element->SetPos({left + m_Random.Int(0, 5), top + m_Random.Int(0, 5), left + m_Random.Int(10, 44),
                              top + m_Random.Int(10, 44)},
