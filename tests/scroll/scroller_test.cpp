@@ -230,7 +230,30 @@ TEST_F(Scroller, ContentThatShrinksComesBack)
     Ask(40);
     EXPECT_EQ(Buttons(), "none");
     EXPECT_EQ(Part().GetOffset(), 0);
+    EXPECT_EQ(Part().GetPos(), (rectangle<int>{0, 0, 99, 79}));
     EXPECT_EQ(m_Content->GetPos(), (rectangle<int>{0, 0, 99, 40}));
+    Ask(200);
+    EXPECT_EQ(Part().GetPos(), (rectangle<int>{0, 13, 99, 66}));
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(Scroller, ALayoutOnDemandGivesTheViewTheButtonsRoomAtOnce)
+{
+    Ask(200);
+    auto* const docked = new CVisualElement(m_Content, {5, 5}, alTop);
+    m_Host.Paint();
+    for (int round = 0; round < 3; ++round)
+    {
+        m_Content->SetSize({10, 40}, false);
+        m_Host.Root()->ForceRearrange();
+        EXPECT_EQ(Buttons(), "none");
+        EXPECT_EQ(Part().GetPos(), (rectangle<int>{0, 0, 99, 79}));
+        m_Content->SetSize({10, 200}, false);
+        docked->SetSize({5, 6 + round}, false);
+        m_Host.Root()->ForceRearrange();
+        EXPECT_EQ(Part().GetPos(), (rectangle<int>{0, 13, 99, 66}));
+    }
+    m_Host.Paint();
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 

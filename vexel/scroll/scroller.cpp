@@ -144,6 +144,17 @@ void CScroller::SetScrolled(CVisualElement* element)
         m_CentralPart.Move(0);  // an element that is docked nowhere asks for no layout
 }
 
+// Buttons that come or go change the room of the view. A control that is laying out ends where the same is asked for
+// again: the panel lays out itself.
+void CScroller::SetPos(rectangle<int> const& rect, bool force)
+{
+    CAliveGuard const alive(this);
+    bool const before = m_TopButton.IsVisible();
+    CVisualElement::SetPos(rect, force);
+    if (alive && m_TopButton.IsVisible() != before)
+        CVisualElement::SetPos(GetPos(), true);
+}
+
 bool CScroller::IsFullRepainted() const
 {
     CVisualElement const* const scrolled = GetScrolled();

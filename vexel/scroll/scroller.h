@@ -58,6 +58,7 @@ public:
     CArrowButton& GetBottomButton() { return m_BottomButton; }
     CCentralPart& GetCentralPart() { return m_CentralPart; }
 
+    void SetPos(rectangle<int> const& rect, bool force) override;
     bool IsFullRepainted() const override;  ///< As the content; false without one.
 
 private:
