@@ -87,6 +87,31 @@ TEST_F(ScrollBox, InANarrowPaneTheVerticalBarMakesTheHorizontalOneAppearInTheSam
     EXPECT_EQ(m_Pane->GetPos(), (rectangle<int>{0, 0, 199, 99}));
 }
 
+TEST_F(ScrollBox, ALayoutOnDemandGivesEachBarItsRoomAtOnce)
+{
+    Connect(10, 10);
+    Connect(190, 50);
+    for (int round = 0; round < 2; ++round)
+    {
+        m_Pane->m_Vert.m_To = 300;
+        m_Box->RefreshScroll();
+        m_Host.Root()->ForceRearrange();
+        EXPECT_EQ(Shown(), "vertical horizontal corner");
+        EXPECT_EQ(m_Pane->GetPos(), (rectangle<int>{0, 0, 182, 82}));
+        EXPECT_EQ(Info(Horz()), "0 to 190 by 5, page 182, at 0");
+        rectangle<int> corner = Corner()->GetBounds();
+        Corner()->ElementToControl(&corner);
+        EXPECT_EQ(corner, (rectangle<int>{183, 83, 199, 99}));
+        m_Pane->m_Vert.m_To = 40;
+        m_Box->RefreshScroll();
+        m_Host.Root()->ForceRearrange();
+        EXPECT_EQ(Shown(), "");
+        EXPECT_EQ(m_Pane->GetPos(), (rectangle<int>{0, 0, 199, 99}));
+    }
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
 TEST_F(ScrollBox, InALowPaneTheHorizontalBarMakesTheVerticalOneAppear)
 {
     Connect(400, 90);
