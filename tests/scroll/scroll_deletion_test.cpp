@@ -382,6 +382,25 @@ TEST(ScrollDeletion, EachAxisForgetsTheModelOfItsOwnOwner)
     box->SetHorzScroll(nullptr);
 }
 
+TEST(ScrollDeletion, WhoeverHasTheBoxesModelsAlreadyDoesNotOwnThem)
+{
+    CTestHost host(200, 100);
+    auto* const box = new CScrollBox(host.Root(), {10, 10}, alClient);
+    auto* const owner = new CTestPane(box, alTop);
+    auto* const pane = new CTestPane(box);
+    owner->m_Vert.m_To = 300;
+    owner->m_Horz.m_To = 400;
+    box->ConnectElement(owner, CScrollBox::ctBoth, true);
+    box->ConnectElement(pane, CScrollBox::ctBoth, false);
+    box->ConnectElement(pane, CScrollBox::ctBoth, true);  // it shows now what the other has
+    EXPECT_EQ(box->GetVertScroll(), &owner->m_Vert);
+    EXPECT_EQ(box->GetHorzScroll(), &owner->m_Horz);
+    delete owner;
+    EXPECT_EQ(box->GetVertScroll(), nullptr);
+    EXPECT_EQ(box->GetHorzScroll(), nullptr);
+    host.Paint();
+}
+
 TEST(ScrollDeletion, AnElementMayGoWhileItIsConnected)
 {
     for (bool const vertical : {false, true})

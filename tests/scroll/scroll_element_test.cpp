@@ -268,6 +268,13 @@ TEST_F(ScrollElementOfItems, ItemsThatFitBringTheModelToItsLowerEnd)
     EXPECT_EQ(Recalculate(m_Model, 59), "info(0: 0 to 60 by 5, page 50, at 0) enable");
 }
 
+TEST_F(ScrollElementOfItems, AnItemOfNoSizeDoesNotFit)
+{
+    m_Model.m_Measure = {1.0, 10};
+    m_Model.m_Steps = {1, 1, 0, 1, 1, 1};
+    EXPECT_EQ(Recalculate(m_Model, 50), "info(0: 0 to 60 by 5, page 20, at 0) enable");
+}
+
 TEST_F(ScrollElementOfItems, ItemsOfNoSizeHarmNobody)
 {
     m_Model.m_Measure = {1.0, 10};
