@@ -472,23 +472,8 @@ void CScrollBox::SetPos(rectangle<int> const& rect, bool force)
     rectangle<int> const old = GetPos();
     CAliveGuard const alive(this);
     CScrollableElement::SetPos(rect, force);
-    if (!alive || (!force && GetPos() == old))
-        return;
-    // A bar that comes or goes changes the room of the pane, and thus perhaps the other bar. A control that is laying out
-    // ends where the same is asked for again: the box lays out itself.
-    for (int round = 0; round < 3; ++round)
-    {
-        bool const vertical = m_VertElement.IsScrollBarVisible();
-        bool const horizontal = m_HorzElement.IsScrollBarVisible();
+    if (alive && (force || GetPos() != old))
         RefreshScroll();
-        if (!alive ||
-            (m_VertElement.IsScrollBarVisible() == vertical && m_HorzElement.IsScrollBarVisible() == horizontal))
-            return;
-        CScrollableElement::SetPos(GetPos(), true);
-        if (!alive)
-            return;
-    }
-    RefreshScroll();
 }
 
 void CScrollBox::SetEnabled(bool enabled)
