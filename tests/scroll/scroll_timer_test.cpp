@@ -80,6 +80,13 @@ TEST_F(ScrollTimer, TheLargestStepCutsTheLastIncrement)
     EXPECT_EQ(m_Model.m_Calls.Take(), "start(501) start(506) start(512) start(518) start(524)");
 }
 
+TEST_F(ScrollTimer, AFirstStepAboveTheLargestStays)
+{
+    CScrollTimer timer(m_Axis, 100, 40, 32, 4, 1);
+    timer.Start(true);
+    EXPECT_EQ(Ticks(3), "start(540) start(580) start(620)");
+}
+
 TEST_F(ScrollTimer, BackwardItGoesTheSameWay)
 {
     EXPECT_TRUE(m_Timer.Start(false));
