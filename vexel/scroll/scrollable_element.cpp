@@ -2,6 +2,7 @@
 
 #include "vexel/platform/system.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -190,9 +191,13 @@ double CScrollableElement::DelStepsInfo(double value, IScrollModel* model) const
     double rest = value - base;
     double sum = base;
     double index = base;
+    double const last = std::max(model->GetFrom(), model->GetTo());
     for (int count = std::numeric_limits<int>::max(); ToInt(rest) > 0 && count > 0; --count)
     {
-        rest -= model->GetStepSize(index);
+        double const step = model->GetStepSize(index);
+        if (!(step > 0) && !(index < last))  // behind the range, nothing without size comes to an end
+            break;
+        rest -= step;
         sum += 1;
         index += 1;
     }
