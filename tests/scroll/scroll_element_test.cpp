@@ -310,16 +310,16 @@ TEST_F(ScrollElement, ALongRangeIsSpreadOverTheBar)
     EXPECT_EQ(model.m_Calls.Take(), "");  // once
 }
 
-TEST_F(ScrollElement, ALongRangeWithAFixedMeasureIsBeyondTheReachOfItsBar)
+TEST_F(ScrollElement, ALongRangeWithAFixedMeasureIsCountedBeyondWholeNumbers)
 {
     CTestModel model(0, 1e18, 0);
     model.m_TakesMeasure = false;
     Recalculate(model, 40);
     EXPECT_TRUE(m_Element.IsScrollBarVisible());
     UserScrolls(1e18, CScrollEvent::saThumb);
-    EXPECT_EQ(m_Log.Take(), "scroll(0, 2147483647)");
+    EXPECT_EQ(m_Log.Take(), "scroll(0, 1e+18)");
     UserScrolls(3e9, CScrollEvent::saThumb);
-    EXPECT_EQ(m_Log.Take(), "scroll(0, 2147483647)");
+    EXPECT_EQ(m_Log.Take(), "scroll(0, 3e+09)");
 }
 
 // The user ---------------------------------------------------------------------------------------------------------------

@@ -124,6 +124,8 @@ void CScrollContainer::CCentralPart::MoveChild(rectangle<int> const& rect)
     CAliveGuard const alive(this);
     m_Scrolled->SetPos(rect, true);
     if (alive)
+        RefreshPos();  // native controls that are docked nowhere follow, too
+    if (alive)
         OnChange(this, utElement);
     ISysWindow* const window = alive && GetControl() ? GetControl()->GetWindow() : nullptr;
     if (window)
