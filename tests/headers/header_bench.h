@@ -170,8 +170,8 @@ protected:
     std::string Hit(int along, int across = 10)
     {
         CSimpleHeader::HitTestResult const hit = m_Header.HitTest(At(along, across));
-        std::string text = std::to_string(hit.m_Area) + ": " + std::to_string(hit.m_Section) + " " +
-                           std::to_string(hit.m_NextSection);
+        std::string text =
+            std::to_string(hit.m_Area) + ": " + std::to_string(hit.m_Section) + " " + std::to_string(hit.m_NextSection);
         return text + " " + Describe(hit.m_Rect);
     }
     CVisualElement* Captured() { return m_Host.Control().GetControl()->GetCapture(); }

@@ -97,8 +97,7 @@ TEST_P(SimpleHeaderDrag, ASectionThatIsPulledIsDragged)
 
 TEST_P(SimpleHeaderDrag, ARefusedDragStaysAPress)
 {
-    auto const no =
-        Listen(m_Header.m_SigCanDrag, [](CSimpleHeader*, int, bool* allow) { *allow = false; });
+    auto const no = Listen(m_Header.m_SigCanDrag, [](CSimpleHeader*, int, bool* allow) { *allow = false; });
     Press(10);
     Move(80);
     EXPECT_EQ(m_Log.Count("canDrag"), 1);

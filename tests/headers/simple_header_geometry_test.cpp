@@ -357,10 +357,7 @@ struct SNaive
     bool expanded = false;
 
     int Count() const { return static_cast<int>(widths.size()); }
-    int Begin(int section) const
-    {
-        return from - start + std::accumulate(widths.begin(), widths.begin() + section, 0);
-    }
+    int Begin(int section) const { return from - start + std::accumulate(widths.begin(), widths.begin() + section, 0); }
     int End(int section) const
     {
         int const end = Begin(section) + widths[static_cast<std::size_t>(section)] - 1;
@@ -425,8 +422,7 @@ TEST_P(SimpleHeaderOnSide, ItStandsLikeANaiveLayout)
                                   (naive.expanded ? " expanded" : "");
         int const first = naive.First();
         EXPECT_EQ(First(m_Header),
-                  first < 0 ? "-7, -8"
-                            : std::to_string(first) + ", " + std::to_string(naive.from - naive.Begin(first)))
+                  first < 0 ? "-7, -8" : std::to_string(first) + ", " + std::to_string(naive.from - naive.Begin(first)))
             << about;
         for (int i = 0; i < naive.Count(); ++i)
             EXPECT_EQ(m_Header.GetSectionRect(i),

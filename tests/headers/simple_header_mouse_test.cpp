@@ -298,8 +298,8 @@ TEST_P(SimpleHeaderMouse, ASectionIsPressedAndClicked)
     EXPECT_EQ(m_Host.Paint().Elements(), "header");
 
     int active = -2;
-    auto const clicked = Listen(m_Header.m_SigSectionClicked,
-                                [&](CSimpleHeader* header, int) { active = header->GetActiveSection(); });
+    auto const clicked =
+        Listen(m_Header.m_SigSectionClicked, [&](CSimpleHeader* header, int) { active = header->GetActiveSection(); });
     Release();
     EXPECT_EQ(m_Log.Take(), "clicked(0)");
     EXPECT_EQ(active, 0);

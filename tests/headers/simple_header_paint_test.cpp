@@ -121,8 +121,7 @@ TEST_P(SimpleHeaderPaintOnSide, ItsWorkIsCutToTheStrip)
 TEST_F(SimpleHeaderPaint, SectionsBeforeTheStartAndBeyondTheEndAreLeftOut)
 {
     m_Scroll.m_Start = 70;
-    EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"),
-              "0 -20 0 39 20 0x0; 0 40 0 79 20 0x0; 0 80 0 209 20 0x1");
+    EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"), "0 -20 0 39 20 0x0; 0 40 0 79 20 0x0; 0 80 0 209 20 0x1");
 
     m_Scroll.m_Start = 0;
     m_Sections.m_Widths = {199, 50, 10};
@@ -133,8 +132,7 @@ TEST_F(SimpleHeaderPaint, SectionsBeforeTheStartAndBeyondTheEndAreLeftOut)
     EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"),
               "0 0 0 99 20 0x0; 0 100 0 149 20 0x0; 0 150 0 198 20 0x0; 0 199 0 209 20 0x1");
     m_Sections.m_Widths = {100, 50, 50};
-    EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"),
-              "0 0 0 99 20 0x0; 0 100 0 149 20 0x0; 0 150 0 199 20 0x0");
+    EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"), "0 0 0 99 20 0x0; 0 100 0 149 20 0x0; 0 150 0 199 20 0x0");
 }
 
 TEST_F(SimpleHeaderPaint, WithoutSectionsAllOfItIsTheEmptyEnd)
@@ -146,8 +144,7 @@ TEST_F(SimpleHeaderPaint, WithoutSectionsAllOfItIsTheEmptyEnd)
 TEST_F(SimpleHeaderPaint, TheLastExpandedSectionLeavesNoEmptyEnd)
 {
     m_Header.ExpandLastSection(true);
-    EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"),
-              "0 0 0 49 20 0x0; 0 50 0 109 20 0x0; 0 110 0 199 20 0x0");
+    EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"), "0 0 0 49 20 0x0; 0 50 0 109 20 0x0; 0 110 0 199 20 0x0");
 }
 
 TEST_F(SimpleHeaderPaint, TheOnlySectionIsCutToTheHeader)
