@@ -332,6 +332,23 @@ TEST_P(SimpleHeaderDrag, ThePictureOfTheSectionMovesWithThePointer)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+// Only the strip's own captions are turned before they are drawn, and so twice.
+TEST_P(SimpleHeaderDrag, TheCaptionInThePictureIsDrawnInTheElementsFont)
+{
+    font bold;
+    bold.style = font::fsBold;
+    m_Header.SetFont(bold);
+    Start(10, 100);
+    std::string const turned = IsUpright() ? " rotation 2700" : "";
+    PaintLog const log = Frame();
+    EXPECT_THAT(log, Draws("picture FillRect*")
+                         .Then("picture SetFont \"Square\" 8 bold")
+                         .Then("picture SetFont \"Square\" 8 bold" + turned)
+                         .Then("picture DrawStringEx*")
+                         .Then("picture SetFont \"Square\" 8 bold"));
+    Release();
+}
+
 TEST_P(SimpleHeaderDrag, ThePictureStaysOnTheHeader)
 {
     Start(10, 100);

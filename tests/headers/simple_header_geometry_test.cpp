@@ -194,6 +194,29 @@ TEST_P(SimpleHeaderOnSide, TheFirstSectionIsTheOneAtTheStart)
     }
 }
 
+// A view that was pulled beyond its beginning.
+TEST_P(SimpleHeaderOnSide, AStartBeforeTheRangeLeavesRoomBeforeTheFirstSection)
+{
+    m_Scroll.m_Start = -5;
+    EXPECT_EQ(m_Header.GetSectionRect(0), Span(5, 54));
+    EXPECT_EQ(m_Header.GetSectionRect(1), Span(55, 114));
+    EXPECT_EQ(Hit(0), "1: 0 0 " + Describe(Span(5, 54)));
+    EXPECT_EQ(Hit(57), "2: 0 1 " + Describe(Span(5, 54)));
+    m_Scroll.m_Start = -1;
+    EXPECT_EQ(Hit(10), "1: 0 0 " + Describe(Span(1, 50)));
+}
+
+TEST_P(SimpleHeaderOnSide, WholeItemsBeforeTheFirstAreNone)
+{
+    CItemScroll items;
+    m_Header.SetHorzScroll(&items);
+    m_Header.SetVertScroll(&items);
+    items.m_Start = -2;
+    EXPECT_EQ(First(m_Header), "-2, 0");
+    EXPECT_EQ(Hit(10), "0: 0 0 (0, 0, 0, 0)");
+    EXPECT_EQ(m_Header.GetSectionRect(0), rectangle<int>());
+}
+
 TEST_P(SimpleHeaderOnSide, PixelsAreCountedFromTheLowEndOfTheModel)
 {
     m_Scroll.m_From = 100;

@@ -123,6 +123,10 @@ TEST_F(SimpleHeaderPaint, SectionsBeforeTheStartAndBeyondTheEndAreLeftOut)
     m_Scroll.m_Start = 70;
     EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"), "0 -20 0 39 20 0x0; 0 40 0 79 20 0x0; 0 80 0 209 20 0x1");
 
+    m_Scroll.m_Start = -5;
+    EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"),
+              "0 5 0 54 20 0x0; 0 55 0 114 20 0x0; 0 115 0 154 20 0x0; 0 155 0 209 20 0x1");
+
     m_Scroll.m_Start = 0;
     m_Sections.m_Widths = {199, 50, 10};
     EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"), "0 0 0 198 20 0x0; 0 199 0 248 20 0x0");
@@ -138,6 +142,19 @@ TEST_F(SimpleHeaderPaint, SectionsBeforeTheStartAndBeyondTheEndAreLeftOut)
 TEST_F(SimpleHeaderPaint, WithoutSectionsAllOfItIsTheEmptyEnd)
 {
     m_Sections.m_Widths.clear();
+    EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"), "0 0 0 209 20 0x1");
+}
+
+TEST_F(SimpleHeaderPaint, WithoutSectionsThereIsNoLastOneToExpand)
+{
+    m_Sections.m_Widths.clear();
+    m_Header.ExpandLastSection(true);
+    EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"), "0 0 0 209 20 0x1");
+}
+
+TEST_F(SimpleHeaderPaint, BehindTheLastSectionAllOfItIsTheEmptyEnd)
+{
+    m_Scroll.m_Start = 150;
     EXPECT_EQ(CallsFrom(Draw(), "DrawControlElement"), "0 0 0 209 20 0x1");
 }
 
