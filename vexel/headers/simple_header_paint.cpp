@@ -229,9 +229,7 @@ void CSimpleHeader::HandleDrawDragItem(IPainter* painter, DragInfo& info, bool, 
         canvas->BeginPaint(IPainter::ssPaint);
         canvas->SetBrush({GetSystemColor(ISysPalette::scFace), brush::bsSolid});
         canvas->FillRect(0, 0, width, height);
-        font turned = GetFont();
-        ConvFont(&turned);
-        canvas->SetFont(turned);
+        canvas->SetFont(GetFont());
         canvas->SetTextColor(GetFgColor());
         DrawSectionRect(
             canvas,
