@@ -86,10 +86,10 @@ void CSimpleHeader::DrawContent(IPainter* painter)
     point<double> position = MakePoint(GetAlong(strip.left, strip.top), 0);
 
     int first = -1;
-    int offset = -1;
+    int offset = 0;
     CalcFirstSection(&first, &offset);
     int const count = GetSectionCount();
-    if (first >= 0 && offset >= 0)
+    if (first >= 0)
     {
         IncAlong(&position, -offset);
         font const before = painter->GetFont();
