@@ -411,10 +411,12 @@ TEST_P(SimpleHeaderMouse, ALostReleaseIsNoClick)
     m_Header.SetStyle(CSimpleHeader::hsPress);
     Press(10);
     m_Log.Clear();
+    m_Host.Paint();
     m_Host.Mouse().LoseRelease();
     Move(12);
     EXPECT_EQ(m_Header.GetState(), CSimpleHeader::stIdle);
     EXPECT_EQ(m_Log.Count("clicked"), 0);
+    EXPECT_TRUE(IsRepaintPending(m_Host));  // it no longer looks pressed
     EXPECT_EQ(Captured(), nullptr);
 }
 
