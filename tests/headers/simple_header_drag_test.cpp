@@ -281,6 +281,37 @@ TEST_P(SimpleHeaderDrag, TheViewModelFollowsTheMove)
     m_Header.SetViewModel(nullptr);
 }
 
+TEST_P(SimpleHeaderDrag, AViewModelWithoutAModelIsToldOfNoMove)
+{
+    class CCounting : public CDefaultColumnViewModel
+    {
+    public:
+        int m_Moves = 0;
+        void UpdateModelState(IIndexTranslator*) override { ++m_Moves; }
+    } columns;
+    columns.SetCount(3);
+    m_Header.SetViewModel(&columns);
+    Start(5, 30);
+    Release();
+    EXPECT_EQ(columns.m_Moves, 1);
+    m_Header.SetModel(nullptr);
+    Start(5, 30);
+    Release();
+    EXPECT_EQ(columns.m_Moves, 1);
+    m_Header.SetViewModel(nullptr);
+}
+
+TEST_P(SimpleHeaderDrag, ADropRepaintsTheHeader)
+{
+    DragInfo info;
+    EXPECT_TRUE(m_Header.HandleStartDragging(At(10).x, At(10).y, info));
+    m_Host.Paint();
+    m_Header.HandleDropDone(&m_Header, At(80).x, At(80).y, info);
+    EXPECT_EQ(m_Log.Text(), "canDrag(0, true) moved(0, 1)");
+    EXPECT_EQ(m_Host.Paint().Elements(), "header");
+    m_Header.HandleDragFinished(nullptr, info);
+}
+
 TEST_P(SimpleHeaderDrag, AHeaderTakesItsOwnSectionsOnly)
 {
     DragInfo info;
@@ -338,11 +369,13 @@ TEST_P(SimpleHeaderDrag, TheCaptionInThePictureIsDrawnInTheElementsFont)
     font bold;
     bold.style = font::fsBold;
     m_Header.SetFont(bold);
+    m_Header.SetFgColor(color_table[4]);
     Start(10, 100);
     std::string const turned = IsUpright() ? " rotation 2700" : "";
     PaintLog const log = Frame();
     EXPECT_THAT(log, Draws("picture FillRect*")
                          .Then("picture SetFont \"Square\" 8 bold")
+                         .Then("picture SetTextColor blue")
                          .Then("picture SetFont \"Square\" 8 bold" + turned)
                          .Then("picture DrawStringEx*")
                          .Then("picture SetFont \"Square\" 8 bold"));
@@ -402,6 +435,8 @@ TEST_P(SimpleHeaderDrag, ThePointerStandsBeforeTheTarget)
     Move(112);
     EXPECT_THAT(Frame(), Draws(Triangle(44, 12)));
     Move(5);
+    EXPECT_THAT(Frame(), Draws(Triangle(-6, 12)));
+    Move(170);  // the empty end is no section's
     EXPECT_THAT(Frame(), Draws(Triangle(-6, 12)));
     Move(210);
     EXPECT_THAT(Frame(), Not(Draws("Polygon*")));
@@ -479,6 +514,10 @@ TEST_P(SimpleHeaderDrag, BehindTheStripItScrollsOn)
     EXPECT_EQ(m_Scroll.m_Start, 8);
     Move(80, InPane());
     EXPECT_FALSE(m_Header.IsScrolling());
+    Move(199, InPane());
+    EXPECT_FALSE(m_Header.IsScrolling());
+    Move(0, InPane());
+    EXPECT_FALSE(m_Header.IsScrolling());
     Move(200);
     EXPECT_TRUE(m_Header.IsScrolling());
     m_Host.Clock().Advance(100);
@@ -498,6 +537,18 @@ TEST_P(SimpleHeaderDrag, APointerThatGoesOnEndsTheScroll)
     m_Host.Clock().Advance(100);
     EXPECT_EQ(m_Scroll.m_Start, 0);
     EXPECT_FALSE(m_Header.IsScrolling());
+    Release();
+}
+
+TEST_P(SimpleHeaderDrag, ATremblingPointerDoesNotDelayTheScroll)
+{
+    NarrowPane();
+    Start(60, 65);
+    Move(175);
+    m_Host.Clock().Advance(60);
+    Move(176);
+    m_Host.Clock().Advance(60);
+    EXPECT_EQ(m_Scroll.m_Start, 8);
     Release();
 }
 

@@ -132,6 +132,8 @@ TEST_F(SimpleHeaderModel, AnotherCountKeepsWhatIsThereAndAddsNewPlacesByTheirNum
     EXPECT_EQ(OrderOf(m_Model), "1 2");
     m_Model.SetCount(4);
     EXPECT_EQ(OrderOf(m_Model), "1 2 2 3");
+    m_Model.InitStartOrder(3);
+    EXPECT_EQ(OrderOf(m_Model), "0 1 2");
     m_Model.SetCount(-3);
     EXPECT_EQ(OrderOf(m_Model), "");
     m_Model.InitStartOrder(2);
