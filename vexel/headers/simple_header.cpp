@@ -238,10 +238,8 @@ public:
         rectangle<double> const strip = header.GetOwnHeaderRect();
         m_Left = m_Position = header.GetAlong(strip.left, strip.top);
         m_Right = header.GetAlong(strip.right, strip.bottom);
-        int offset = -1;
+        int offset = 0;
         header.CalcFirstSection(&m_Section, &offset);
-        if (offset < 0)
-            m_Section = -1;
         m_Position -= offset;
     }
 

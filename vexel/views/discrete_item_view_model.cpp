@@ -7,6 +7,7 @@
 #include "vexel/views/selection_model.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vexel
 {
@@ -175,11 +176,14 @@ void CDefaultDiscreteItemViewModel::UpdateModelState(IIndexTranslator* translato
 {
     if (!translator || !translator->TranslationIsPresented())
         return;
+    // A slot may delete the translator or this model.
+    CItemSizeMap sizes = m_ItemSizes;
+    sizes.Translate(*translator);
     CModelGuard const alive(this);
     CSimpleDiscreteItemViewModel::UpdateModelState(translator);
     if (!alive)
         return;
-    m_ItemSizes.Translate(*translator);
+    m_ItemSizes = std::move(sizes);
     m_SigChanged();
 }
 
