@@ -33,6 +33,43 @@ INSTANTIATE_TEST_SUITE_P(AtEdge, SimpleHeaderMouse, testing::Values(alTop, alBot
 
 }  // namespace
 
+// Sections that go ------------------------------------------------------------------------------------------------------------
+
+TEST_P(SimpleHeaderMouse, APressedSectionThatGoesIsNotClicked)
+{
+    Press(120);
+    EXPECT_EQ(m_Header.GetActiveSection(), 2);
+    m_Log.Clear();
+
+    m_Sections.m_Widths.pop_back();
+    m_Sections.SetCount(2);
+    m_Sections.m_SigChanged();
+
+    EXPECT_EQ(m_Header.GetActiveSection(), -1);
+    EXPECT_EQ(m_Header.GetHotSection(), -1);
+    EXPECT_EQ(m_Header.GetState(), CSimpleHeader::stIdle);
+    Release();
+    EXPECT_EQ(m_Log.Take(), "");
+}
+
+TEST_P(SimpleHeaderMouse, ADraggedSectionThatGoesIsDroppedNowhere)
+{
+    Press(120);
+    Move(80);
+    ASSERT_EQ(m_Header.GetState(), CSimpleHeader::stDragging);
+
+    m_Sections.m_Widths.pop_back();
+    m_Sections.SetCount(2);
+    m_Sections.m_SigChanged();
+    m_Host.Paint();
+    m_Log.Clear();
+    Release();
+
+    EXPECT_EQ(m_Log.Take(), "");
+    EXPECT_EQ(m_Sections.Order(), "AB");
+    EXPECT_EQ(m_Header.GetState(), CSimpleHeader::stIdle);
+}
+
 // Hover --------------------------------------------------------------------------------------------------------------------
 
 TEST_P(SimpleHeaderMouse, TheSectionUnderThePointerIsHot)

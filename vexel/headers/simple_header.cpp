@@ -84,8 +84,18 @@ void CSimpleHeader::ViewModelDies(IBaseItemsModel*)
     OnUpdateModel();
 }
 
+// Sections that are gone are asked for nothing any more.
 void CSimpleHeader::OnUpdateModel()
 {
+    int const count = GetSectionCount();
+    if (m_HotSection >= count)
+        m_HotSection = -1;
+    if (m_ActiveSection >= count)
+    {
+        m_ActiveSection = -1;
+        if (m_State != stDragging)  // which the control ends
+            m_State = stIdle;
+    }
     OnChange(this, utElement);
 }
 

@@ -220,7 +220,8 @@ void CSimpleHeader::HandleDrawDragItem(IPainter* painter, DragInfo& info, bool, 
     rectangle<int> rect = info.m_Rect;
     ControlToElement(&rect);
     ISystem* const system = GetCurrentSystem();
-    if (!rect.IsEmpty() && system)
+    bool const isGone = m_State == stDragging && m_ActiveSection < 0;
+    if (!rect.IsEmpty() && system && !isGone)
     {
         int const width = rect.Width();
         int const height = rect.Height();
