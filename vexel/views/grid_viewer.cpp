@@ -175,8 +175,8 @@ template <class RowModel, class ColumnModel>
 void CGridViewer<RowModel, ColumnModel>::DrawColumnEmptyArea(IPainter* painter, rectangle<double> const& rect)
 {
     // In a row that is clean it stands on the screen already, unless the columns have moved.
-    if (m_PaintRowDirty == IDirtyItemSet::dirtyOther &&
-        m_ColumnViewModel->GetItemType(0) == IDirtyItemSet::dirtyNone && !painter->IsFullPaint())
+    if (m_PaintRowDirty == IDirtyItemSet::dirtyOther && m_ColumnViewModel->GetItemType(0) == IDirtyItemSet::dirtyNone &&
+        !painter->IsFullPaint())
         return;
     painter->SetBrush({this->GetBkColor(), brush::bsSolid});
     painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
