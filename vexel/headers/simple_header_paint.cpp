@@ -23,7 +23,7 @@ constexpr double s_LabelSpace = 3.0;
 constexpr int s_TextInset = 4;  // pixels at any scale, as all below
 constexpr int s_DragAlpha = 70;
 constexpr int s_NativeOverhang = 10;
-constexpr int s_PointerWidth = 12;
+constexpr int s_PointerHalf = 6;
 constexpr int s_PointerHeight = 6;
 _color const g_PointerColor{0xFF0000FF};
 
@@ -256,7 +256,7 @@ void CSimpleHeader::DrawDraggingPointer(IPainter* painter, int section)
     double const h = GetAcrossExtent() - 8;
     FillTriangle(
         painter,
-        {MakePoint(a, h), MakePoint(a + s_PointerWidth, h), MakePoint(a + s_PointerWidth / 2, h + s_PointerHeight)},
+        {MakePoint(a, h), MakePoint(a + 2 * s_PointerHalf, h), MakePoint(a + s_PointerHalf, h + s_PointerHeight)},
         g_PointerColor);
 }
 

@@ -85,7 +85,7 @@ rectangle<int> CScrollableElement::GetCentralRect() const
 
 // Automatic scrolling -------------------------------------------------------------------------------------------------------
 
-CScrollableElement::ScrollCondition* CScrollableElement::GetCondition(unsigned type)
+CScrollableElement::ScrollCondition* CScrollableElement::GetCondition(int type)
 {
     if (type == ISysWindow::stVertical)
         return &m_VertCondition;
@@ -110,7 +110,7 @@ void CScrollableElement::StopScrolling(ISysWindow::ScrollType type)
         Disarm(type);
 }
 
-void CScrollableElement::Disarm(unsigned type)
+void CScrollableElement::Disarm(int type)
 {
     m_ScrollType &= ~type;
     StopRepeating();

@@ -18,7 +18,6 @@ namespace
 
 constexpr int s_RepeatInterval = 100;  // milliseconds
 constexpr int s_MarkedSingly = 6;      // so many selected items are repainted one by one
-constexpr int s_Modifiers = 0xff00;    // the keys of the state word
 
 int s_SelectionChangeDelay = 0;
 
