@@ -19,7 +19,7 @@ namespace table
 class CRowReader
 {
 public:
-    static constexpr std::size_t s_LongestField = std::size_t{1} << 20;
+    static constexpr std::size_t s_LongestField = s_QuotedLimit + 2;  // any quoted field, with its quotes
     static constexpr std::size_t s_LongestRow = std::size_t{4} << 20;
     static constexpr std::size_t s_MostFields = 10000;
 
