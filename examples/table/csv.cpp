@@ -82,6 +82,7 @@ SField NextField(std::string_view bytes, bool last, char delimiter, bool inside)
         {
             field.quoted = true;
             at = quote + 1;
+            field.tail = at < bytes.size() && bytes[at] != delimiter && bytes[at] != '\n' && bytes[at] != '\r';
         }
         else if (decided)
         {

@@ -35,6 +35,7 @@ struct SField
     std::size_t content = 0;  ///< So many of them are the field's, its quotes included.
     bool quoted = false;      ///< It begins with a quote that is closed.
     bool unclosed = false;    ///< It begins with a quote that is not.
+    bool tail = false;        ///< It goes on behind its closing quote.
 };
 
 /// Finds the end of the field that begins at the front of `bytes`.

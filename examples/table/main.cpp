@@ -4,6 +4,7 @@
 
 #include "vexel/core/base_control.h"
 #include "vexel/platform/qt/application.h"
+#include "vexel/signals/connection.h"
 
 #include <chrono>
 #include <cstdio>

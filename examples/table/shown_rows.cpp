@@ -69,19 +69,21 @@ void CShownRows::AppendAsText(std::size_t row, std::vector<int> const& columns, 
 std::string MakeDrawable(std::string const& field)
 {
     std::string drawn;
-    for (char const c : field)
+    for (std::size_t i = 0; i < field.size(); ++i)
     {
-        auto const byte = static_cast<unsigned char>(c);
+        auto const byte = static_cast<unsigned char>(field[i]);
         if (drawn.size() >= s_LongestDrawn && (byte & 0xC0u) != 0x80u)  // where a character begins
             break;
-        if (c == '\n')
+        if (byte == '\r' && i + 1 < field.size() && field[i + 1] == '\n')
+            continue;
+        if (byte == '\n')
             drawn += "\u21B5";  // an arrow down and to the left
-        else if (c == '\t')
+        else if (byte == '\t')
             drawn += ' ';
         else if (byte < 0x20)
-            drawn += {'\xE2', '\x90', static_cast<char>(0x80 + byte)};  // its picture, from U+2400 on
+            drawn += "\u00B7";  // a dot
         else
-            drawn += c;
+            drawn += field[i];
     }
     return drawn;
 }

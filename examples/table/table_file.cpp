@@ -21,15 +21,30 @@ static_assert(s_LargestBlock >= s_QuotedLimit + 64, "a block must decide on ever
 
 std::string Plural(std::uint64_t count, char const* one, char const* many)
 {
-    return std::to_string(count) + " " + (count == 1 ? one : many);
+    return Grouped(count) + " " + (count == 1 ? one : many);
 }
 
 std::string RowName(std::uint64_t row)
 {
-    return row == 0 ? "the header" : "row " + std::to_string(row);
+    return row == 0 ? "the header" : "row " + Grouped(row);
+}
+
+/// Counts what happened in a row, and keeps the row where it happened first.
+void Count(std::uint64_t& count, std::uint64_t& first, std::uint64_t row)
+{
+    if (count++ == 0)
+        first = row;
 }
 
 }  // namespace
+
+std::string Grouped(std::uint64_t number)
+{
+    std::string text = std::to_string(number);
+    for (std::size_t i = text.size(); i > 3; i -= 3)
+        text.insert(i - 3, ",");
+    return text;
+}
 
 std::vector<std::string> SProblems::Describe() const
 {
@@ -44,6 +59,9 @@ std::vector<std::string> SProblems::Describe() const
         all.push_back(Plural(unclosed, "quote is", "quotes are") +
                       " never closed, or only after more than 1 MiB, and taken as written, first in " +
                       RowName(firstUnclosed) + ".");
+    if (tails)
+        all.push_back(Plural(tails, "field goes", "fields go") +
+                      " on behind the closing quote, as after a forgotten one, first in " + RowName(firstTail) + ".");
     if (uneven)
         all.push_back(Plural(uneven, "row has", "rows have") + " another number of fields than the header, first " +
                       RowName(firstUneven) + ".");
@@ -115,19 +133,24 @@ std::size_t CTableFile::ReadAt(std::uint64_t offset, char* bytes, std::size_t co
             continue;
         if (got <= 0)
         {
-            // Here the file ends now, unless another thread has found an earlier end.
             if (got < 0)
                 m_Error = errno;
             else
                 m_Truncated = true;
-            std::uint64_t known = m_Size;
-            while (offset + done < known && !m_Size.compare_exchange_weak(known, offset + done))
-                continue;
+            EndAt(offset + done);
             break;
         }
         done += static_cast<std::size_t>(got);
     }
     return done;
+}
+
+/// The file ends here now, unless another thread has found an earlier end.
+void CTableFile::EndAt(std::uint64_t offset) const
+{
+    std::uint64_t known = m_Size;
+    while (offset < known && !m_Size.compare_exchange_weak(known, offset))
+        continue;
 }
 
 // Indexing -----------------------------------------------------------------------------------------------------------
@@ -177,11 +200,9 @@ void CTableFile::IndexBlock(std::string_view block, std::uint64_t offset, bool l
         SField const field = NextField(block.substr(at), last, m_Delimiter, m_Inside);
         at += field.length;
         if (field.unclosed && field.length > 0)
-        {
-            if (problems.unclosed == 0)
-                problems.firstUnclosed = m_Progress.rows;
-            ++problems.unclosed;
-        }
+            Count(problems.unclosed, problems.firstUnclosed, m_Progress.rows);
+        if (field.tail)
+            Count(problems.tails, problems.firstTail, m_Progress.rows);
         if (field.kind == SField::Incomplete)
         {
             m_Inside = m_Inside || field.length > 0;
@@ -201,11 +222,7 @@ void CTableFile::EndRow()
     if (m_Progress.rows == 0)
         m_HeaderFields = m_Fields;
     else if (m_Fields != m_HeaderFields)
-    {
-        if (problems.uneven == 0)
-            problems.firstUneven = m_Progress.rows;
-        ++problems.uneven;
-    }
+        Count(problems.uneven, problems.firstUneven, m_Progress.rows);
     m_Progress.columns = std::max(m_Progress.columns, m_Fields);
     ++m_Progress.rows;
     m_AtRow = true;
@@ -251,6 +268,12 @@ CTableFile::SState CTableFile::GetState() const
     {
         std::scoped_lock const lock(m_Mutex);
         state = m_State;
+    }
+    struct stat info = {};
+    if (m_File >= 0 && fstat(m_File, &info) == 0 && static_cast<std::uint64_t>(info.st_size) < m_Size)
+    {
+        m_Truncated = true;
+        EndAt(static_cast<std::uint64_t>(info.st_size));
     }
     state.size = m_Size;
     state.problems.truncated = m_Truncated;

@@ -17,6 +17,9 @@
 namespace table
 {
 
+/// 1234567 as "1,234,567".
+std::string Grouped(std::uint64_t number);
+
 /// What is wrong with a file. Row numbers count the rows below the header from 1; the header is row 0.
 struct SProblems
 {
@@ -25,7 +28,9 @@ struct SProblems
     std::uint64_t firstUneven = 0;  ///< The first of the rows that have another number of fields than the header.
     std::uint64_t unclosed = 0;
     std::uint64_t firstUnclosed = 0;  ///< The row of the first opening quote that was taken as a character.
-    std::uint64_t invalidBytes = 0;   ///< Those that are no UTF-8.
+    std::uint64_t tails = 0;
+    std::uint64_t firstTail = 0;     ///< The row of the first field that goes on behind its closing quote.
+    std::uint64_t invalidBytes = 0;  ///< Those that are no UTF-8.
     std::uint64_t nuls = 0;
     bool truncated = false;  ///< The file became shorter while it was open.
     std::string read;        ///< Why reading failed; empty: it didn't.
@@ -72,7 +77,7 @@ public:
 
     // From any thread ------------------------------------------------------------------------------------------------
     char GetDelimiter() const { return m_Delimiter; }
-    SState GetState() const;
+    SState GetState() const;  ///< Looks, too, whether the file has become shorter.
     /// Reads bytes from the offset on. Fewer than asked for: the file ends there, if need be from now on.
     std::size_t ReadAt(std::uint64_t offset, char* bytes, std::size_t count) const;
     /// The end of the file, as far as it is known.
@@ -82,6 +87,7 @@ public:
     std::size_t GetEntryCount() const;
 
 private:
+    void EndAt(std::uint64_t offset) const;
     void Open(std::string const& path);
     void Fail(std::string const& why);
     void IndexBlock(std::string_view block, std::uint64_t offset, bool last);

@@ -22,7 +22,7 @@ _color const g_Line{0xE4E4E4};
 _color const g_Tint{0xFBF7F2};
 constexpr int s_Inset = 5;  // between a cell's edge and its text; these are multiplied by the display scale
 constexpr int s_MarkRoom = 20;
-constexpr int s_NarrowestColumn = 40;
+constexpr int s_NarrowestColumn = 80;
 constexpr int s_WidestColumn = 360;
 
 }  // namespace

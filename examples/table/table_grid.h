@@ -60,11 +60,19 @@ public:
 
     signal_t<int, int> m_SigShown;  ///< The first and the last row that were painted; after each paint of other ones.
 
+    signal_t<> m_SigCopy;  ///< The user wants the selected rows in the clipboard.
+
     void ShowAnew();  ///< All cells have other texts now.
     /// The width that a column needs for a caption and its cells in these rows, last one included.
     int MeasureColumn(int section, std::string const& caption, int firstRow, int lastRow) const;
 
     int GetRowMargin() const override { return 6; }
+    bool IsCopyToClipboardEnabled() const override { return true; }
+    bool HandleCopyToClipboard() const override
+    {
+        m_SigCopy();
+        return true;
+    }
     void ProcessEndDraw() override;
 
 protected:

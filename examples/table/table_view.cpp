@@ -13,21 +13,12 @@ namespace table
 namespace
 {
 
-constexpr std::size_t s_SortMemory = std::size_t{96} << 20;  // bytes
-constexpr int s_MostCopied = 100000;                         // rows
+constexpr std::size_t s_SortMemory = std::size_t{160} << 20;  // bytes
+constexpr int s_MostCopied = 100000;                          // rows
 constexpr std::size_t s_MostCopiedBytes = std::size_t{16} << 20;
 constexpr int s_MeasuredRows = 100;
 constexpr std::chrono::milliseconds s_Refresh{100};  // between two looks at the indexer's progress
 _color const g_Problem{0x2020B0};
-
-/// 1234567 as "1,234,567".
-std::string Grouped(std::uint64_t number)
-{
-    std::string text = std::to_string(number);
-    for (std::size_t i = text.size(); i > 3; i -= 3)
-        text.insert(i - 3, ",");
-    return text;
-}
 
 std::string Percent(double part)
 {
@@ -62,8 +53,6 @@ CTableView::CTableView(CVisualElement* parent, ISysWindow& window, std::string c
     Build(parent);
     if (path.empty())
         m_Notice->SetCaption("No file was named to be shown.\n\nusage: table [--log] FILE");
-    m_Copy = CConnection(m_Grid->m_SigAsString, [this](CVisualElement*, std::string& text) { text = CopySelection(); });
-    m_AllowCopy = CConnection(m_Grid->m_SigCopyToClipboard, [](CVisualElement*, bool& allowed) { allowed = true; });
 }
 
 CTableView::~CTableView()
@@ -101,6 +90,7 @@ void CTableView::Build(CVisualElement* parent)
     m_Header->m_SigResized.connect(this, &CTableView::SectionResized);
     m_Header->m_SigDividerDoubleClicked.connect(this, &CTableView::FitColumn);
     m_Grid->m_SigShown.connect(this, &CTableView::RowsShown);
+    m_Grid->m_SigCopy.connect(this, &CTableView::CopySelection);
 }
 
 // Indexing -----------------------------------------------------------------------------------------------------------
@@ -293,7 +283,7 @@ void CTableView::RowsShown(int first, int last)
         ShowState(m_File.GetState());
 }
 
-std::string CTableView::CopySelection()
+void CTableView::CopySelection()
 {
     std::vector<int> columns;
     for (int section = 0; section < m_Columns.GetItemCount(); ++section)
@@ -312,9 +302,13 @@ std::string CTableView::CopySelection()
     m_Copied = rows < selected ? "Copied only the first " + Grouped(static_cast<std::uint64_t>(rows)) + " of " +
                                      Grouped(static_cast<std::uint64_t>(selected)) + " selected rows"
                                : "Copied " + Grouped(static_cast<std::uint64_t>(rows)) + (rows == 1 ? " row" : " rows");
+    if (rows == 0)
+        return;
+    IClipboard& clipboard = *GetCurrentSystem()->GetClipboard();
+    clipboard.SetText(text);
     ShowState(m_File.GetState());
-    Report("copied " + std::to_string(rows) + " of " + std::to_string(selected) + " rows");
-    return text;
+    Report("copied " + std::to_string(rows) + " of " + std::to_string(selected) +
+           " rows: " + MakeDrawable(clipboard.GetText()));
 }
 
 std::string CTableView::GetCell(int row, int section)

@@ -8,7 +8,6 @@
 
 #include "vexel/controls/caption.h"
 #include "vexel/scroll/scroll_box.h"
-#include "vexel/signals/connection.h"
 
 #include <chrono>
 #include <memory>
@@ -53,7 +52,7 @@ private:
     void SectionMoved(CSimpleHeader*, int from, int to);
     void SectionResized(CSimpleHeader*, int section, int width);
     void RowsShown(int first, int last);
-    std::string CopySelection();
+    void CopySelection();
     std::string GetCell(int row, int section);
     int GetRowCount() const { return m_Grid->GetRowViewModel()->GetCount(); }
 
@@ -69,8 +68,6 @@ private:
     CCaption* m_Notice = nullptr;    // in the grid's place, when there is nothing to be shown
     CCaption* m_Status = nullptr;    // what is going on
     CCaption* m_Problems = nullptr;  // what is wrong
-    CConnection m_Copy;
-    CConnection m_AllowCopy;
 
     std::chrono::steady_clock::time_point m_LastShown;
     bool m_Indexed = false;

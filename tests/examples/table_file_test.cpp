@@ -1,6 +1,5 @@
 // The index of a table file, and what is told of files that are not as they should be.
 
-#include "examples/table/shown_rows.h"
 #include "tests/examples/table_files.h"
 #include "vexel/testing/random.h"
 
@@ -280,6 +279,19 @@ TEST(TableFile, AnUnclosedQuoteInTheMiddleCostsOneField)
     EXPECT_EQ(fields, (std::vector<std::string>{"plain", "2"}));
 }
 
+TEST(TableFile, AForgottenQuoteEndsAtTheNextOneWhichIsTold)
+{
+    // The quote behind 2 ends the field that 1 begins, and x follows; the next field is read as ever.
+    CTestFile const file("a,b\n1,\"lost\n2,\"x\",3\n4,\"5\"\n");
+    CTableFile table(file.GetPath());
+    IndexAll(table);
+    EXPECT_EQ(AllRows(table), "[a][b] [1][lost\n2,x\"][3] [4][5]");
+    EXPECT_EQ(Problems(table), "1 field goes on behind the closing quote, as after a forgotten one, first in row 1. "
+                               "1 row has another number of fields than the header, first row 1.");
+    EXPECT_EQ(ProblemsOf("\"a\",\"b\"\r\n\"c\",\"d\"\r\n"), "");
+    EXPECT_EQ(ProblemsOf("a,\"b\""), "");
+}
+
 TEST(TableFile, RowsWithAnotherNumberOfFieldsAreToldAndShown)
 {
     CTestFile const file("a,b\n1,2\n3\n4,5,6\n7,8\n");
@@ -342,6 +354,17 @@ TEST(TableFile, AFileThatIsCutAfterIndexingIsNoticedWhenItIsRead)
     EXPECT_FALSE(reader.Read(1, fields));
 }
 
+TEST(TableFile, AFileThatIsCutIsNoticedWithoutReadingToo)
+{
+    CTestFile file("a\n1\n2\n");
+    CTableFile table(file.GetPath());
+    IndexAll(table);
+    EXPECT_EQ(table.GetState().size, 6u);
+    file.Cut(5);
+    EXPECT_EQ(table.GetState().size, 5u);
+    EXPECT_EQ(Problems(table), "The file became shorter while it was open; what lay behind its new end is lost.");
+}
+
 TEST(TableFile, WhatIsAppendedLaterIsNotLookedAt)
 {
     CTestFile const file("a\n1\n2");
@@ -350,52 +373,6 @@ TEST(TableFile, WhatIsAppendedLaterIsNotLookedAt)
     IndexAll(table);
     EXPECT_EQ(AllRows(table), "[a] [1] [2]");
     EXPECT_EQ(Problems(table), "");
-}
-
-// Rows as they are shown -----------------------------------------------------------------------------------------------
-
-TEST(ShownRows, AreCopiedWithTabsInTheColumnsOfTheScreen)
-{
-    CTestFile const file("a,b,c\n1,\"x\ty\",\"say \"\"hi\"\"\"\n2,,\n3\n");
-    CTableFile table(file.GetPath());
-    IndexAll(table);
-    CShownRows rows(table);
-    std::string text;
-    rows.AppendAsText(0, {2, 0, 1}, text);
-    rows.AppendAsText(1, {0, 1, 2}, text);
-    rows.AppendAsText(2, {1, 0}, text);
-    EXPECT_EQ(text, "\"say \"\"hi\"\"\"\t1\t\"x\ty\"\n2\t\t\n\t3\n");
-}
-
-TEST(ShownRows, StandInTheirOrderFollowedByTheOthers)
-{
-    CTestFile const file("n\na\nb\nc\nd\n");
-    CTableFile table(file.GetPath());
-    IndexAll(table);
-    CShownRows rows(table);
-    auto const shown = [&] {
-        std::string all;
-        for (std::size_t row = 0; row < 4; ++row)
-            all += rows.GetFields(row)[0];
-        return all;
-    };
-    EXPECT_EQ(shown(), "abcd");
-    rows.SetOrder({3, 1, 2});
-    EXPECT_EQ(shown(), "cabd");
-    rows.SetDescending(true);
-    EXPECT_EQ(shown(), "bacd");
-    rows.SetOrder({});
-    EXPECT_EQ(shown(), "abcd");
-}
-
-TEST(ShownRows, ControlCharactersAreDrawnAsSymbols)
-{
-    EXPECT_EQ(MakeDrawable("a\nb\tc\r\x1B"), "a\u21B5b c\u240D\u241B");
-    EXPECT_EQ(MakeDrawable(std::string(5000, 'x')).size(), 1000u);
-    std::string euros;
-    for (int i = 0; i < 1000; ++i)
-        euros += "\xE2\x82\xAC";
-    EXPECT_EQ(MakeDrawable(euros).size(), 1002u);  // 334 whole ones
 }
 
 }  // namespace
