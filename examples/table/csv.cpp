@@ -78,7 +78,7 @@ SField NextField(std::string_view bytes, bool last, char delimiter, bool inside)
         std::size_t const farthest = 1 + s_QuotedLimit;  // where the closing quote may stand
         std::size_t const quote = FindClosingQuote(bytes.substr(0, farthest + 2), 1);
         bool const decided = last || bytes.size() >= farthest + 2;
-        if (quote != s_None && quote <= farthest && (quote + 1 < bytes.size() || last))
+        if (quote <= farthest && (quote + 1 < bytes.size() || last))
         {
             field.quoted = true;
             at = quote + 1;

@@ -285,9 +285,9 @@ void CTableView::RowsShown(int first, int last)
 
 void CTableView::CopySelection()
 {
-    std::vector<int> columns;
+    std::vector<int> columns(static_cast<std::size_t>(m_Columns.GetItemCount()));
     for (int section = 0; section < m_Columns.GetItemCount(); ++section)
-        columns.push_back(m_Columns.GetColumn(section));
+        columns[static_cast<std::size_t>(section)] = m_Columns.GetColumn(section);
     std::string text;
     int rows = 0;
     ISelectionModel const* const selection = m_Grid->GetRowSelectionModel();
