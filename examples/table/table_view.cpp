@@ -1,5 +1,6 @@
 #include "table_view.h"
 
+#include "vexel/controls/bevel.h"
 #include "vexel/platform/painter.h"
 #include "vexel/views/item_walks.h"
 
@@ -17,6 +18,7 @@ constexpr std::size_t s_SortMemory = std::size_t{160} << 20;  // bytes
 constexpr int s_MostCopied = 100000;                          // rows
 constexpr std::size_t s_MostCopiedBytes = std::size_t{16} << 20;
 constexpr int s_MeasuredRows = 100;
+constexpr int s_ProblemsMargin = 10;  // pixels, above and below together; multiplied by the display scale
 constexpr std::chrono::milliseconds s_Refresh{100};  // between two looks at the indexer's progress
 _color const g_Problem{0x2020B0};
 
@@ -71,6 +73,8 @@ void CTableView::Build(CVisualElement* parent)
     m_Problems->SetFgColor(g_Problem);
     m_Problems->SetTooltipFromCaption(true);
     m_Problems->SetVisible(false);
+    auto* const line = new CBevel(parent, {0, 1}, alBottom);
+    line->SetShape(CBevel::ShapeTopLine);
     m_Notice = new CCaption(parent, {0, 0}, alClient);
     m_Notice->SetBkColor(ISysPalette::scWindow);
     m_Notice->SetVisible(false);
@@ -165,12 +169,14 @@ void CTableView::ShowState(CTableFile::SState const& state)
             status += "  |  " + part;
     m_Status->SetCaption(status);
 
-    std::string text = problems.empty() ? "" : " ";
+    std::string text;
     for (std::string const& problem : problems)
-        text += " " + problem;
+        text += (text.empty() ? "  " : "\n  ") + problem;
     if (text == m_Problems->GetCaption())
         return;
     m_Problems->SetCaption(text);
+    int const lines = m_Problems->GetTextLineHeight() * static_cast<int>(problems.size());
+    m_Problems->SetHeight(lines + ToInt(s_ProblemsMargin * GetSystemScale()), false);
     m_Problems->SetVisible(!problems.empty());
     for (std::string const& problem : problems)
         Report("problem: " + problem);
