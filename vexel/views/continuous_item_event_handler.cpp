@@ -29,6 +29,10 @@ void CContinuousItemEventHandler::OnColViewModelScroll(int position, int delta, 
         return;
     }
     *handled = ScrollItems(position, delta);
+    // The view's last line lies behind its last pixel; the model doesn't count it among what comes into view.
+    IContinuousItemViewModel* const model = GetViewModel();
+    if (int const item = Utils::HitTest(model, model->GetViewSize()); *handled && delta < 0 && item >= 0)
+        model->AddDirtyItems(item, item);
     RequestRepaint();
 }
 

@@ -247,6 +247,16 @@ void CDiscreteItemEventHandler::PageDown()
         SetCurrentItem(std::max(std::min(AddSaturated(page, keep), GetViewModel()->GetCount() - 1), 0));
 }
 
+// A view that grows at the end of its range scrolls back and uncovers rows at its foot as well.
+void CDiscreteItemEventHandler::ProcessResize(rectangle<int> const& old, rectangle<int> const& now, bool invalidate)
+{
+    CAlivePtr<CEventHandler> const alive(this);
+    int const start = GetViewModel()->GetStartItem();
+    CEventHandlerBase::ProcessResize(old, now, invalidate);
+    if (alive && GetViewModel()->GetStartItem() != start)
+        MarkAll(GetViewModel());
+}
+
 // Paint ---------------------------------------------------------------------------------------------------------------------
 
 void CDiscreteItemEventHandler::ProcessDraw(IPainter* painter, rectangle<double> const& rect)

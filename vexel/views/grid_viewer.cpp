@@ -118,8 +118,11 @@ void CGridViewer<RowModel, ColumnModel>::SetPos(rectangle<int> const& rect, bool
     rectangle<int> const old = this->GetBounds();
     CAliveGuard const alive(this);
     Base::SetPos(rect, force);
-    if (alive)
-        m_ColumnHandler.ProcessResize(old, this->GetBounds(), false);
+    if (!alive)
+        return;
+    if (int const rows = this->GetRowViewModel()->GetCount(); this->GetBounds().right != old.right)
+        this->GetRowViewModel()->AddDirtyItems(rows, rows);  // the area behind the rows is wider or narrower
+    m_ColumnHandler.ProcessResize(old, this->GetBounds(), false);
 }
 
 template <class RowModel, class ColumnModel> void CGridViewer<RowModel, ColumnModel>::ProcessSetVisible(bool visible)

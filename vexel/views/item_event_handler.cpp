@@ -20,6 +20,7 @@ template <class Model> CItemEventHandler<Model>::~CItemEventHandler()
     m_SelectionModel->m_SigDestroy.disconnect(this, &CItemEventHandler::SelectionModelDies);
     m_ViewModel->m_SigSizeChanged.disconnect(this, &CItemEventHandler::ViewModelScrolls);
     m_ViewModel->m_SigChanged.disconnect(this, &CItemEventHandler::OnViewModelChange);
+    m_ViewModel->m_SigAllStale.disconnect(this, &CItemEventHandler::ViewModelStale);
     DisconnectSelection(m_SelectionModel);
 }
 
@@ -32,11 +33,13 @@ template <class Model> void CItemEventHandler<Model>::SetViewModel(Model* model)
     {
         m_ViewModel->m_SigSizeChanged.disconnect(this, &CItemEventHandler::ViewModelScrolls);
         m_ViewModel->m_SigChanged.disconnect(this, &CItemEventHandler::OnViewModelChange);
+        m_ViewModel->m_SigAllStale.disconnect(this, &CItemEventHandler::ViewModelStale);
         m_ViewModel->m_SigDestroy.disconnect(this, &CItemEventHandler::ViewModelDies);
     }
     m_ViewModel = now;
     m_ViewModel->m_SigSizeChanged.connect(this, &CItemEventHandler::ViewModelScrolls);
     m_ViewModel->m_SigChanged.connect(this, &CItemEventHandler::OnViewModelChange);
+    m_ViewModel->m_SigAllStale.connect(this, &CItemEventHandler::ViewModelStale);
     m_ViewModel->m_SigDestroy.connect(this, &CItemEventHandler::ViewModelDies);
 }
 
@@ -70,13 +73,15 @@ template <class Model> void CItemEventHandler<Model>::SelectionModelDies(IBaseIt
 
 template <class Model> bool CItemEventHandler<Model>::PressItem(int item, int keys)
 {
-    if (item < 0)
-        return false;
     constexpr int modifiers = 0xff00;
     CAlivePtr<CEventHandler> const alive(this);
     int const before = GetCurrent();
     bool acted = false;
-    if (item != before)
+    if (item < 0)
+    {
+        // no item was hit, and nothing becomes current; with control the press is taken all the same
+    }
+    else if (item != before)
     {
         SetCurrentItem(item);
         if (alive)

@@ -39,6 +39,7 @@ protected:
 
 private:
     void ViewModelScrolls(int position, int delta, bool* handled) { ViewModelScrolled(position, delta, handled); }
+    void ViewModelStale() { MarkAll(m_ViewModel); }
     void ViewModelDies(IBaseItemsModel* model);
     void SelectionModelDies(IBaseItemsModel* model);
 
@@ -67,6 +68,7 @@ public:  // From CEventHandler
     bool ProcessButtonDown(int x, int y, int keys, MouseButton button, bool* handled) override;
     bool ProcessKeyDown(int keys, int key, bool* handled) override;
     void ProcessDraw(IPainter* painter, rectangle<double> const& rect) override;
+    void ProcessResize(rectangle<int> const& old, rectangle<int> const& now, bool invalidate) override;
     int GetItemIndex(int x, int y) override;
 
 protected:

@@ -89,6 +89,7 @@ private:
     RowScrollModel m_RowScrollModel;
     CEventHandlerBase::SelectionType m_SelectionType = CEventHandlerBase::stFree;
     bool m_AutoRowHeight = true;
+    point<int> m_DrawnAt;  // its left-top when it was last drawn; control pixels
 };
 
 /// What applications derive a list from: DrawRow is theirs.
