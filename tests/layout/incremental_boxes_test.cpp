@@ -1,5 +1,6 @@
 // Boxes and scrolled elements painted bit by bit look as if painted at once: played with random trees.
 
+#include "tests/support/leaf.h"
 #include "vexel/core/base_control.h"
 #include "vexel/layout/box.h"
 #include "vexel/testing/test_kit.h"
@@ -15,26 +16,6 @@ using namespace vexel::test;
 
 namespace
 {
-
-// A coloured area with a frame and a diagonal, so that no part of it looks like another.
-class CLeaf : public CVisualElement
-{
-public:
-    CLeaf(CVisualElement* parent, size<int> const& extent, Alignment alignment, int look)
-        : CVisualElement(parent, extent, alignment)
-    {
-        SetBkColor(color_table[9 + look % 18]);
-    }
-
-protected:
-    void DrawContent(IPainter* painter) override
-    {
-        rectangle<int> const rect = GetBounds();
-        painter->Rectangle(0, 0, rect.right, rect.bottom);
-        painter->MoveTo(0, 0);
-        painter->LineTo(rect.right, rect.bottom);
-    }
-};
 
 // Hears what is laid out below it.
 class CView : public CLeaf

@@ -1,6 +1,7 @@
 // Scrolled views painted bit by bit look as if painted at once: played with random trees. What is native follows.
 
 #include "tests/scroll/scroll_box_support.h"
+#include "tests/support/leaf.h"
 #include "vexel/core/invalid_region.h"
 #include "vexel/platform/memory/memory_edit.h"
 #include "vexel/scroll/scroll_container.h"
@@ -18,29 +19,22 @@ using namespace scroll_test;
 namespace
 {
 
-// A coloured area with a frame and a diagonal; shows its focus.
-class CLeaf : public CVisualElement
+// Shows its focus.
+class CFocusLeaf : public CLeaf
 {
 public:
-    CLeaf(CVisualElement* parent, size<int> const& extent, Alignment alignment, int look)
-        : CVisualElement(parent, extent, alignment)
-    {
-        SetBkColor(color_table[9 + look % 18]);
-    }
+    using CLeaf::CLeaf;
 
 protected:
     void DrawContent(IPainter* painter) override
     {
-        rectangle<int> const rect = GetBounds();
-        painter->Rectangle(0, 0, rect.right, rect.bottom);
-        painter->MoveTo(0, 0);
-        painter->LineTo(rect.right, rect.bottom);
+        CLeaf::DrawContent(painter);
         if (IsFocused())
-            painter->FocusRect(1, 1, rect.right - 1, rect.bottom - 1);
+            painter->FocusRect(1, 1, GetBounds().right - 1, GetBounds().bottom - 1);
     }
     void HandleGetFocus(CVisualElement* other, bool focused) override
     {
-        CVisualElement::HandleGetFocus(other, focused);
+        CLeaf::HandleGetFocus(other, focused);
         Update(utElement);
     }
     void HandleLostFocus(CVisualElement*) override { Update(utElement); }
@@ -128,7 +122,7 @@ class CScrollGame
 public:
     CScrollGame(CTestHost& host, CTestRandom& random) : m_Host(host), m_Random(random)
     {
-        m_Base = new CLeaf(host.Root(), {0, 0}, alClient, 3);
+        m_Base = new CFocusLeaf(host.Root(), {0, 0}, alClient, 3);
         for (int i = random.Int(1, 3); i > 0; --i)
             Add();
         Settle();
@@ -289,7 +283,7 @@ private:
             return;
         if (free)
         {
-            auto* const leaf = new CLeaf(parent, {10, 10}, alNone, m_Random.Int(0, 17));
+            auto* const leaf = new CFocusLeaf(parent, {10, 10}, alNone, m_Random.Int(0, 17));
             leaf->SetCanHaveFocus(m_Random.Bool());
             Place(leaf);
             parent->Update(utElement);
@@ -306,7 +300,7 @@ private:
         {
             auto* const container = new CScrollContainer(parent, large, alignment);
             container->SetScrolled(
-                new CLeaf(nullptr, {m_Random.Int(20, 250), m_Random.Int(20, 250)}, alNone, m_Random.Int(0, 17)));
+                new CFocusLeaf(nullptr, {m_Random.Int(20, 250), m_Random.Int(20, 250)}, alNone, m_Random.Int(0, 17)));
             container->GetCentralPart().SetFillAroundChild(m_Random.Chance(30));
             container->GetCentralPart().SetFitMode(m_Random.Chance(70) ? CScrollContainer::fmNone
                                                                        : CScrollContainer::fmWidth);
@@ -320,7 +314,7 @@ private:
         case 4:
         {
             auto* const scroller = new CScroller(parent, large, alignment);
-            scroller->SetScrolled(new CLeaf(nullptr, {10, m_Random.Int(20, 250)}, alNone, m_Random.Int(0, 17)));
+            scroller->SetScrolled(new CFocusLeaf(nullptr, {10, m_Random.Int(20, 250)}, alNone, m_Random.Int(0, 17)));
             element = scroller;
             break;
         }
@@ -333,7 +327,7 @@ private:
             break;
         }
         default:
-            element = new CLeaf(parent, RandomSize(), alignment, m_Random.Int(0, 17));
+            element = new CFocusLeaf(parent, RandomSize(), alignment, m_Random.Int(0, 17));
             element->SetCanHaveFocus(m_Random.Bool());
             break;
         }
@@ -518,7 +512,7 @@ private:
             m_Host.Keyboard().Tab(m_Random.Bool());
         else if (m_Random.Bool())
             m_Host.Mouse().Click(m_Random.Int(0, 200), m_Random.Int(0, 150));
-        else if (CVisualElement* const leaf = Pick<CLeaf>())
+        else if (CVisualElement* const leaf = Pick<CFocusLeaf>())
             leaf->SetFocus(true);
         Note("focus", m_Base);
     }

@@ -1,5 +1,6 @@
 // Lists and grids painted bit by bit look as if painted at once: played at random, by mouse, keys, bars and code.
 
+#include "tests/support/leaf.h"
 #include "tests/views/game_panel.h"
 #include "vexel/core/base_control.h"
 #include "vexel/platform/memory/memory_scroll_bar.h"
@@ -15,26 +16,6 @@ using namespace view_game;
 
 namespace
 {
-
-// A coloured area with a frame and a diagonal.
-class CLeaf : public CVisualElement
-{
-public:
-    CLeaf(CVisualElement* parent, size<int> const& extent, Alignment alignment, int look)
-        : CVisualElement(parent, extent, alignment)
-    {
-        SetBkColor(color_table[9 + look % 18]);
-    }
-
-protected:
-    void DrawContent(IPainter* painter) override
-    {
-        rectangle<int> const rect = GetBounds();
-        painter->Rectangle(0, 0, rect.right, rect.bottom);
-        painter->MoveTo(0, 0);
-        painter->LineTo(rect.right, rect.bottom);
-    }
-};
 
 class CViewGame
 {
