@@ -47,7 +47,7 @@ void DrawPattern(IPainter* painter, rectangle<int> const& rect, int startX, int 
     for (int row = top / 6; row * 6 <= rect.bottom + startY; ++row)
         for (int column = left / 9; column * 9 <= rect.right + startX; ++column)
         {
-            painter->SetBrush(brush(color_table[1 + (row * 7 + column * 3 + salt) % 26]));
+            painter->SetBrush(brush{color_table[1 + (row * 7 + column * 3 + salt) % 26], brush::bsSolid});
             int const x = column * 9 - startX, y = row * 6 - startY;
             painter->FillRect(std::max(x, rect.left), std::max(y, rect.top), std::min(x + 8, rect.right),
                               std::min(y + 5, rect.bottom));

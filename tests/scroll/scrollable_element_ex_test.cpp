@@ -246,7 +246,7 @@ TEST_F(ScrollableElementEx, AModelsPositionsPaintStraightIntoPixels)
         void DrawContent(IPainter* painter) override
         {
             SetCoordSystem(painter);
-            painter->SetBrush(brush(color_table[4]));
+            painter->SetBrush(brush{color_table[4], brush::bsSolid});
             painter->FillRect(35, 2, 36, 2);
         }
     };

@@ -65,7 +65,7 @@ inline void DrawGameItem(CVisualElement const& viewer, IPainter* painter, int nu
         look += 3;
     if (!viewer.IsEnabled())
         look += 11;
-    painter->SetBrush(brush(color_table[1 + look % 26]));
+    painter->SetBrush(brush{color_table[1 + look % 26], brush::bsSolid});
     painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
     painter->DrawString({rect.left - skipLeft, rect.top - skipTop, rect.right, rect.bottom}, std::to_string(number),
                         IPainter::AlignLeft | IPainter::AlignTop, -1);
