@@ -2,6 +2,8 @@
 
 #include "vexel/platform/painter.h"
 
+#include <algorithm>
+
 namespace vexel
 {
 
@@ -171,7 +173,7 @@ void CGridViewer<RowModel, ColumnModel>::DrawColumn(IPainter* painter, int colum
     int const rowMask = rowsSelect ? ~int{isCurrent} | (state & isCurrent) : state & isCurrent;
     int const columnPart = columnsSelect ? state & ~int{isCurrent} : 0;
     this->DrawCell(painter, m_PaintRow, m_PaintRowSkip, column, skip, (rowMask & m_PaintRowState) | columnPart, rect,
-                   GetCellUpdateType(painter, m_PaintRowDirty, dirty));
+                   std::min(m_PaintRowDirty, dirty));  // in a full paint both are dirty
 }
 
 template <class RowModel, class ColumnModel>
