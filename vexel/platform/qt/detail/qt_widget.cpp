@@ -50,6 +50,12 @@ void CQtWidget::FillParent()
         setGeometry(area);
 }
 
+void CQtWidget::WatchAncestors()
+{
+    for (QWidget* inner = this; !inner->isWindow() && inner->parentWidget(); inner = inner->parentWidget())
+        inner->parentWidget()->installEventFilter(this);
+}
+
 int CQtWidget::FrameEvent()
 {
     static int const type = QEvent::registerEventType();
@@ -77,6 +83,8 @@ int CQtWidget::ReleaseEvent()
 bool CQtWidget::event(QEvent* event)
 {
     CInQt const inside;
+    if (m_Window && event->type() == QEvent::ChildAdded)
+        m_Window->NeighbourComes();
     bool handled = false;
     bool result = true;
     if (m_Window && m_Window->IsForWindow(*event))
@@ -94,6 +102,8 @@ bool CQtWidget::event(QEvent* event)
 
 bool CQtWidget::eventFilter(QObject* watched, QEvent* event)
 {
+    if (m_Window && event->type() == QEvent::ChildAdded)
+        m_Window->NeighbourComes();
     if (watched == parent() && (event->type() == QEvent::Resize || event->type() == QEvent::ContentsRectChange))
     {
         CInQt const inside;

@@ -20,6 +20,7 @@ public:
     /// Moves the focus to the next or previous widget, as Tab does. False if there is none.
     bool MoveFocus(bool forward) { return QWidget::focusNextPrevChild(forward); }
     void FillParent();
+    void WatchAncestors();  ///< The window is told of widgets that come beside it.
 
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
