@@ -50,10 +50,44 @@ void CQtWidget::FillParent()
         setGeometry(area);
 }
 
-void CQtWidget::WatchAncestors()
+void CQtWidget::WatchNeighbours()
 {
+    auto const watchChildren = [this](QWidget& parent) {
+        for (QObject* const child : parent.children())
+            if (child->isWidgetType() && child != this)
+                child->installEventFilter(this);
+    };
+    watchChildren(*this);
     for (QWidget* inner = this; !inner->isWindow() && inner->parentWidget(); inner = inner->parentWidget())
+    {
+        watchChildren(*inner->parentWidget());
         inner->parentWidget()->installEventFilter(this);
+    }
+}
+
+void CQtWidget::NoteNeighbour(QEvent const& event)
+{
+    if (!m_Window)
+        return;
+    switch (event.type())
+    {
+    case QEvent::ChildAdded:
+        if (QObject* const child = static_cast<QChildEvent const&>(event).child(); child != this)
+            child->installEventFilter(this);
+        m_Window->NeighbourComes();
+        break;
+    case QEvent::ChildRemoved:
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::ParentChange:
+    case QEvent::ZOrderChange:
+        m_Window->NeighbourMoves();
+        break;
+    default:
+        break;
+    }
 }
 
 int CQtWidget::FrameEvent()
@@ -83,8 +117,8 @@ int CQtWidget::ReleaseEvent()
 bool CQtWidget::event(QEvent* event)
 {
     CInQt const inside;
-    if (m_Window && event->type() == QEvent::ChildAdded)
-        m_Window->NeighbourComes();
+    if (event->type() == QEvent::ChildAdded || event->type() == QEvent::ChildRemoved)
+        NoteNeighbour(*event);
     bool handled = false;
     bool result = true;
     if (m_Window && m_Window->IsForWindow(*event))
@@ -102,8 +136,7 @@ bool CQtWidget::event(QEvent* event)
 
 bool CQtWidget::eventFilter(QObject* watched, QEvent* event)
 {
-    if (m_Window && event->type() == QEvent::ChildAdded)
-        m_Window->NeighbourComes();
+    NoteNeighbour(*event);
     if (watched == parent() && (event->type() == QEvent::Resize || event->type() == QEvent::ContentsRectChange))
     {
         CInQt const inside;

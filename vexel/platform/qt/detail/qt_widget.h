@@ -20,7 +20,7 @@ public:
     /// Moves the focus to the next or previous widget, as Tab does. False if there is none.
     bool MoveFocus(bool forward) { return QWidget::focusNextPrevChild(forward); }
     void FillParent();
-    void WatchAncestors();  ///< The window is told of widgets that come beside it.
+    void WatchNeighbours();  ///< The window is told of widgets that come, or move, where they may hide it.
 
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
@@ -38,6 +38,8 @@ protected:
     void focusOutEvent(QFocusEvent*) override {}
 
 private:
+    void NoteNeighbour(QEvent const& event);
+
     CQtWindow* m_Window;
 };
 

@@ -69,8 +69,9 @@ public:
     void Show(QRegion const& region);  ///< Shows this part of the surface, in the widget's coordinates.
     void SyncSurface();                ///< The surface takes the widget's size and ratio.
     void WidgetGoes();
-    void NeighbourComes() { m_HasNeighbours = true; }  ///< Another widget stands in, or beside, the window's.
-    bool IsNativeFocused() const;                      ///< A native control of the window has the focus.
+    void NeighbourComes();  ///< Another widget stands in, or beside, the window's.
+    void NeighbourMoves();
+    bool IsNativeFocused() const;  ///< A native control of the window has the focus.
     /// Moves the focus out of the window: forward into the native controls that Tab goes to, then to other widgets.
     /// Where there is nobody else it comes back in from the other end.
     void LeaveByTab(bool forward);
@@ -127,7 +128,7 @@ private:
     void LeaveStore();
     void CheckStore();
     bool IsPaintedToStore() const;
-    bool PaintLost();
+    bool PaintNow();
     bool CopyToStore(QRegion const& region);
     void RestoreChildren(QRegion const& region);
     void Draw(QPainter& painter, QRegion const& region);
@@ -141,6 +142,7 @@ private:
     CQtWidget* m_Widget = nullptr;
     SStorePixels m_Store;          // the backing store's pixels that the window was last shown in
     bool m_HasNeighbours = false;  // others that may paint on the store where the window stands
+    bool m_Suspect = false;        // one of them has come, moved or gone since the last paint event
     QRegion m_Missing;             // what is to be shown yet, in the widget's coordinates
     bool m_Showing = false;        // in a paint event of the widget
     QRegion m_Flash;               // what is shown as just repainted

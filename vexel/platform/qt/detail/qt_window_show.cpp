@@ -42,12 +42,11 @@ SStorePixels CQtWindow::FindStore() const
 
 void CQtWindow::EnterStore()
 {
-    if (!m_Store.first || GetShownSize() != GetSurfaceSize() ||
+    if (!m_Store.first || m_Suspect || GetDevice().GetDamage().GetCount() > 0 || GetShownSize() != GetSurfaceSize() ||
         !m_Missing.subtracted(GetChildRegion()).isEmpty() || FindStore() != m_Store)
         return;
     m_Missing = QRegion();
     m_HasNeighbours = HasNeighbours(*m_Widget);
-    m_Widget->WatchAncestors();
     GetPixels().UseOther(m_Store.first, m_Store.stride);
 }
 
@@ -61,6 +60,18 @@ void CQtWindow::LeaveStore()
     m_Store = {};
     if (!there || m_HasNeighbours)
         LoseSurface();
+}
+
+void CQtWindow::NeighbourComes()
+{
+    m_HasNeighbours = true;
+    NeighbourMoves();
+}
+
+// From now until Qt paints, nothing tells which of the pixels are its.
+void CQtWindow::NeighbourMoves()
+{
+    m_Suspect = true;
 }
 
 void CQtWindow::CheckStore()
@@ -99,10 +110,9 @@ void CQtWindow::ScrollPixels(int dx, int dy, screen_rectangle<int> const& area)
     if (IsInStore())
     {
         QRegion const children = GetChildRegion();
-        rectangle<int> const moved{std::min(area.left, AddSaturated(area.left, dx)),
-                                   std::min(area.top, AddSaturated(area.top, dy)),
-                                   std::max(area.right, AddSaturated(area.right, dx)),
-                                   std::max(area.bottom, AddSaturated(area.bottom, dy))};
+        rectangle<int> const moved{
+            std::min(area.left, AddSaturated(area.left, dx)), std::min(area.top, AddSaturated(area.top, dy)),
+            std::max(area.right, AddSaturated(area.right, dx)), std::max(area.bottom, AddSaturated(area.bottom, dy))};
         if (children.intersects(ToQtRect(moved)) || !MayUseStore())
             LeaveStore();
     }
@@ -207,15 +217,17 @@ void CQtWindow::Show(QRegion const& region)
     bool const toStore = IsPaintedToStore();
     bool const stood = IsInStore();
     CheckStore();
-    bool lost = stood && !IsInStore();
     if (IsInStore() && toStore)
     {
-        // Nothing has asked for what else is to be shown: a neighbour may have painted there.
-        lost = m_HasNeighbours && !region.subtracted(m_Missing).isEmpty();
+        // What nothing has asked for a neighbour may have painted over. It is painted on a surface, for whoever stands above
+        // the window, or in it, is not painted again now.
+        bool const suspect = std::exchange(m_Suspect, false);
+        if (m_HasNeighbours && (suspect || !region.subtracted(m_Missing).isEmpty()))
+            LeaveStore();
         m_Missing -= region;
         m_Missing -= GetChildRegion();
     }
-    if (lost && !PaintLost())
+    if (stood && !IsInStore() && !PaintNow())
         return;
     if (toStore && (IsInStore() || CopyToStore(region)))
         return;
@@ -232,11 +244,10 @@ bool CQtWindow::IsPaintedToStore() const
 }
 
 // False: the window or its widget is gone.
-bool CQtWindow::PaintLost()
+bool CQtWindow::PaintNow()
 {
     std::weak_ptr<int> const life = GetLifeToken();
     bool const outer = std::exchange(m_Showing, true);
-    LoseSurface();
     PaintFrame();
     if (life.expired())
         return false;
@@ -266,9 +277,13 @@ bool CQtWindow::CopyToStore(QRegion const& region)
     if (!std::all_of(region.begin(), region.end(), copy))
         return false;
     if (store != m_Store)
+    {
         m_Missing = m_Widget->rect();
+        m_Widget->WatchNeighbours();
+    }
     m_Store = store;
     m_Missing -= region;
+    m_Suspect = false;
     return true;
 }
 
