@@ -90,6 +90,12 @@ void CQtWidget::NoteNeighbour(QEvent const& event)
     }
 }
 
+QPaintDevice* CQtWidget::GetPaintTarget() const
+{
+    QPoint offset;
+    return redirected(&offset);
+}
+
 int CQtWidget::FrameEvent()
 {
     static int const type = QEvent::registerEventType();

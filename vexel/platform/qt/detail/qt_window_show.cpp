@@ -10,7 +10,6 @@
 #include <QBackingStore>
 #include <QCoreApplication>
 #include <QImage>
-#include <QPaintEngine>
 #include <QPainter>
 #include <QTimer>
 
@@ -238,9 +237,8 @@ void CQtWindow::Show(QRegion const& region)
 // A paint event may also be meant for a picture of the widget.
 bool CQtWindow::IsPaintedToStore() const
 {
-    QPainter const painter(m_Widget);
     QBackingStore* const store = m_Widget->backingStore();
-    return store && painter.isActive() && painter.paintEngine()->paintDevice() == store->paintDevice();
+    return store && m_Widget->GetPaintTarget() == store->paintDevice();
 }
 
 // False: the window or its widget is gone.
