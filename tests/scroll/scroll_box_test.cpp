@@ -87,6 +87,53 @@ TEST_F(ScrollBox, InANarrowPaneTheVerticalBarMakesTheHorizontalOneAppearInTheSam
     EXPECT_EQ(m_Pane->GetPos(), (rectangle<int>{0, 0, 199, 99}));
 }
 
+// The pane is 199 x 99 without bars, 182 wide beside one and 82 high above one.
+TEST_F(ScrollBox, BarsDontTakeTurnsWhereTheRangesFitWithoutAny)
+{
+    Connect(300, 40);
+    EXPECT_EQ(Shown(), "horizontal");
+    m_Pane->m_Horz.m_To = 190;
+    m_Pane->m_Vert.m_To = 90;
+    m_Box->RefreshScroll();
+    EXPECT_EQ(Shown(), "");
+    m_Host.Paint();
+    EXPECT_EQ(m_Pane->GetPos(), (rectangle<int>{0, 0, 199, 99}));
+    EXPECT_EQ(m_Host.Pending(), "");
+
+    m_Pane->m_Horz.m_To = 40;
+    m_Pane->m_Vert.m_To = 300;
+    m_Box->RefreshScroll();
+    m_Host.Paint();
+    EXPECT_EQ(Shown(), "vertical");
+    m_Pane->m_Horz.m_To = 190;
+    m_Pane->m_Vert.m_To = 90;
+    m_Box->RefreshScroll();
+    EXPECT_EQ(Shown(), "");
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.Pending(), "");
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(ScrollBox, OneBarComesAsTheOtherGoesWhereTheRoomOfThatIsNotEnough)
+{
+    Connect(40, 300);
+    EXPECT_EQ(Shown(), "vertical");
+    m_Pane->m_Horz.m_To = 200;  // of 199
+    m_Pane->m_Vert.m_To = 82;
+    m_Box->RefreshScroll();
+    EXPECT_EQ(Shown(), "horizontal");
+    m_Host.Paint();
+    EXPECT_EQ(Info(Horz()), "0 to 200 by 5, page 199, at 0");
+    m_Pane->m_Horz.m_To = 182;
+    m_Pane->m_Vert.m_To = 100;  // of 99
+    m_Box->RefreshScroll();
+    EXPECT_EQ(Shown(), "vertical");
+    m_Host.Paint();
+    EXPECT_EQ(Info(Vert()), "0 to 100 by 5, page 99, at 0");
+    EXPECT_EQ(m_Host.Pending(), "");
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
 TEST_F(ScrollBox, ALayoutOnDemandGivesEachBarItsRoomAtOnce)
 {
     Connect(10, 10);

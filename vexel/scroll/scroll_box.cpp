@@ -198,37 +198,54 @@ private:
     unsigned const m_Moves;
 };
 
+// Whether the vertical bar is needed in a pane that is higher by `more` than it is now. False: the box is gone.
+bool CScrollBox::JudgeVert(int more)
+{
+    CAliveGuard const alive(this);
+    CVisualElement const* const pane = GetCentralPane();
+    if (pane || !GetVertScroll())
+    {
+        CSnap const snap(this, GetVertScroll());
+        m_VertElement.Recalculate(GetVertScroll(), pane ? AddSaturated(pane->GetBounds().bottom, more) : 0);
+        if (int const distance = alive ? snap.GetDistance(GetVertScroll()) : 0)
+            ScrollAll(0, SubtractSaturated(0, distance));
+    }
+    if (alive)
+        m_VertHolder.SetVisible(m_VertElement.IsScrollBarVisible());
+    return static_cast<bool>(alive);
+}
+
+bool CScrollBox::JudgeHorz(int more)
+{
+    CAliveGuard const alive(this);
+    CVisualElement const* const pane = GetCentralPane();
+    if (pane || !GetHorzScroll())
+    {
+        CSnap const snap(this, GetHorzScroll());
+        m_HorzElement.Recalculate(GetHorzScroll(), pane ? AddSaturated(pane->GetBounds().right, more) : 0);
+        if (int const distance = alive ? snap.GetDistance(GetHorzScroll()) : 0)
+            ScrollAll(SubtractSaturated(0, distance), 0);
+    }
+    if (alive)
+        m_HorzHolder.SetVisible(m_HorzElement.IsScrollBarVisible());
+    return static_cast<bool>(alive);
+}
+
 void CScrollBox::RefreshScroll()
 {
     CAliveGuard const alive(this);
     bool const vertBefore = m_VertElement.IsScrollBarVisible();
     bool const horzBefore = m_HorzElement.IsScrollBarVisible();
     // The vertical bar comes first: where it appears it narrows the pane.
-    CVisualElement const* pane = GetCentralPane();
-    if (pane || !GetVertScroll())
-    {
-        CSnap const snap(this, GetVertScroll());
-        m_VertElement.Recalculate(GetVertScroll(), pane ? pane->GetBounds().bottom : 0);
-        if (int const distance = alive ? snap.GetDistance(GetVertScroll()) : 0)
-            ScrollAll(0, SubtractSaturated(0, distance));
-    }
-    if (!alive)
+    if (!JudgeVert(0) || !JudgeHorz(0))
         return;
-    m_VertHolder.SetVisible(m_VertElement.IsScrollBarVisible());
-    if (!alive)
+    // Where one bar goes as the other comes, both have been judged with a bar that is there no more, or not yet. The one
+    // that comes is needed only if it is beside the room that the other one leaves; else they would take turns for ever.
+    bool const vertComes = !vertBefore && m_VertElement.IsScrollBarVisible();
+    bool const horzComes = !horzBefore && m_HorzElement.IsScrollBarVisible();
+    if (horzComes && vertBefore && !m_VertElement.IsScrollBarVisible() && !JudgeHorz(m_VertHolder.GetSize().width + 1))
         return;
-    pane = GetCentralPane();
-    if (pane || !GetHorzScroll())
-    {
-        CSnap const snap(this, GetHorzScroll());
-        m_HorzElement.Recalculate(GetHorzScroll(), pane ? pane->GetBounds().right : 0);
-        if (int const distance = alive ? snap.GetDistance(GetHorzScroll()) : 0)
-            ScrollAll(SubtractSaturated(0, distance), 0);
-    }
-    if (!alive)
-        return;
-    m_HorzHolder.SetVisible(m_HorzElement.IsScrollBarVisible());
-    if (!alive)
+    if (vertComes && horzBefore && !m_HorzElement.IsScrollBarVisible() && !JudgeVert(m_HorzHolder.GetSize().height + 1))
         return;
     bool const vertical = m_VertElement.IsScrollBarVisible();
     bool const horizontal = m_HorzElement.IsScrollBarVisible();

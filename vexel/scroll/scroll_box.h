@@ -153,6 +153,8 @@ private:
 
     class CSnap;
 
+    bool JudgeVert(int more);
+    bool JudgeHorz(int more);
     void ScrollAll(int dx, int dy);
     void UpdateAtOnce();
     void KeepConnected(CScrollableElement* element);
