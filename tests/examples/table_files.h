@@ -3,8 +3,9 @@
 #include "examples/table/row_reader.h"
 #include "examples/table/table_file.h"
 
+#include <atomic>
 #include <cstdio>
-#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 #include <string>
@@ -21,13 +22,11 @@ class CTestFile
 public:
     explicit CTestFile(std::string const& content, std::string const& suffix = ".csv")
     {
-        char const* const folder = std::getenv("TMPDIR");
-        m_Path = (folder ? std::string(folder) : "/tmp") + "/vexel-table-XXXXXX" + suffix;
-        int const file = mkstemps(m_Path.data(), static_cast<int>(suffix.size()));
-        if (file < 0)
+        static std::atomic<int> number = 0;
+        std::string const name = "vexel-table-" + std::to_string(getpid()) + "-" + std::to_string(++number) + suffix;
+        m_Path = std::filesystem::temp_directory_path() / name;
+        if (!(std::ofstream(m_Path, std::ios::binary) << content))
             throw std::runtime_error("no file can be made: " + m_Path);
-        close(file);
-        std::ofstream(m_Path, std::ios::binary) << content;
     }
     ~CTestFile() { std::remove(m_Path.c_str()); }
     CTestFile(CTestFile const&) = delete;

@@ -1,6 +1,7 @@
 // A header painted bit by bit looks as if painted at once: played with random users.
 
 #include "tests/headers/header_grid.h"
+#include "tests/support/game.h"
 #include "tests/support/slot.h"
 #include "vexel/core/clip_holder.h"
 #include "vexel/platform/convert.h"
@@ -9,8 +10,6 @@
 #include "vexel/views/continuous_item_view_model.h"
 #include "vexel/views/discrete_item_view_model.h"
 #include "vexel/views/item_scroll_model.h"
-
-#include <deque>
 
 using namespace vexel;
 using namespace vexel::test;
@@ -141,9 +140,7 @@ public:
     {
         std::string text = "header at " + Describe(m_Header->GetPos()) + ", docked " +
                            std::to_string(m_Header->GetAlignment()) + ", view at " + Describe(m_View->GetPos()) + "\n";
-        for (std::string const& note : m_Notes)
-            text += note + "\n";
-        return text;
+        return text + m_Log.Text();
     }
     bool IsDragged() const { return m_Host.Control().GetControl()->GetDraggedElement() != nullptr; }
 
@@ -159,28 +156,28 @@ private:
             if (m_Random.Chance(10))
                 mouse.Click(mbRight);
             mouse.Press();
-            Note("press");
+            m_Log.Note("press");
             break;
         case 1:
         case 2:
             mouse.Release();
-            Note("release");
+            m_Log.Note("release");
             break;
         case 3:
             if (m_Random.Chance(20) && !IsDragged())  // that would go on without the events of a capture
             {
                 mouse.LoseRelease();
-                Note("lost release");
+                m_Log.Note("lost release");
             }
             if (m_Random.Chance(20) && !mouse.IsHeld(mbLeft))
             {
                 mouse.DoubleClick();
-                Note("double click");
+                m_Log.Note("double click");
             }
             break;
         case 4:
             mouse.Leave();
-            Note("leave");
+            m_Log.Note("leave");
             break;
         default:
         {
@@ -189,7 +186,7 @@ private:
             int const x = m_Random.Int(-margin, bounds.right + margin);
             int const y = m_Random.Int(-margin, bounds.bottom + margin);
             mouse.Move(*m_Header, x, y);
-            Note("move " + std::to_string(x) + " " + std::to_string(y));
+            m_Log.Note("move " + std::to_string(x) + " " + std::to_string(y));
             break;
         }
         }
@@ -199,13 +196,13 @@ private:
         if (m_Random.Bool())
         {
             m_Host.Clock().Advance(100);
-            Note("time");
+            m_Log.Note("time");
             return;
         }
         IScrollModel* const model = m_Upright ? m_Box->GetWrappedVertScroll() : m_Box->GetWrappedHorzScroll();
         double const to = m_Random.Int(0, ToInt(model->GetTo()));
         model->SetStart(to);
-        Note("scroll " + std::to_string(to));
+        m_Log.Note("scroll " + std::to_string(to));
     }
     void Own()
     {
@@ -216,50 +213,50 @@ private:
             int const item = m_Random.Int(0, 9);
             int const size = m_Random.Int(3, 70);
             m_Items->SetItemSize(item, size);
-            Note("size " + std::to_string(item) + " " + std::to_string(size));
+            m_Log.Note("size " + std::to_string(item) + " " + std::to_string(size));
             break;
         }
         case 1:
             m_Items->SetCount(m_Random.Int(0, 10));
-            Note("count " + std::to_string(m_Items->GetCount()));
+            m_Log.Note("count " + std::to_string(m_Items->GetCount()));
             break;
         case 2:
             SetStyle(static_cast<unsigned>(m_Random.Int(0, 15)));
-            Note("style " + std::to_string(m_Header->GetStyle()));
+            m_Log.Note("style " + std::to_string(m_Header->GetStyle()));
             break;
         case 3:
             m_Header->SetNativeDrawing(!m_Header->IsNativeDrawing());
             m_Header->Update(utElement);
-            Note("native");
+            m_Log.Note("native");
             break;
         case 4:
             m_Items->SetStretchLastItem(!m_Items->IsLastItemStretched());
             m_Header->Update(utElement);
-            Note("stretch");
+            m_Log.Note("stretch");
             break;
         case 5:
             m_Header->SetEnabled(!m_Header->IsEnabled());
-            Note("enable");
+            m_Log.Note("enable");
             break;
         case 6:
             m_Random.Shuffle(m_Sections.m_Sorting);
             m_Sections.m_SigChanged();
-            Note("sort");
+            m_Log.Note("sort");
             break;
         case 7:
             m_Header->SetModel(m_Random.Bool() ? &m_Sections : nullptr);
-            Note("model");
+            m_Log.Note("model");
             break;
         case 8:
             m_Header->SetViewModel(m_Random.Bool() ? m_Items : nullptr);
-            Note("view model");
+            m_Log.Note("view model");
             break;
         case 9:
             m_Header->SetShowDragPointer(m_Random.Bool());
             break;
         default:
             m_Header->SetFont(BigFont(m_Random.Int(6, 14)));
-            Note("font");
+            m_Log.Note("font");
             break;
         }
         RepaintView();
@@ -282,12 +279,6 @@ private:
         value.size = points;
         return value;
     }
-    void Note(std::string const& what)
-    {
-        m_Notes.push_back(what);
-        if (m_Notes.size() > 30)
-            m_Notes.pop_front();
-    }
 
     CTestHost& m_Host;
     CTestRandom& m_Random;
@@ -296,7 +287,7 @@ private:
     CVisualElement* m_View = nullptr;
     CSectionGrid* m_Grid = nullptr;
     IBaseItemViewModel* m_Items = nullptr;
-    std::deque<std::string> m_Notes;
+    CGameLog m_Log{30};
     bool m_Upright = false;
 
     std::unique_ptr<CSlot<CSimpleHeader*, int, int>> m_Moved;

@@ -1,6 +1,7 @@
 // Scrolled views painted bit by bit look as if painted at once: played with random trees. What is native follows.
 
 #include "tests/scroll/scroll_box_support.h"
+#include "tests/support/game.h"
 #include "tests/support/leaf.h"
 #include "vexel/core/invalid_region.h"
 #include "vexel/platform/memory/memory_edit.h"
@@ -10,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <deque>
 
 using namespace vexel;
 using namespace vexel::test;
@@ -183,13 +183,13 @@ public:
         for (;;)
         {
             m_Base->ForceRearrange();
-            CVisualElement* const misplaced = FindMisplaced(m_Base);
+            CVisualElement* const misplaced = FindShown(m_Base, IsMisplaced);
             if (!misplaced)
                 break;
             Drop(misplaced);
         }
         m_All.clear();
-        Collect(m_Base);
+        Collect(m_Base, m_All);
     }
 
     // Native controls stand where they would be put now.
@@ -215,32 +215,9 @@ public:
         }
         return "";
     }
-    std::string History() const
-    {
-        std::string text;
-        for (std::string const& note : m_Notes)
-            text += note + "\n";
-        return text + DescribeTree(m_Base, "");
-    }
+    std::string History() const { return m_Log.Text() + DescribeTree(m_Base); }
 
 private:
-    static std::string DescribeTree(CVisualElement* element, std::string const& indent)
-    {
-        std::string text = indent + ElementName(element) + " at " + Describe(element->GetPos()) + ", asks for " +
-                           Describe(element->GetSize()) + ", dock " + std::to_string(element->GetAlignment()) +
-                           (element->IsVisible() ? "" : ", hidden") + "\n";
-        for (int i = 0; i < element->GetChildren()->GetCount(); ++i)
-            text += DescribeTree(element->GetChildren()->GetItem(i), indent + "  ");
-        return text;
-    }
-    void Collect(CVisualElement* element)
-    {
-        for (int i = 0; i < element->GetChildren()->GetCount(); ++i)
-        {
-            m_All.push_back(element->GetChildren()->GetItem(i));
-            Collect(m_All.back());
-        }
-    }
     template <class T> T* Pick()
     {
         std::vector<T*> found;
@@ -287,7 +264,7 @@ private:
             leaf->SetCanHaveFocus(m_Random.Bool());
             Place(leaf);
             parent->Update(utElement);
-            Note("add free", leaf);
+            m_Log.Note("add free", leaf);
             return;
         }
         auto const alignment = static_cast<Alignment>(m_Random.Int(alLeft, alBottom));
@@ -331,7 +308,7 @@ private:
             element->SetCanHaveFocus(m_Random.Bool());
             break;
         }
-        Note("add", element);
+        m_Log.Note("add", element);
     }
     CVisualElement* AddBox(CVisualElement* parent, size<int> const& extent, Alignment alignment)
     {
@@ -380,7 +357,7 @@ private:
     {
         if (CVisualElement* const element = PickOwn())
         {
-            Note("remove", element);
+            m_Log.Note("remove", element);
             Drop(element);
         }
     }
@@ -390,12 +367,12 @@ private:
                dynamic_cast<CHead*>(element))
             element = element->GetParent();
         CVisualElement* const parent = element->GetParent();
-        Note("drop", element);
+        m_Log.Note("drop", element);
         element->ReParent(nullptr, true);
         delete element;
         parent->Update(utElement);
         m_All.clear();
-        Collect(m_Base);
+        Collect(m_Base, m_All);
     }
     void Resize()
     {
@@ -413,7 +390,7 @@ private:
                          : IsContent(element) ? size<int>{m_Random.Int(20, 250), m_Random.Int(20, 250)}
                                               : RandomSize(),
                          false);
-        Note("size", element);
+        m_Log.Note("size", element);
     }
     void Change()
     {
@@ -426,26 +403,26 @@ private:
             element->SetVisible(!element->IsVisible());
             if (element->GetAlignment() == alNone)
                 element->GetParent()->Update(utElement);
-            Note(element->IsVisible() ? "show" : "hide", element);
+            m_Log.Note(element->IsVisible() ? "show" : "hide", element);
             break;
         case 1:
             if (element->GetAlignment() == alNone || dynamic_cast<CHead*>(element))
                 return;
             element->SetAlignment(static_cast<Alignment>(m_Random.Int(alLeft, alBottom)));
-            Note("dock", element);
+            m_Log.Note("dock", element);
             break;
         default:
             if (dynamic_cast<CNative*>(element))
                 return;  // a native control takes its natural size then
             element->SetBkColor(color_table[m_Random.Int(9, 27)]);
-            Note("colour", element);
+            m_Log.Note("colour", element);
             break;
         }
     }
     void Wheel()
     {
         m_Host.Mouse().Wheel(m_Random.Int(0, 200), m_Random.Int(0, 150), m_Random.Int(-6, 6));
-        Note("wheel", m_Base);
+        m_Log.Note("wheel", m_Base);
     }
     void MoveBar()
     {
@@ -466,7 +443,7 @@ private:
             bar->DragThumb(m_Random.Int(0, 250));
             break;
         }
-        Note("bar", box);
+        m_Log.Note("bar", box);
     }
     void MoveByCode()
     {
@@ -476,7 +453,7 @@ private:
         (m_Random.Bool() ? box->GetWrappedVertScroll() : box->GetWrappedHorzScroll())->SetStart(m_Random.Int(0, 120));
         if (m_Random.Bool())
             box->GetWrappedVertScroll()->SetStart(m_Random.Int(0, 120));
-        Note("start", box);
+        m_Log.Note("start", box);
     }
     void ChangeRange()
     {
@@ -489,12 +466,12 @@ private:
             pane->m_Salt = m_Random.Int(0, 20);
             pane->Invalidate();
             pane->Update(utElement);
-            Note("pattern", box);
+            m_Log.Note("pattern", box);
             return;
         }
         (m_Random.Bool() ? pane->m_Vert : pane->m_Horz).m_To = m_Random.Int(50, 300);
         box->RefreshScroll();
-        Note("range", box);
+        m_Log.Note("range", box);
     }
     void Click()
     {
@@ -504,7 +481,7 @@ private:
         for (int i = m_Random.Int(1, 3); i > 0; --i)
             m_Random.Bool() ? scroller->GetCentralPart().OnTopButtonClick(nullptr)
                             : scroller->GetCentralPart().OnBottomButtonClick(nullptr);
-        Note("click", scroller);
+        m_Log.Note("click", scroller);
     }
     void Focus()
     {
@@ -514,51 +491,32 @@ private:
             m_Host.Mouse().Click(m_Random.Int(0, 200), m_Random.Int(0, 150));
         else if (CVisualElement* const leaf = Pick<CFocusLeaf>())
             leaf->SetFocus(true);
-        Note("focus", m_Base);
+        m_Log.Note("focus", m_Base);
     }
     void MoveFree()
     {
         CVisualElement* const element = PickOwn();
         if (!element || element->GetAlignment() != alNone)
             return;
-        Note("move", element);
+        m_Log.Note("move", element);
         Place(element);
         element->GetParent()->Update(utElement);
     }
-    CVisualElement* FindMisplaced(CVisualElement* element)
+    static bool IsMisplaced(CVisualElement* element)
     {
-        rectangle<int> const bounds = element->GetBounds();
-        for (int i = 0; i < element->GetChildren()->GetCount(); ++i)
-        {
-            CVisualElement* const child = element->GetChildren()->GetItem(i);
-            if (!child->IsVisible())
-                continue;
-            rectangle<int> const& pos = child->GetPos();
-            Alignment const dock = child->GetAlignment();
-            // One that got less than it asked for lies over its neighbours.
-            bool const squeezed = ((dock == alLeft || dock == alRight) && pos.Width() < child->GetSize().width) ||
-                                  ((dock == alTop || dock == alBottom) && pos.Height() < child->GetSize().height);
-            if (!IsContent(child) && (squeezed || pos.left < 0 || pos.top < 0 || pos.right > bounds.right ||
-                                      pos.bottom > bounds.bottom || pos.IsEmpty()))
-                return child;
-            if (CVisualElement* const found = FindMisplaced(child))
-                return found;
-        }
-        return nullptr;
-    }
-    void Note(std::string const& what, CVisualElement* element)
-    {
-        m_Notes.push_back(what + " " + ElementName(element) + " at " + Describe(element->GetPos()) + ", dock " +
-                          std::to_string(element->GetAlignment()));
-        if (m_Notes.size() > 20)
-            m_Notes.pop_front();
+        rectangle<int> const& pos = element->GetPos();
+        Alignment const dock = element->GetAlignment();
+        // One that got less than it asked for lies over its neighbours.
+        bool const squeezed = ((dock == alLeft || dock == alRight) && pos.Width() < element->GetSize().width) ||
+                              ((dock == alTop || dock == alBottom) && pos.Height() < element->GetSize().height);
+        return !IsContent(element) && (squeezed || SticksOut(element));
     }
 
     CTestHost& m_Host;
     CTestRandom& m_Random;
     CVisualElement* m_Base = nullptr;
     std::vector<CVisualElement*> m_All;
-    std::deque<std::string> m_Notes;
+    CGameLog m_Log;
 };
 
 class IncrementalScroll : public testing::TestWithParam<double>

@@ -1,5 +1,6 @@
 // Lists and grids painted bit by bit look as if painted at once: played at random, by mouse, keys, bars and code.
 
+#include "tests/support/game.h"
 #include "tests/support/leaf.h"
 #include "tests/views/game_panel.h"
 #include "vexel/core/base_control.h"
@@ -7,8 +8,6 @@
 #include "vexel/scroll/scroll_container.h"
 
 #include <gtest/gtest.h>
-
-#include <deque>
 
 using namespace vexel;
 using namespace vexel::test;
@@ -120,12 +119,10 @@ public:
     }
     std::string History() const
     {
-        std::string text;
-        for (std::string const& note : m_Notes)
-            text += note + "\n";
+        std::string text = m_Log.Text();
         for (auto const& panel : m_Panels)
             text += Describe(*panel);
-        return text + DescribeTree(m_Base, "");
+        return text + DescribeTree(m_Base);
     }
     void Paint()
     {
@@ -144,14 +141,6 @@ public:
     }
 
 private:
-    static std::string DescribeTree(CVisualElement* element, std::string const& indent)
-    {
-        std::string text = indent + ElementName(element) + " at " + test::Describe(element->GetPos()) + ", dock " +
-                           std::to_string(element->GetAlignment()) + (element->IsVisible() ? "" : ", hidden") + "\n";
-        for (int i = 0; i < element->GetChildren()->GetCount(); ++i)
-            text += DescribeTree(element->GetChildren()->GetItem(i), indent + "  ");
-        return text;
-    }
     // What shows by a single line of pixels is not cut to its own place.
     bool IsTouching(CVisualElement* element) const
     {
@@ -570,11 +559,10 @@ private:
     }
     void Note(std::string const& what)
     {
-        m_Notes.push_back(what + (m_Panel ? " (" + Describe(*m_Panel).substr(0, 200) : ""));
-        if (m_Notes.back().back() == '\n')
-            m_Notes.back().back() = ')';
-        if (m_Notes.size() > 20)
-            m_Notes.pop_front();
+        std::string step = what + (m_Panel ? " (" + Describe(*m_Panel).substr(0, 200) : "");
+        if (step.back() == '\n')
+            step.back() = ')';
+        m_Log.Note(step);
     }
 
     CTestHost& m_Host;
@@ -587,7 +575,7 @@ private:
     std::vector<std::unique_ptr<CPanel>> m_Panels;
     CPanel* m_Panel = nullptr;
     CPanel::SAxis m_Axis;
-    std::deque<std::string> m_Notes;
+    CGameLog m_Log;
 };
 
 class IncrementalViews : public testing::TestWithParam<double>
