@@ -17,14 +17,6 @@ using namespace std::string_literals;
 namespace
 {
 
-std::string NumberedRows(int count)
-{
-    std::string content = "number\n";
-    for (int i = 1; i <= count; ++i)
-        content += std::to_string(i) + "\n";
-    return content;
-}
-
 std::string ProblemsOf(std::string const& content)
 {
     CTestFile const file(content);

@@ -76,4 +76,13 @@ inline std::string Problems(table::CTableFile const& file)
     return all;
 }
 
+/// A heading and so many rows: "number", "1", "2" ...
+inline std::string NumberedRows(int count)
+{
+    std::string content = "number\n";
+    for (int i = 1; i <= count; ++i)
+        content += std::to_string(i) + "\n";
+    return content;
+}
+
 }  // namespace table_test

@@ -222,14 +222,6 @@ TEST(CentralPartInAWindow, KnowsWhereItStoodBeforeTheLayout)
 
 // Mapping ----------------------------------------------------------------------------------------------------------------
 
-std::string TextOf(IPainter::CoordInfo const& info)
-{
-    return Describe(info.m_LogicalOrigin.x) + " " + Describe(info.m_LogicalOrigin.y) + ", " +
-           Describe(info.m_LogicalExtent.width) + " " + Describe(info.m_LogicalExtent.height) + " -> " +
-           Describe(info.m_DeviceOrigin.x) + " " + Describe(info.m_DeviceOrigin.y) + ", " +
-           Describe(info.m_DeviceExtent.width) + " " + Describe(info.m_DeviceExtent.height);
-}
-
 class CentralPartMapping : public testing::Test
 {
 protected:
@@ -245,7 +237,7 @@ protected:
     {
         IPainter::CoordInfo info;
         m_Part->FillCoordInfo(&info);
-        return TextOf(info);
+        return Text(info);
     }
 
     CTestHost m_Host{200, 100};
@@ -311,7 +303,7 @@ TEST_F(CentralPartMapping, IsInstalledWithAControlAndBothModels)
     m_Part->SetCoordSystem(painter);
     painter->GetCoordSystem(mode, &got);
     EXPECT_EQ(mode, IPainter::mmCustom);
-    EXPECT_EQ(TextOf(got), "25 7, 100 200 -> 10 20, 150 800");
+    EXPECT_EQ(Text(got), "25 7, 100 200 -> 10 20, 150 800");
 
     CCentralPart alone(nullptr, {20, 20}, alTop);
     alone.SetHorzScroll(&m_Horz);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "tests/support/text_log.h"
 #include "vexel/platform/native_controls.h"
+#include "vexel/platform/painter.h"
 #include "vexel/scroll/scroll_model.h"
 #include "vexel/signals/event_sender.h"
 #include "vexel/signals/notify.h"
@@ -18,16 +20,7 @@ namespace scroll_test
 
 using namespace vexel;
 
-/// What was done, parted by blanks.
-class CLog
-{
-public:
-    void Add(std::string const& entry) { m_Text += (m_Text.empty() ? "" : " ") + entry; }
-    std::string Take() { return std::exchange(m_Text, {}); }
-
-private:
-    std::string m_Text;
-};
+using CLog = vexel::test::CTextLog;
 
 /// A range that is what the test says. Steps beyond the list are 1.
 class CTestModel : public IScrollModel
@@ -123,5 +116,14 @@ public:
 private:
     CLog& m_Log;
 };
+
+/// Logical origin and extent -> device origin and extent.
+inline std::string Text(IPainter::CoordInfo const& info)
+{
+    return test::Describe(info.m_LogicalOrigin.x) + " " + test::Describe(info.m_LogicalOrigin.y) + ", " +
+           test::Describe(info.m_LogicalExtent.width) + " " + test::Describe(info.m_LogicalExtent.height) + " -> " +
+           test::Describe(info.m_DeviceOrigin.x) + " " + test::Describe(info.m_DeviceOrigin.y) + ", " +
+           test::Describe(info.m_DeviceExtent.width) + " " + test::Describe(info.m_DeviceExtent.height);
+}
 
 }  // namespace scroll_test

@@ -14,14 +14,6 @@ using namespace scroll_test;
 namespace
 {
 
-std::string Text(IPainter::CoordInfo const& info)
-{
-    return Describe(info.m_LogicalOrigin.x) + " " + Describe(info.m_LogicalOrigin.y) + ", " +
-           Describe(info.m_LogicalExtent.width) + " " + Describe(info.m_LogicalExtent.height) + " -> " +
-           Describe(info.m_DeviceOrigin.x) + " " + Describe(info.m_DeviceOrigin.y) + ", " +
-           Describe(info.m_DeviceExtent.width) + " " + Describe(info.m_DeviceExtent.height);
-}
-
 // A window of 200 x 100 with a pane at (30, 30, 130, 80). Both models: 10 to 110, at 25; 2 units are 3 pixels.
 class ScrollableElementEx : public testing::Test
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/slot.h"
+#include "tests/support/text_log.h"
 #include "tests/views/items.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
@@ -21,21 +22,17 @@ namespace viewer_test
 using namespace vexel;
 using namespace vexel::test;
 
+/// Entries parted by ", ".
+class CDrawLog : public CTextLog
+{
+public:
+    CDrawLog() : CTextLog(", ") {}
+};
+
 inline std::string DirtyName(IDirtyItemSet::DirtyType dirty)
 {
     return dirty == IDirtyItemSet::dirtyItem ? "item" : dirty == IDirtyItemSet::dirtyOther ? "other" : "none";
 }
-
-/// Entries parted by ", ".
-class CDrawLog
-{
-public:
-    void Add(std::string const& entry) { m_Text += (m_Text.empty() ? "" : ", ") + entry; }
-    std::string Take() { return std::exchange(m_Text, {}); }
-
-private:
-    std::string m_Text;
-};
 
 template <class Model> class CTestRows : public CRowViewer<Model>
 {

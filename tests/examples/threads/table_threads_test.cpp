@@ -16,14 +16,6 @@ using namespace table_test;
 namespace
 {
 
-std::string NumberedRows(int count)
-{
-    std::string content = "number\n";
-    for (int i = 1; i <= count; ++i)
-        content += std::to_string(i) + "\n";
-    return content;
-}
-
 TEST(TableThreads, RowsAreReadWhileTheIndexGrowsAndIsThinned)
 {
     constexpr std::uint64_t rows = 200000;
