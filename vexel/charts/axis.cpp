@@ -11,7 +11,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <limits>
-#include <optional>
 
 namespace vexel
 {
@@ -130,6 +129,19 @@ void CAxis::ProcessSetControl(IControl* control)
 {
     CScrollableElementEx::ProcessSetControl(control);
     SetAlignment(GetAlignment());
+}
+
+void CAxis::HandleRefreshPos()
+{
+    CScrollableElementEx::HandleRefreshPos();
+    point<int> origin;
+    ElementToControl(&origin);
+    rectangle<double> span = GetAxisRect(nullptr);
+    span.Offset(-origin.x, -origin.y);
+    if (span == m_Span)
+        return;
+    m_Span = span;
+    OnChange(this, utElement);
 }
 
 IPainter* CAxis::GetWindowPainter() const
@@ -258,16 +270,10 @@ void CAxis::DrawContent(IPainter* painter)
     m_MajorTicks.clear();
     m_MinorTicks.clear();
     DrawBackground(painter);
-
-    // Within a clip a holder leaves room for one more pixel, which is not to become one more unit of the range.
-    bool const clipped = !painter->GetClipRect().IsZero();
-    std::optional<CClipHolder> clip;
-    if (clipped)
-        clip.emplace(painter, GetDrawRect(painter));
+    // In own pixels: on the way to the range's units and back, the clip would lose or win a line, and within another clip
+    // a whole unit.
+    CClipHolder const clip(painter, GetDrawRect(painter));
     SetCoordSystem(painter);
-    if (!clipped)
-        clip.emplace(painter, GetDrawRect(painter));
-
     IScrollModel* const model = GetScrollModel();
     rectangle<double> const rect = GetAxisRect(nullptr);
     if (!model || !IsFinite(*model) || !(GetAlong(rect.Width(), rect.Height()) > 0))
