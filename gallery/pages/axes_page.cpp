@@ -19,8 +19,8 @@ constexpr int s_AxisDepth = 30;
 constexpr double s_ZoomStep = 0.8;     // a notch of the wheel
 constexpr double s_FinestZoom = 1e-6;  // units of a pixel
 constexpr double s_WidestZoom = 10;
-constexpr double s_Hour = 0.1;  // units of a pixel at first: a few days
-constexpr double s_Degree = 0.08;
+constexpr double s_Minute = 0.1;  // units of a pixel at first
+constexpr double s_Metre = 0.13;
 constexpr int s_CurveStep = 2;  // pixels
 
 _color const g_MinorLine = _color::FromRgb(0xEE, 0xEE, 0xF2);
@@ -30,11 +30,20 @@ _color const g_Column = _color::FromRgb(0x60, 0x90, 0xD0);
 
 std::array<double, 12> const g_RainOfMonth{52, 39, 45, 31, 58, 66, 71, 63, 44, 40, 55, 61};
 
-double TemperatureAt(double hour)
+// Minutes and metres of a dive; the next one begins two hours later.
+constexpr double s_DiveDistance = 120;
+std::array<std::pair<double, double>, 11> const g_Dive{
+    {{0, 0}, {4, 28}, {14, 31}, {22, 24}, {30, 19}, {38, 12}, {46, 9}, {52, 5}, {57, 5}, {59, 0}, {s_DiveDistance, 0}}};
+
+double DepthAt(double minute)
 {
-    double const pi = std::acos(-1.0);
-    return 9 - 11 * std::cos(hour / 8760 * 2 * pi) - 4 * std::cos((hour - 3) / 24 * 2 * pi) + 3 * std::sin(hour / 61) +
-           std::sin(hour / 5.3);
+    double const time = minute - std::floor(minute / s_DiveDistance) * s_DiveDistance;
+    std::size_t i = 1;
+    while (i + 1 < g_Dive.size() && g_Dive[i].first < time)
+        ++i;
+    auto const [from, high] = g_Dive[i - 1];
+    auto const [to, low] = g_Dive[i];
+    return high + (low - high) * (time - from) / (to - from);
 }
 
 // Lines of the pane at the ticks of an axis.
@@ -64,7 +73,7 @@ public:
         SetHorzScroll(&horz);
         SetVertScroll(&vert);
     }
-    signal_t<double, double> m_SigShown;  // the first and the last hour in view
+    signal_t<double, double> m_SigShown;  // the first and the last minute in view
 
     // The grid is that of the first two.
     void SetAxes(std::vector<CAxis*> axes) { m_Axes = std::move(axes); }
@@ -94,8 +103,8 @@ protected:  // From CVisualElement
         double const start = GetHorzScroll()->GetStart();
         for (int x = -s_CurveStep; x <= bounds.right + s_CurveStep; x += s_CurveStep)
         {
-            double const hour = start + x * pixel;
-            x < 0 ? painter->MoveTo(hour, TemperatureAt(hour)) : painter->LineTo(hour, TemperatureAt(hour));
+            double const minute = start + x * pixel;
+            x < 0 ? painter->MoveTo(minute, DepthAt(minute)) : painter->LineTo(minute, DepthAt(minute));
         }
     }
     bool HandleButtonDown(int x, int y, int, MouseButton button) override
@@ -112,7 +121,7 @@ protected:  // From CVisualElement
         if (button != mbLeft || !m_Held)
             return false;
         Move(*GetHorzScroll(), m_Last.x - x);
-        Move(*GetVertScroll(), y - m_Last.y);
+        Move(*GetVertScroll(), m_Last.y - y);
         m_Last = {x, y};
         ShowRange();
         return true;
@@ -128,23 +137,27 @@ protected:  // From CVisualElement
     bool HandleWheel(int x, int y, int, MouseButton, int delta) override
     {
         Zoom(*GetHorzScroll(), x, delta);
-        Zoom(*GetVertScroll(), GetBounds().bottom - y, delta);
+        Zoom(*GetVertScroll(), y, delta);
         ShowRange();
         return true;
     }
 
 private:
+    static void Show(IScrollModel& model, double start)
+    {
+        model.SetStart(std::clamp(start, model.GetFrom(), model.GetTo()));
+    }
     static void Move(IScrollModel& model, double pixels)
     {
-        model.SetStart(model.GetStart() + pixels * model.GetMeasure().first);
+        Show(model, model.GetStart() + pixels * model.GetMeasure().first);
     }
     // What lies so many pixels from the start stays where it is.
     static void Zoom(IScrollModel& model, double pixels, int notches)
     {
         double const now = model.GetMeasure().first;
         double const next = std::clamp(now * std::pow(s_ZoomStep, notches), s_FinestZoom, s_WidestZoom);
-        model.SetStart(model.GetStart() + pixels * (now - next));
         model.SetMeasure({next, 1});
+        Show(model, model.GetStart() + pixels * (now - next));
     }
 
     std::vector<CAxis*> m_Axes;
@@ -216,22 +229,20 @@ void CAxesPage::Build(CVisualElement* parent)
     columns->m_Axis = rain;
     months->SetCategoryModel(&m_Months);
 
-    m_Hours.SetMeasure({s_Hour, 1});
-    m_Hours.SetStart(0);
-    m_Degrees.SetMeasure({s_Degree, 1});
-    m_Degrees.SetStart(-14);
+    m_Minutes.SetMeasure({s_Minute, 1});
+    m_Metres.SetMeasure({s_Metre, 1});
     new CLabel(
         parent, {0, 30}, alTop,
-        "Hours below and days above, Celsius at the left and Fahrenheit at the right. Drag the curve, turn the wheel.");
+        "A dive: minutes below and hours above, metres at the left and feet at the right. Drag it, turn the wheel.");
     auto* const upper = new CVisualElement(parent, {0, 0}, alClient);
-    auto* const hours = new CAxis(upper, depth, alBottom);
-    auto* const days = new CAxis(upper, depth, alTop);
-    auto* const celsius = new CAxis(upper, depth, alLeft);
-    auto* const fahrenheit = new CAxis(upper, depth, alRight);
-    auto* const plot = new CPlot(upper, m_Hours, m_Degrees);
-    days->SetUnitConverter(&m_Days);
-    fahrenheit->SetUnitConverter(&m_Fahrenheit);
-    plot->SetAxes({hours, celsius, days, fahrenheit});
+    auto* const minutes = new CAxis(upper, depth, alBottom);
+    auto* const hours = new CAxis(upper, depth, alTop);
+    auto* const metres = new CAxis(upper, depth, alLeft);
+    auto* const feet = new CAxis(upper, depth, alRight);
+    auto* const plot = new CPlot(upper, m_Minutes, m_Metres);
+    hours->SetUnitConverter(&m_Hours);
+    feet->SetUnitConverter(&m_Feet);
+    plot->SetAxes({minutes, metres, hours, feet});
 
     auto const serve = [](CCentralPart* pane, std::initializer_list<CAxis*> axes) {
         for (CAxis* const axis : axes)
@@ -241,9 +252,9 @@ void CAxesPage::Build(CVisualElement* parent)
             axis->SetVertScroll(pane->GetVertScroll());
         }
     };
-    serve(plot, {hours, days, celsius, fahrenheit});
+    serve(plot, {minutes, hours, metres, feet});
     serve(columns, {months, rain});
-    Report(plot->m_SigShown, "hours in view");
+    Report(plot->m_SigShown, "minutes in view");
     ReportMouse(plot, "plot");
 }
 

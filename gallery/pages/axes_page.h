@@ -39,18 +39,17 @@ private:
         double m_Start;
         std::pair<double, int> m_Measure{1.0, 1};
     };
-    /// Units in proportion, with an offset.
+    /// Units in proportion.
     class CUnits : public IUnitConverter
     {
     public:
-        CUnits(double factor, double offset) : m_Factor(factor), m_Offset(offset) {}
+        explicit CUnits(double factor) : m_Factor(factor) {}
 
-        double ToUnits(double value) override { return value * m_Factor + m_Offset; }
-        double FromUnits(double value) override { return (value - m_Offset) / m_Factor; }
+        double ToUnits(double value) override { return value * m_Factor; }
+        double FromUnits(double value) override { return value / m_Factor; }
 
     private:
         double const m_Factor;
-        double const m_Offset;
     };
     class CMonths : public IItemsModel
     {
@@ -62,12 +61,12 @@ private:
     class CColumns;
 
     // They outlive the elements.
-    CRange m_Hours{-8760, 8760};
-    CRange m_Degrees{200, -200};  // grows upwards
-    CUnits m_Days{1.0 / 24, 0};
-    CUnits m_Fahrenheit{1.8, 32};
+    CRange m_Minutes{0, 1440};
+    CRange m_Metres{0, 200};  // grows downwards
+    CUnits m_Hours{1.0 / 60};
+    CUnits m_Feet{3.28084};
     CRange m_MonthRange{-0.5, 11.5};
-    CRange m_Rain{80, 0};
+    CRange m_Rain{100, 0};  // grows upwards
     CMonths m_Months;
 };
 
