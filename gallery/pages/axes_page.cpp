@@ -21,6 +21,7 @@ constexpr double s_FinestZoom = 1e-6;  // units of a pixel
 constexpr double s_WidestZoom = 10;
 constexpr double s_Minute = 0.1;  // units of a pixel at first
 constexpr double s_Metre = 0.13;
+constexpr double s_FirstMinute = -6;
 constexpr int s_CurveStep = 2;  // pixels
 
 _color const g_MinorLine = _color::FromRgb(0xEE, 0xEE, 0xF2);
@@ -218,27 +219,29 @@ std::string CAxesPage::CMonths::GetItemCaption(int index) const
 
 void CAxesPage::Build(CVisualElement* parent)
 {
-    // Axes stand before their panes, and so are painted before them.
+    // Axes stand before their panes, and so are painted before them. Those at the sides take the corners, where labels at
+    // their ends have room.
     auto* const lower = new CVisualElement(parent, {0, 190}, alBottom);
     new CLabel(lower, {0, 30}, alTop, "An axis of categories: millimetres of rain in each month");
     size<int> const depth{s_AxisDepth, s_AxisDepth};
-    auto* const months = new CCategoricalAxis(lower, depth, alBottom);
     auto* const rain = new CAxis(lower, depth, alLeft);
+    auto* const months = new CCategoricalAxis(lower, depth, alBottom);
     new CPanel(lower, {s_AxisDepth, 0}, alRight);
     auto* const columns = new CColumns(lower, m_MonthRange, m_Rain);
     columns->m_Axis = rain;
     months->SetCategoryModel(&m_Months);
 
     m_Minutes.SetMeasure({s_Minute, 1});
+    m_Minutes.SetStart(s_FirstMinute);
     m_Metres.SetMeasure({s_Metre, 1});
     new CLabel(
         parent, {0, 30}, alTop,
         "A dive: minutes below and hours above, metres at the left and feet at the right. Drag it, turn the wheel.");
     auto* const upper = new CVisualElement(parent, {0, 0}, alClient);
-    auto* const minutes = new CAxis(upper, depth, alBottom);
-    auto* const hours = new CAxis(upper, depth, alTop);
     auto* const metres = new CAxis(upper, depth, alLeft);
     auto* const feet = new CAxis(upper, depth, alRight);
+    auto* const minutes = new CAxis(upper, depth, alBottom);
+    auto* const hours = new CAxis(upper, depth, alTop);
     auto* const plot = new CPlot(upper, m_Minutes, m_Metres);
     hours->SetUnitConverter(&m_Hours);
     feet->SetUnitConverter(&m_Feet);

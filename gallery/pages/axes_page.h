@@ -61,7 +61,7 @@ private:
     class CColumns;
 
     // They outlive the elements.
-    CRange m_Minutes{0, 1440};
+    CRange m_Minutes{-600, 1440};
     CRange m_Metres{0, 200};  // grows downwards
     CUnits m_Hours{1.0 / 60};
     CUnits m_Feet{3.28084};
