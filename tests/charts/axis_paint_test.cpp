@@ -295,12 +295,6 @@ TEST_F(AxisPaint, ValuesSoLargeThatAStepIsLostEndTheWalk)
 
 TEST_F(AxisPaint, ThereIsNeverMoreThanATickAPixel)
 {
-    class CDense : public IUnitConverter  // a step that no pixel can show
-    {
-    public:
-        double ToUnits(double value) override { return value; }
-        double FromUnits(double value) override { return value; }
-    } dense;
     class CNoText : public CAxis
     {
     public:
@@ -310,13 +304,12 @@ TEST_F(AxisPaint, ThereIsNeverMoreThanATickAPixel)
     auto* const axis = new CNoText(m_Host.Root(), {10, 10}, alBottom);
     axis->SetCentralPane(m_Pane);
     axis->SetHorzScroll(&m_Model);
-    axis->SetUnitConverter(&dense);
-    axis->SetLabelGapPixels(-8);     // no room at all for a label
+    axis->SetLabelGapPixels(-8000);  // no room at all for a label
     m_Model.m_Measure = {0.001, 1};  // the mapping's ratio is 1: the whole range is less than a pixel
     SetRange(0, 0.0005, 0);
     m_Host.Paint();
-    EXPECT_LE(axis->GetMajorTicks().size() + axis->GetMinorTicks().size(), 201u);
-    EXPECT_GT(axis->GetMajorTicks().size(), 0u);
+    EXPECT_EQ(axis->GetStep(), 0.005);
+    EXPECT_EQ(axis->GetMajorTicks().size() + axis->GetMinorTicks().size(), 201u);
 }
 
 // Labels at the far end ---------------------------------------------------------------------------------------------------
@@ -480,17 +473,21 @@ TEST_F(AxisPaint, ADisabledAxisIsGrey)
     EXPECT_THAT(Draw(), Draws("SetTextColor grey").Then("SetPen grey").Then("MoveTo 0 0"));
 }
 
-TEST_F(AxisPaint, WithoutAWindowsControlItDrawsInPixels)
+TEST_F(AxisPaint, WithoutAControlItChoosesNoStepAndDrawsInPixels)
 {
     m_Host.Paint();
     IPainter* const painter = m_Host.Window().GetPainter();
     CAxis axis(nullptr, {30, 30}, alBottom);
     axis.SetPos({0, 0, 100, 30}, false);
     axis.SetHorzScroll(&m_Model);
+    CVisualElement pane(nullptr, {0, 0}, alNone);
+    pane.SetPos({0, 0, 50, 100}, false);
+    axis.SetCentralPane(&pane);
     painter->BeginPaint(IPainter::ssMeasure);
     axis.DrawContent(painter);
     EXPECT_EQ(axis.GetStep(), 1.0);
-    EXPECT_TRUE(axis.GetMajorTicks().empty());  // no pane
+    EXPECT_EQ(axis.GetMajorTicks(), (std::vector<double>{0, 1, 2, 3, 4, 5}));
+    EXPECT_EQ(axis.GetMinorTicks().size(), 45u);  // one tick a pixel
     painter->EndPaint();
 }
 

@@ -385,6 +385,18 @@ TEST_F(AxisStep, FollowsTheConvertersUnits)
     EXPECT_EQ(Choose(0, 1000, {1.0, 1}), "125 / 5");
 }
 
+TEST_F(AxisStep, ConverterUnitsMayBeginAnywhere)
+{
+    class CShifted : public IUnitConverter
+    {
+    public:
+        double ToUnits(double value) override { return value + 5000; }
+        double FromUnits(double value) override { return value - 5000; }
+    } shifted;
+    m_Axis->SetUnitConverter(&shifted);
+    EXPECT_EQ(Choose(0, 1000, {1.0, 1}), "100 / 10");  // "6000" takes 50
+}
+
 TEST_F(AxisStep, AConverterThatRunsBackwardsGivesAStepAllTheSame)
 {
     class CBackwards : public IUnitConverter
@@ -443,6 +455,8 @@ TEST_F(AxisStep, AConverterThatKnowsNoNumbersStillGivesAStep)
         EXPECT_GT(m_Axis->GetStep(), 0.0) << value;
         EXPECT_TRUE(std::isfinite(m_Axis->GetStep())) << value;
     }
+    lost.m_Value = s_Infinity;
+    EXPECT_EQ(Choose(0, 1000, {1.0, 1}), "100 / 10");  // begins at 1; "inf" takes 42
 }
 
 TEST_F(AxisStep, EndsBeyondAllMeasure)

@@ -51,7 +51,7 @@ struct SModels
 class CAxesGame
 {
 public:
-    CAxesGame(CTestHost& host, CTestRandom& random, SModels& models) : m_Host(host), m_Random(random), m_Models(models)
+    CAxesGame(CTestHost& host, CTestRandom& random, SModels& models) : m_Random(random), m_Models(models)
     {
         models.horz.m_CutsStart = models.vert.m_CutsStart = true;
         if (random.Bool())
@@ -149,7 +149,6 @@ private:
             m_Notes.pop_front();
     }
 
-    CTestHost& m_Host;
     CTestRandom& m_Random;
     SModels& m_Models;
     CScrollBox* m_Box = nullptr;
