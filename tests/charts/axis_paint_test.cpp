@@ -1,7 +1,7 @@
 // What an axis draws.
 
 #include "tests/charts/axis_bench.h"
-#include "vexel/scroll/scroller.h"
+#include "tests/support/slot.h"
 
 #include <gmock/gmock.h>
 
@@ -172,6 +172,35 @@ TEST_F(AxisOfFour, TheBackgroundIsFilledFirstAndItsOwnPixelsAreTheClip)
                             .Then("ResetClip"));
 }
 
+TEST_F(AxisPaint, TheBackgroundIsItsOwnWhateverBrushThePainterHas)
+{
+    m_Axis->SetBkColor(color_table[3]);
+    auto const red = Listen(m_Axis->m_SigDraw, [](CVisualElement*, IPainter* painter) {
+        painter->SetBrush(brush{color_table[6], brush::bsSolid});
+    });
+    EXPECT_THAT(Draw(), Draws("SetBrush red").Then("SetBrush yellow").Then("FillRect 0 0 239 30"));
+}
+
+TEST_F(AxisPaint, ALayoutThatChangesThePanesSpanRepaintsIt)
+{
+    auto* const around = new CVisualElement(m_Host.Root(), {0, 0}, alClient);
+    auto* const axis = new CAxis(around, {20, 20}, alTop);
+    auto* const inner = new CVisualElement(around, {0, 0}, alClient);
+    auto* const side = new CVisualElement(inner, {20, 20}, alRight);
+    auto* const foot = new CVisualElement(inner, {20, 20}, alBottom);
+    auto* const pane = new CVisualElement(inner, {0, 0}, alClient);
+    m_Host.Name(*axis, "axis");
+    axis->SetCentralPane(pane);
+    axis->SetHorzScroll(&m_Model);
+    m_Host.Paint();
+    rectangle<int> const before = axis->GetPos();
+    side->SetSize({40, 20}, false);
+    EXPECT_THAT(m_Host.Paint().Elements(), testing::HasSubstr("axis"));
+    EXPECT_EQ(axis->GetPos(), before);
+    foot->SetSize({20, 30}, false);  // shortens the pane across only
+    EXPECT_THAT(m_Host.Paint().Elements(), Not(testing::HasSubstr("axis")));
+}
+
 TEST_F(AxisPaint, ItsTicksAreThoseOfTheLastDrawing)
 {
     Draw();
@@ -264,7 +293,9 @@ TEST_F(AxisPaint, NothingButTheBackgroundIsDrawnWithoutAModelOrLength)
 
     m_Axis->SetCentralPane(m_Pane);
     m_Pane->SetPos({20, 20, 20, 120}, false);
+    m_Model.m_Measure = {100, 1};
     EXPECT_EQ(Drawing(Draw()), "\n");
+    EXPECT_EQ(m_Axis->GetStep(), 100.0);  // as before
     m_Pane->SetPos({20, 20, 21, 120}, false);
     EXPECT_THAT(Draw(), Draws("MoveTo 0 0"));
 }

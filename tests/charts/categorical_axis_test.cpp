@@ -168,6 +168,17 @@ TEST_F(CategoricalAxis, ForgetsAModelThatDies)
     EXPECT_THAT(m_Host.Paint(), Draws("DrawString \"0\"*").Then("DrawString \"4\"*"));
 }
 
+TEST_F(CategoricalAxis, AFormerModelMayDie)
+{
+    CNames names({"red", "blue", "", "green", "grey"});
+    {
+        CNames former({"1", "2", "3", "4", "5"});
+        m_Axis->SetCategoryModel(&former);
+        m_Axis->SetCategoryModel(&names);
+    }
+    EXPECT_EQ(m_Axis->GetCategoryModel(), &names);
+}
+
 TEST_F(CategoricalAxis, MayDieWhileItsModelTellsOfAChange)
 {
     CNames names({"red", "blue", "", "green", "grey"});
@@ -329,11 +340,12 @@ TEST_F(CategoricalAxis, NothingIsDrawnWithoutARoomAndTheBackgroundAloneWithoutAM
     EXPECT_EQ(Drawing(log), "\n");
     EXPECT_THAT(log, Draws("SetClipRect 0 0 239 30").Then("FillRect 0 0 239 30").Then("ResetClip"));
 
-    CCategoricalAxis flat(nullptr, {30, 30}, alBottom);
+    CTellingAxis flat(nullptr, {30, 30}, alBottom);
     flat.SetPos({0, 0, 100, 0}, false);
     IPainter* const painter = m_Host.Window().GetPainter();
     painter->BeginPaint(IPainter::ssMeasure);
     flat.DrawContent(painter);
+    EXPECT_EQ(flat.m_Told, "");
     EXPECT_TRUE(painter->GetClipRect().IsZero());
     painter->EndPaint();
 }
