@@ -1,6 +1,7 @@
 #include "gallery/pages.h"
 
 #include "gallery/pages/animation_page.h"
+#include "gallery/pages/axes_page.h"
 #include "gallery/pages/bevels_page.h"
 #include "gallery/pages/boxes_page.h"
 #include "gallery/pages/buttons_page.h"
@@ -87,6 +88,8 @@ SPage const g_Pages[] = {
     {"grid", "A grid of two billion rows",
      "Scroll, click, shift-click, drag past the edge; resize, drag and click the sections of the header.",
      &Make<CGridPage>},
+    {"axes", "Axes", "Their steps follow from the width of their labels. Drag the range, zoom by the wheel.",
+     &Make<CAxesPage>},
 };
 
 }  // namespace
