@@ -16,6 +16,24 @@ using namespace view_game;
 namespace
 {
 
+// Rows show through it.
+class CGlass : public CVisualElement
+{
+public:
+    explicit CGlass(CVisualElement* parent) : CVisualElement(parent, {10, 10}, alNone) {}
+    bool IsTransparent() const override { return true; }
+
+protected:
+    void DrawContent(IPainter* painter) override
+    {
+        rectangle<int> const rect = GetBounds();
+        painter->MoveTo(0, 0);
+        painter->LineTo(rect.right, rect.bottom);
+        painter->MoveTo(0, rect.bottom);
+        painter->LineTo(rect.right, 0);
+    }
+};
+
 class CViewGame
 {
 public:
@@ -201,9 +219,13 @@ private:
         CPanel& panel = *m_Panels.back();
         if (m_Random.Chance(15))
         {
-            panel.m_OnTop = new CLeaf(panel.m_Viewer, {10, 10}, alNone, m_Random.Int(0, 17));
+            bool const glass = m_Random.Chance(40);
+            if (glass)
+                panel.m_OnTop = new CGlass(panel.m_Viewer);
+            else
+                panel.m_OnTop = new CLeaf(panel.m_Viewer, {10, 10}, alNone, m_Random.Int(0, 17));
             PlaceChild(panel);
-            panel.m_What += " with a child";
+            panel.m_What += glass ? " with glass" : " with a child";
         }
     }
     // Within the viewer however small that becomes.
