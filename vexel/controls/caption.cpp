@@ -1,5 +1,6 @@
 #include "vexel/controls/caption.h"
 
+#include "vexel/controls/detail/measure_bracket.h"
 #include "vexel/controls/detail/scaled.h"
 #include "vexel/core/control.h"
 #include "vexel/platform/native_controls.h"
@@ -21,33 +22,6 @@ int GetDefaultImageSpace()
 {
     return detail::Scaled(4.0);
 }
-
-/// A bracket for measuring in a font. Inside a paint only the font is put back.
-class CMeasureBracket
-{
-public:
-    CMeasureBracket(IPainter* painter, font const& value)
-        : m_Painter(painter), m_Own(!painter->m_Painting), m_Before(m_Own ? font() : painter->GetFont())
-    {
-        if (m_Own)
-            m_Painter->BeginPaint(IPainter::ssMeasure);
-        m_Painter->SetFont(value);
-    }
-    ~CMeasureBracket()
-    {
-        if (m_Own)
-            m_Painter->EndPaint();
-        else
-            m_Painter->SetFont(m_Before);
-    }
-    CMeasureBracket(CMeasureBracket const&) = delete;
-    CMeasureBracket& operator=(CMeasureBracket const&) = delete;
-
-private:
-    IPainter* const m_Painter;
-    bool const m_Own;
-    font const m_Before;
-};
 
 }  // namespace
 
@@ -266,7 +240,7 @@ void CCaption::RecalculateSize()
 
     size<int> extent;
     {
-        CMeasureBracket const bracket(painter, GetFont());
+        detail::CMeasureBracket const bracket(painter, GetFont());
         size<int> const image = GetImageSize();
         size<int> const extra = GetAutoSizeAdditionalExtent();
         size<double> const text = MeasureText(painter, image, extra);
