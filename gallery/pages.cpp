@@ -26,6 +26,7 @@
 #include "gallery/pages/selection_page.h"
 #include "gallery/pages/strips_page.h"
 #include "gallery/pages/tooltip_page.h"
+#include "gallery/pages/zoomer_roll_page.h"
 
 namespace gallery
 {
@@ -87,6 +88,8 @@ SPage const g_Pages[] = {
     {"grid", "A grid of two billion rows",
      "Scroll, click, shift-click, drag past the edge; resize, drag and click the sections of the header.",
      &Make<CGridPage>},
+    {"zoomer", "Zoomer and rolls", "Drag the thumb, or press beside it. A click on a strip rolls its panel up.",
+     &Make<CZoomerRollPage>},
 };
 
 }  // namespace
