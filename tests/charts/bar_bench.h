@@ -51,7 +51,8 @@ public:
     bool IsFixedStepSize() const override { return m_Fixed; }
     double GetStepSize(double index) const override
     {
-        return index >= 0 && index < static_cast<double>(m_Steps.size()) ? m_Steps[static_cast<std::size_t>(index)] : 1.0;
+        return index >= 0 && index < static_cast<double>(m_Steps.size()) ? m_Steps[static_cast<std::size_t>(index)]
+                                                                         : 1.0;
     }
     void SetStepSize(double, double) const override {}
     void SetMeasure(std::pair<double, int> measure) override { m_Measure = measure; }
@@ -128,7 +129,8 @@ protected:
     {
         CBar::HitTestResult const hit = m_Bar.HitTest(place);
         return std::to_string(hit.m_Area) + ": " + std::to_string(hit.m_Section) + " " +
-               std::to_string(hit.m_NextSection) + " " + std::to_string(hit.m_Hover) + (hit.m_FirstHalf ? " first" : "");
+               std::to_string(hit.m_NextSection) + " " + std::to_string(hit.m_Hover) +
+               (hit.m_FirstHalf ? " first" : "");
     }
     std::string Selected()
     {

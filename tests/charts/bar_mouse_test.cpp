@@ -689,9 +689,8 @@ TEST_P(BarMouseOnSide, AMoveEndsOverASectionOrDividerOrNowhere)
         int along;
         char const* told;
     };
-    for (SEnd const& end :
-         {SEnd{10, "moved(1, 0)"}, SEnd{48, "moved(1, 0)"}, SEnd{51, "moved(1, 0)"}, SEnd{149, "moved(1, 2)"},
-          SEnd{170, ""}, SEnd{-20, ""}})
+    for (SEnd const& end : {SEnd{10, "moved(1, 0)"}, SEnd{48, "moved(1, 0)"}, SEnd{51, "moved(1, 0)"},
+                            SEnd{149, "moved(1, 2)"}, SEnd{170, ""}, SEnd{-20, ""}})
     {
         Press(70);
         Move(80);

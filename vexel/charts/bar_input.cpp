@@ -387,9 +387,14 @@ int CBar::FindTarget(int position) const
 // As long as the pointer or the place of a drop is not inside.
 void CBar::ScrollWhileDragging()
 {
+    IScrollModel* const model = GetScrollModel();
+    if (!model)
+    {
+        m_Timer.Stop();
+        return;
+    }
     rectangle<double> const section = GetSectionRect(m_DropTarget);
     double const place = GetAlong(section.left, section.top) + GetStripOrigin();
-    IScrollModel* const model = GetScrollModel();
     if (m_DragPos <= m_ViewStart || place <= m_ViewStart)
     {
         m_Timer.Start(false);
@@ -397,7 +402,7 @@ void CBar::ScrollWhileDragging()
     }
     CScrollConverter const converter(model);
     bool const beyond = m_DragPos > m_ViewEnd || place > m_ViewEnd;
-    if (beyond && model && converter.L2P(model->GetTo()) > converter.L2P(model->GetStart()) + m_ViewEnd)
+    if (beyond && converter.L2P(model->GetTo()) > converter.L2P(model->GetStart()) + m_ViewEnd)
         m_Timer.Start(true);
     else
         m_Timer.Stop();

@@ -165,7 +165,7 @@ void CBar::DrawSection(IPainter* painter, rectangle<int> const& whole, int secti
     }
     DrawBorder(painter, rect, bsFrame, bsRaised, true);
     std::string const text = GetCategoryModel() ? getCaption(section) : std::to_string(section);
-    painter->DrawString(rect, text, ConvTextAlign(s_TextAlign) | s_TextFlags, -1);
+    painter->DrawString(rect, text.c_str(), ConvTextAlign(s_TextAlign) | s_TextFlags, -1);
     painter->SetTextColor(textColor);
 }
 
