@@ -21,12 +21,13 @@ public:
     explicit CNames(int count) : m_Count(count) {}
 
     int m_Count;
+    std::string m_Suffix;
 
     int GetItemCount() const override { return m_Count; }
     std::string GetItemCaption(int index) const override
     {
         EXPECT_TRUE(index >= 0 && index < m_Count) << index;
-        return std::string(1, static_cast<char>('A' + index % 26));
+        return std::string(1, static_cast<char>('A' + index % 26)) + m_Suffix;
     }
 };
 

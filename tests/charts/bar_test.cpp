@@ -115,6 +115,7 @@ TEST_F(Bar, WithoutAScrollModelSectionsAreEmpty)
 
 TEST_F(Bar, TheSizeHintIsTheHighestCaptionAndTwo)
 {
+    m_Names.m_Suffix = "long";
     EXPECT_EQ(m_Bar.GetSizeHint(), 10.0);
     font large;
     large.size = 16;
@@ -129,6 +130,7 @@ TEST_F(Bar, TheSizeHintIsTheHighestCaptionAndTwo)
 
 TEST_P(BarOnSide, TheSizeHintIsOfUprightText)
 {
+    m_Names.m_Suffix = "long";
     EXPECT_EQ(m_Bar.GetSizeHint(), 10.0);
 }
 
@@ -297,6 +299,23 @@ TEST_F(Bar, AWidthThatIsAlmostWholeCountsAsWhole)
     m_Steps.m_Steps = {3.0 - 1e-10, 15, 10};  // a hair below 60 pixels
     EXPECT_EQ(Hit(57), "1: 0 0 0");
     EXPECT_EQ(Hit(58), "2: 0 1 0");
+}
+
+TEST_F(Bar, WithoutAScaleAPointLiesNowhere)
+{
+    m_Steps.m_Fixed = true;
+    m_Steps.m_Measure = {g_NotANumber, 2};
+    EXPECT_EQ(Hit(60), "0: -1 -1 -1");
+}
+
+TEST_F(Bar, BeforeTheFirstSectionAPointLiesBeforeTheStrip)
+{
+    m_Steps.m_Fixed = true;
+    m_Steps.m_Measure = {0.5, 10};  // 20 pixels
+    m_Steps.m_From = -2;
+    m_Steps.m_Start = -2;
+    EXPECT_EQ(Hit(39), "3: -1 -1 -1");
+    EXPECT_EQ(Hit(45), "1: 0 0 0 first");
 }
 
 TEST_F(Bar, OddModelsAreSurvived)

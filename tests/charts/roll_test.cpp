@@ -10,6 +10,7 @@
 #include "vexel/testing/random.h"
 #include "vexel/testing/test_kit.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace vexel;
@@ -328,6 +329,19 @@ TEST(RollDeletion, AmidRollingIsSurvived)
     host.Mouse().Click(roll->GetCaption(), 2, 2);
     EXPECT_EQ(parent->GetChildren()->GetCount(), 0);
     host.Paint();
+}
+
+TEST(RollElsewhere, ALayoutIsAskedForAlsoWhereTheSizeStays)
+{
+    CTestHost host(200, 100);
+    auto* const parent = new CMeddler(host.Root(), {0, 0}, alClient);
+    auto* const roll = new CRoll(parent, {199, 99}, alNone);
+    roll->SetPos({0, 0, 199, 99}, true);
+    host.Paint();
+    parent->m_Calls = 0;
+    roll->Expand(nullptr);
+    EXPECT_EQ(roll->GetSize(), (size<int>{199, 99}));
+    EXPECT_EQ(parent->m_Calls, 1);
 }
 
 TEST(RollDeletion, AnEndOfTheEventAmidRollingLeavesItListeningToSizes)

@@ -9,6 +9,7 @@
 #include "vexel/testing/random.h"
 #include "vexel/testing/test_kit.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <limits>
