@@ -1,6 +1,7 @@
 #include "gallery/pages.h"
 
 #include "gallery/pages/animation_page.h"
+#include "gallery/pages/axes_page.h"
 #include "gallery/pages/bar_page.h"
 #include "gallery/pages/bevels_page.h"
 #include "gallery/pages/boxes_page.h"
@@ -89,6 +90,8 @@ SPage const g_Pages[] = {
     {"grid", "A grid of two billion rows",
      "Scroll, click, shift-click, drag past the edge; resize, drag and click the sections of the header.",
      &Make<CGridPage>},
+    {"axes", "Axes", "Their steps follow from the width of their labels. Drag the range, zoom by the wheel.",
+     &Make<CAxesPage>},
     {"bar", "Bars of sections", "Click, Shift and Control; drag dividers, sections, and the free edge of the left bar.",
      &Make<CBarPage>},
     {"zoomer", "Zoomer and rolls", "Drag the thumb, or press beside it. A click on a strip rolls its panel up.",

@@ -11,7 +11,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <limits>
-#include <optional>
 
 namespace vexel
 {
@@ -44,10 +43,10 @@ int CountDecimals(double step)
     return ToInt(std::abs(std::ceil(std::abs(std::log10(step)))));
 }
 
-// What rounds to nothing has no sign.
+// What rounds to nothing has no sign, nor has what is no number.
 bool IsNegativeZero(std::string const& text)
 {
-    return text.front() == '-' && text.find_first_of("123456789in") == std::string::npos;
+    return text.front() == '-' && text.find_first_of("123456789i") == std::string::npos;
 }
 
 class CMeasureBracket
@@ -130,6 +129,19 @@ void CAxis::ProcessSetControl(IControl* control)
 {
     CScrollableElementEx::ProcessSetControl(control);
     SetAlignment(GetAlignment());
+}
+
+void CAxis::HandleRefreshPos()
+{
+    CScrollableElementEx::HandleRefreshPos();
+    point<int> origin;
+    ElementToControl(&origin);
+    rectangle<double> span = GetAxisRect(nullptr);
+    span.Offset(-origin.x, -origin.y);
+    if (span == m_Span)
+        return;
+    m_Span = span;
+    OnChange(this, utElement);
 }
 
 IPainter* CAxis::GetWindowPainter() const
@@ -258,16 +270,10 @@ void CAxis::DrawContent(IPainter* painter)
     m_MajorTicks.clear();
     m_MinorTicks.clear();
     DrawBackground(painter);
-
-    // Within a clip a holder leaves room for one more pixel, which is not to become one more unit of the range.
-    bool const clipped = !painter->GetClipRect().IsZero();
-    std::optional<CClipHolder> clip;
-    if (clipped)
-        clip.emplace(painter, GetDrawRect(painter));
+    // In own pixels: on the way to the range's units and back, the clip would lose or win a line, and within another clip
+    // a whole unit.
+    CClipHolder const clip(painter, GetDrawRect(painter));
     SetCoordSystem(painter);
-    if (!clipped)
-        clip.emplace(painter, GetDrawRect(painter));
-
     IScrollModel* const model = GetScrollModel();
     rectangle<double> const rect = GetAxisRect(nullptr);
     if (!model || !IsFinite(*model) || !(GetAlong(rect.Width(), rect.Height()) > 0))
@@ -310,13 +316,15 @@ void CAxis::DrawTicks(IPainter* painter, IScrollModel const& model)
 
     double const limit = std::max(oneEnd, otherEnd);
     double lastEnd = std::numeric_limits<double>::min();
-    std::int64_t number = std::int64_t{m_MinorCount} - ToInt(behind);
-    // Where values are so large that a step is lost in them, the walk ends; and there is no more than a tick a pixel.
+    double const begin = value;
+    std::int64_t const number = std::int64_t{m_MinorCount} - ToInt(behind);
+    // No more than a tick a pixel. Values are multiplied, not added up, so that no error grows along the axis.
     rectangle<double> const pixels = GetAxisRect(nullptr);
-    for (double rest = GetAlong(pixels.Width(), pixels.Height()); rest >= 0 && isAcross(position); --rest)
+    int const most = ToInt(GetAlong(pixels.Width(), pixels.Height()));
+    for (int i = 0; i <= most && isAcross(position); ++i)
     {
         point<double> end = position;
-        if (number % m_MinorCount == 0)
+        if ((number + i) % m_MinorCount == 0)
         {
             DrawLine(painter, &end, true);
             lastEnd = DrawLabel(painter, end, value, lastEnd, limit);
@@ -327,12 +335,11 @@ void CAxis::DrawTicks(IPainter* painter, IScrollModel const& model)
             DrawLine(painter, &end, false);
             m_MinorTicks.push_back(value);
         }
-        double const along = GetAlong(position.x, position.y);
-        IncAlong(&position, minor);
-        value += minor;
-        ++number;
-        if (!isAlong(position) || !(GetAlong(position.x, position.y) > along))
+        double const next = begin + (i + 1.0) * minor;
+        position = MakePoint(next, m_AxisOffset);
+        if (!(next > value) || !isAlong(position))  // values may be so large that a step is lost in them
             break;
+        value = next;
     }
 }
 
@@ -355,7 +362,7 @@ double CAxis::DrawLabel(IPainter* painter, point<double> const& position, double
     double const across = static_cast<double>(m_LabelOffset) + m_MajorTickSize;
     rectangle<double> const rect =
         MakeRect(along - width / 2, across, along + width / 2, GetAcross(own.width, own.height));
-    painter->DrawString(rect, text, ConvTextAlign(align) | IPainter::AlignSingleLine, -1);
+    painter->DrawString(rect, text.c_str(), ConvTextAlign(align) | IPainter::AlignSingleLine, -1);
     return along + width / 2;
 }
 

@@ -59,6 +59,7 @@ public:  // From CVisualElement
     bool ScrollContent(int dx, int dy) override;
     /// Sets the present alignment again: only a control can tell the font.
     void ProcessSetControl(IControl* control) override;
+    void HandleRefreshPos() override;  ///< Repaints if a layout has changed the pane's span.
 
 public:  // Overridable
     /// The across extent that ticks and a label like `sample` need; empty: like "9999". 0 without a window.
@@ -96,6 +97,7 @@ private:
     std::vector<double> m_MajorTicks;
     std::vector<double> m_MinorTicks;
     IUnitConverter* m_UnitConverter = nullptr;
+    rectangle<double> m_Span;  // own pixels, after the last layout
 };
 
 }  // namespace vexel

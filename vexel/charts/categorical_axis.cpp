@@ -123,7 +123,7 @@ void CCategoricalAxis::drawOneCategoryLabel(IPainter* painter, rectangle<double>
                                             ...)
 {
     int const align = ConvTextAlign(IPainter::AlignHCenter | IPainter::AlignTop);
-    painter->DrawString(rect, text, align | IPainter::AlignSingleLine | IPainter::AlignFitText, -1);
+    painter->DrawString(rect, text.c_str(), align | IPainter::AlignSingleLine | IPainter::AlignFitText, -1);
 }
 
 }  // namespace vexel
