@@ -35,7 +35,7 @@ protected:
         rectangle<int> const bounds = GetBounds();
         painter->FillRect(0, 0, bounds.right, bounds.bottom);
         CClipHolder const clip(painter, ToDouble(bounds));
-        painter->SetPen({color_table[21], pen::psSolid, 1});
+        painter->SetPen({_color::FromRgb(0xD0, 0xD0, 0xD0), pen::psSolid, 1});
         CScrollConverter const across(&m_Columns);
         CScrollConverter const down(&m_Rows);
         double const left = across.L2P(m_Columns.GetStart());

@@ -2,7 +2,7 @@
 
 #include "vexel/charts/bar.h"
 
-#include "vexel/controls/detail/measure_bracket.h"
+#include "vexel/core/measure_bracket.h"
 #include "vexel/platform/convert.h"
 #include "vexel/scroll/scroll_converter.h"
 
@@ -165,7 +165,7 @@ double CBar::GetSizeHint() const
     if (!painter)
         return 0.0;
     font const upright = GetFont();
-    detail::CMeasureBracket const bracket(painter, upright);
+    CMeasureBracket const bracket(painter, upright);
     double height = 0;
     int const count = GetSectionCount();
     for (int i = 0; i < count; ++i)

@@ -1,7 +1,6 @@
 // Painting: the strip, its sections, what is dragged.
 
 #include "vexel/charts/bar.h"
-#include "vexel/controls/detail/painter_colors.h"
 #include "vexel/core/clip_holder.h"
 #include "vexel/platform/border.h"
 #include "vexel/platform/convert.h"
@@ -10,8 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
-#include <optional>
 
 namespace vexel
 {
@@ -152,11 +149,12 @@ void CBar::DrawSection(IPainter* painter, rectangle<int> const& whole, int secti
                            static_cast<double>(whole.right), static_cast<double>(whole.bottom)};
     GetAcrossRef(rect.right, rect.bottom) -= 1;
     _color const textColor = painter->GetTextColor();
-    std::optional<detail::CPaletteHolder> palette;
+    std::string const text = GetCategoryModel() ? getCaption(section) : std::to_string(section);
+    vexel_ptr<ICustomPaletteEx> const paletteBefore = painter->m_Palette;
     if (selected)
     {
         if (!painter->m_Palette)
-            palette.emplace(painter, MakeSelectionPalette());
+            painter->m_Palette = MakeSelectionPalette();
         brush const before = painter->GetBrush();
         painter->SetBrush({painter->m_Palette->GetColor(ISysPalette::scHighlight), brush::bsSolid});
         painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
@@ -164,9 +162,9 @@ void CBar::DrawSection(IPainter* painter, rectangle<int> const& whole, int secti
         painter->SetTextColor(painter->m_Palette->GetColor(ISysPalette::scHighlightText));
     }
     DrawBorder(painter, rect, bsFrame, bsRaised, true);
-    std::string const text = GetCategoryModel() ? getCaption(section) : std::to_string(section);
     painter->DrawString(rect, text.c_str(), ConvTextAlign(s_TextAlign) | s_TextFlags, -1);
     painter->SetTextColor(textColor);
+    painter->m_Palette = paletteBefore;
 }
 
 void CBar::DrawSpace(IPainter* painter, rectangle<int> const& rect)

@@ -1,8 +1,8 @@
 #include "vexel/charts/roll.h"
 
-#include "vexel/controls/detail/measure_bracket.h"
 #include "vexel/core/control.h"
 #include "vexel/core/dpi.h"
+#include "vexel/core/measure_bracket.h"
 #include "vexel/platform/sys_window.h"
 
 namespace vexel
@@ -38,7 +38,7 @@ int GetTextHeight(CControlCaption const& strip)
     if (!painter)
         return g_CaptionSize.height;
     font const textFont = strip.GetText().GetFont();
-    detail::CMeasureBracket const bracket(painter, textFont);
+    CMeasureBracket const bracket(painter, textFont);
     return CeilToInt(painter->GetTextSize(strip.GetText().GetCaption(), &textFont, -1, false, false).height);
 }
 

@@ -1,6 +1,6 @@
 #include "vexel/charts/zoomer.h"
 
-#include "vexel/controls/detail/painter_colors.h"
+#include "vexel/platform/painter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,9 +18,15 @@ constexpr int s_MinHeight = 4;  // of what has room for a groove
 constexpr int s_MinusFlags = IPainter::AlignLeft | IPainter::AlignVCenter;
 constexpr int s_PlusFlags = IPainter::AlignRight | IPainter::AlignVCenter;
 
+// Of the palette in the painter, else of the default one.
+_color GetColor(IPainter const& painter, ISysPalette::SysColor number)
+{
+    return painter.m_Palette ? painter.m_Palette->GetColor(number) : GetDefaultPalette()->GetColor(number);
+}
+
 void SetPenColor(IPainter* painter, ISysPalette::SysColor number)
 {
-    painter->SetPen({detail::GetPainterColor(*painter, number), pen::psSolid, 1});
+    painter->SetPen({GetColor(*painter, number), pen::psSolid, 1});
 }
 
 // A line around the corner (cornerX, cornerY).
@@ -100,7 +106,7 @@ void CZoomer::DrawGroove(IPainter* painter) const
 void CZoomer::DrawThumb(IPainter* painter) const
 {
     auto const [l, t, r, b] = m_ThumbRect;
-    painter->SetBrush({detail::GetPainterColor(*painter, ISysPalette::scFace), brush::bsSolid});
+    painter->SetBrush({GetColor(*painter, ISysPalette::scFace), brush::bsSolid});
     painter->FillRect(l, t, r, b);
     SetPenColor(painter, ISysPalette::scDarkShadow);
     DrawAngle(painter, l, b, r, b, r, t);

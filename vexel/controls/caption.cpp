@@ -1,8 +1,8 @@
 #include "vexel/controls/caption.h"
 
-#include "vexel/controls/detail/measure_bracket.h"
 #include "vexel/controls/detail/scaled.h"
 #include "vexel/core/control.h"
+#include "vexel/core/measure_bracket.h"
 #include "vexel/platform/native_controls.h"
 #include "vexel/platform/sys_window.h"
 
@@ -240,7 +240,7 @@ void CCaption::RecalculateSize()
 
     size<int> extent;
     {
-        detail::CMeasureBracket const bracket(painter, GetFont());
+        CMeasureBracket const bracket(painter, GetFont());
         size<int> const image = GetImageSize();
         size<int> const extra = GetAutoSizeAdditionalExtent();
         size<double> const text = MeasureText(painter, image, extra);

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
 #include "vexel/platform/painter.h"
 
-namespace vexel::detail
+namespace vexel
 {
 
-using namespace vexelbase;
-
-/// A bracket for measuring in a font. Inside a paint only the font is put back.
+/// Opens a painter for measuring in a font, for a scope. Inside a paint it opens nothing, and only puts the font back.
 class CMeasureBracket
 {
 public:
@@ -34,4 +33,4 @@ private:
     font const m_Before;
 };
 
-}  // namespace vexel::detail
+}  // namespace vexel
