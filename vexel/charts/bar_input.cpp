@@ -37,8 +37,6 @@ void SelectOver(Selection& selection, int a, int b)
     auto const last = nodes.LowerBound(high);
     if (last != nodes.end() && last->value == Selection::selEnd)
         high = last->key;
-    else if (last != nodes.end() && last->key == high && last->value == Selection::selBegin)
-        high = std::next(last)->key;
     selection.SetItemsSelection(low, high, true);
 }
 
