@@ -2,6 +2,7 @@
 
 #include "gallery/pages/animation_page.h"
 #include "gallery/pages/axes_page.h"
+#include "gallery/pages/bar_page.h"
 #include "gallery/pages/bevels_page.h"
 #include "gallery/pages/boxes_page.h"
 #include "gallery/pages/buttons_page.h"
@@ -27,6 +28,7 @@
 #include "gallery/pages/selection_page.h"
 #include "gallery/pages/strips_page.h"
 #include "gallery/pages/tooltip_page.h"
+#include "gallery/pages/zoomer_roll_page.h"
 
 namespace gallery
 {
@@ -90,6 +92,10 @@ SPage const g_Pages[] = {
      &Make<CGridPage>},
     {"axes", "Axes", "Their steps follow from the width of their labels. Drag the range, zoom by the wheel.",
      &Make<CAxesPage>},
+    {"bar", "Bars of sections", "Click, Shift and Control; drag dividers, sections, and the free edge of the left bar.",
+     &Make<CBarPage>},
+    {"zoomer", "Zoomer and rolls", "Drag the thumb, or press beside it. A click on a strip rolls its panel up.",
+     &Make<CZoomerRollPage>},
 };
 
 }  // namespace

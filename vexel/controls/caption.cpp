@@ -2,6 +2,7 @@
 
 #include "vexel/controls/detail/scaled.h"
 #include "vexel/core/control.h"
+#include "vexel/core/measure_bracket.h"
 #include "vexel/platform/native_controls.h"
 #include "vexel/platform/sys_window.h"
 
@@ -21,33 +22,6 @@ int GetDefaultImageSpace()
 {
     return detail::Scaled(4.0);
 }
-
-/// A bracket for measuring in a font. Inside a paint only the font is put back.
-class CMeasureBracket
-{
-public:
-    CMeasureBracket(IPainter* painter, font const& value)
-        : m_Painter(painter), m_Own(!painter->m_Painting), m_Before(m_Own ? font() : painter->GetFont())
-    {
-        if (m_Own)
-            m_Painter->BeginPaint(IPainter::ssMeasure);
-        m_Painter->SetFont(value);
-    }
-    ~CMeasureBracket()
-    {
-        if (m_Own)
-            m_Painter->EndPaint();
-        else
-            m_Painter->SetFont(m_Before);
-    }
-    CMeasureBracket(CMeasureBracket const&) = delete;
-    CMeasureBracket& operator=(CMeasureBracket const&) = delete;
-
-private:
-    IPainter* const m_Painter;
-    bool const m_Own;
-    font const m_Before;
-};
 
 }  // namespace
 

@@ -1,0 +1,176 @@
+// A bar painted bit by bit looks as if painted at once: played with random users.
+
+#include "tests/charts/bar_bench.h"
+#include "tests/support/slot.h"
+#include "vexel/testing/random.h"
+
+#include <deque>
+
+using namespace vexel;
+using namespace vexel::test;
+
+namespace
+{
+
+// They outlive the host.
+struct SModels
+{
+    CNames names{8};
+    CSteps steps{{12.5, 15, 10, 5, 20, 8, 30, 2}};
+};
+
+// A bar beside a pane, and its user and owner at random.
+class CBarGame
+{
+public:
+    CBarGame(CTestHost& host, CTestRandom& random, SModels& models)
+        : m_Host(host), m_Random(random), m_Models(models),
+          m_Bar(*new CBar(host.Root(), {random.Int(8, 30), random.Int(8, 30)},
+                          static_cast<Alignment>(random.Int(alLeft, alBottom)))),
+          m_Pane(*new CBarPane(host.Root(), {0, 0}, alClient))
+    {
+        m_Bar.SetBkColor(color_table[3]);
+        m_Pane.SetBkColor(color_table[9]);
+        m_Bar.SetCentralPane(&m_Pane);
+        m_Bar.SetHorzScroll(&models.steps);
+        m_Bar.SetVertScroll(&models.steps);
+        m_Bar.SetCategoryModel(&models.names);
+        m_Bar.SetStyle(static_cast<unsigned long>(random.Int(0, 3)));
+        m_Resizing = Listen(m_Bar.m_SigSectionResizing, [this](int section, double step) {
+            m_Models.steps.m_Steps[static_cast<std::size_t>(section)] = step;
+        });
+        host.Paint();
+    }
+    void Step()
+    {
+        CMouse& mouse = m_Host.Mouse();
+        switch (m_Random.Int(0, 11))
+        {
+        case 0:
+            Own();
+            break;
+        case 1:
+            m_Host.Clock().Advance(100);
+            Note("time");
+            break;
+        case 2:
+        case 3:
+            if (mouse.IsHeld(mbLeft))
+                break;
+            m_Host.Keyboard().Hold(m_Random.Chance(30) ? ksShift : m_Random.Chance(30) ? ksControl : 0);
+            mouse.Press();
+            m_Host.Keyboard().Hold(0);
+            Note("press");
+            break;
+        case 4:
+        case 5:
+            mouse.Release();
+            Note("release");
+            break;
+        case 6:
+            mouse.Leave();
+            Note("leave");
+            break;
+        default:
+        {
+            rectangle<int> const bounds = m_Bar.GetBounds();
+            int const margin = m_Random.Chance(20) ? 40 : 2;
+            int const x = m_Random.Int(-margin, bounds.right + margin);
+            int const y = m_Random.Int(-margin, bounds.bottom + margin);
+            mouse.Move(m_Bar, x, y);
+            Note("move " + std::to_string(x) + " " + std::to_string(y));
+            break;
+        }
+        }
+    }
+    bool IsDragged() const { return m_Bar.GetDragSection() >= 0; }
+    bool IsSelected() const { return !m_Bar.GetSelection().IsEmpty(); }
+    std::string History() const
+    {
+        std::string text =
+            "bar at " + Describe(m_Bar.GetPos()) + ", docked " + std::to_string(m_Bar.GetAlignment()) + "\n";
+        for (std::string const& note : m_Notes)
+            text += note + "\n";
+        return text;
+    }
+
+private:
+    void Own()
+    {
+        switch (m_Random.Int(0, 6))
+        {
+        case 0:
+            m_Models.steps.m_Start = m_Random.Int(0, 16) / 2.0;
+            break;
+        case 1:
+            m_Models.names.m_Count = m_Random.Int(0, 8);
+            break;
+        case 2:
+            m_Bar.SetStyle(static_cast<unsigned long>(m_Random.Int(0, 3)));
+            break;
+        case 3:
+            m_Bar.SetSelectedSections({m_Random.Int(0, 8), m_Random.Int(0, 8)});
+            break;
+        case 4:
+            m_Bar.SetEnabled(!m_Bar.IsEnabled());
+            break;
+        case 5:
+            m_Bar.SetRotateText(m_Random.Bool());
+            break;
+        default:
+            m_Bar.SetSize({m_Random.Int(4, 40), m_Random.Int(4, 40)}, false);
+            break;
+        }
+        m_Models.names.m_SigChanged();
+        Note("own");
+    }
+    void Note(std::string const& what)
+    {
+        m_Notes.push_back(what);
+        if (m_Notes.size() > 30)
+            m_Notes.pop_front();
+    }
+
+    CTestHost& m_Host;
+    CTestRandom& m_Random;
+    SModels& m_Models;
+    CBar& m_Bar;
+    CBarPane& m_Pane;
+    std::unique_ptr<CSlot<int, double>> m_Resizing;
+    std::deque<std::string> m_Notes;
+};
+
+class IncrementalBars : public testing::TestWithParam<double>
+{};
+INSTANTIATE_TEST_SUITE_P(AtScale, IncrementalBars, testing::Values(1.0, 1.5));
+
+}  // namespace
+
+TEST_P(IncrementalBars, LookAsIfPaintedAtOnce)
+{
+    CTestRandom random;
+    int drags = 0;
+    int selections = 0;
+    for (int game = 0; game < 40; ++game)
+    {
+        SModels models;
+        CTestHost host(random.Int(90, 200), random.Int(90, 160), GetParam());
+        CBarGame bar(host, random, models);
+        for (int round = 0; round < 60; ++round)
+        {
+            for (int paints = random.Int(1, 3); paints > 0; --paints)
+            {
+                for (int steps = random.Int(1, 4); steps > 0; --steps)
+                    bar.Step();
+                host.Paint();
+            }
+            drags += bar.IsDragged() ? 1 : 0;
+            selections += bar.IsSelected() ? 1 : 0;
+            ASSERT_EQ(host.CompareWithFullPaint(), "") << bar.History();
+            if (random.Chance(3))
+                host.Resize(random.Int(90, 200), random.Int(90, 160));
+        }
+    }
+    EXPECT_GT(drags, 20);
+    EXPECT_GT(selections, 500);
+}
