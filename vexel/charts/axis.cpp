@@ -49,13 +49,14 @@ bool IsNegativeZero(std::string const& text)
     return text.front() == '-' && text.find_first_of("123456789i") == std::string::npos;
 }
 
-class CMeasureBracket
+// With a mapping of its own, also inside a paint.
+class CNestedMeasuring
 {
 public:
-    explicit CMeasureBracket(IPainter* painter) : m_Painter(painter) { painter->BeginPaint(IPainter::ssMeasure); }
-    ~CMeasureBracket() { m_Painter->EndPaint(); }
-    CMeasureBracket(CMeasureBracket const&) = delete;
-    CMeasureBracket& operator=(CMeasureBracket const&) = delete;
+    explicit CNestedMeasuring(IPainter* painter) : m_Painter(painter) { painter->BeginPaint(IPainter::ssMeasure); }
+    ~CNestedMeasuring() { m_Painter->EndPaint(); }
+    CNestedMeasuring(CNestedMeasuring const&) = delete;
+    CNestedMeasuring& operator=(CNestedMeasuring const&) = delete;
 
 private:
     IPainter* const m_Painter;
@@ -162,7 +163,7 @@ int CAxis::CalcMinHeight(std::string const& sample) const
     IPainter* const painter = GetWindowPainter();
     if (!painter)
         return 0;
-    CMeasureBracket const measuring(painter);
+    CNestedMeasuring const measuring(painter);
     font const own = GetFont();
     size<double> const extent = painter->GetTextSize(sample.empty() ? s_Sample : sample, &own, -1, false);
     int const text = ToInt(GetAcross(extent.width, extent.height));
@@ -208,7 +209,7 @@ void CAxis::CalcLogicStep()
     IScrollModel* const model = GetScrollModel();
     if (!painter || !model)
         return;
-    CMeasureBracket const measuring(painter);
+    CNestedMeasuring const measuring(painter);
     IPainter::CoordInfo const own;
     painter->SetCoordSystem(IPainter::mmCustom, &own);
     SetCoordSystem(painter);
