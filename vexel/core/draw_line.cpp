@@ -1,5 +1,6 @@
 #include "vexel/core/draw_line.h"
 
+#include "vexel/antialiasing/line_band.h"
 #include "vexel/antialiasing/line_contour.h"
 #include "vexel/core/drawing_context.h"
 #include "vexel/platform/convert.h"
@@ -64,7 +65,11 @@ template <class Draw> void OnDevice(IPainter& painter, Draw const& draw)
 
 void DrawLine(IPainter* painter, point<double> const& p1, point<double> const& p2, CapStyle cap1, CapStyle cap2)
 {
-    DrawLineByContour(painter, p1, p2, cap1, cap2);
+    antialiasing::LineContourParams const line = ToDeviceLine(*painter, p1, p2, cap1, cap2);
+    OnDevice(*painter, [&] {
+        if (!antialiasing::DrawLineInBand(line, *painter))
+            DrawByContour(*painter, line);
+    });
 }
 
 void DrawLineByContour(IPainter* painter, point<double> const& p1, point<double> const& p2, CapStyle cap1,
