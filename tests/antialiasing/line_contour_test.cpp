@@ -152,7 +152,7 @@ TEST(LineContour, PenStylesSkipSamplesByWidths)
     EXPECT_EQ(columns(0, 1), "........................");
     EXPECT_EQ(columns(6, 1), "........................");
     EXPECT_EQ(columns(3, 3).substr(0, 4), "###.");
-    EXPECT_EQ(columns(4, 2).substr(0, 13), "#######.###..");
+    EXPECT_EQ(columns(4, 2).substr(0, 13), "#######.###.#");
 }
 
 TEST(LineContour, AnotherStyleStampsCapsOnly)

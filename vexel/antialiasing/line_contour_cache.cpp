@@ -40,10 +40,13 @@ CCacheableLineContour::Tag::Tag(LINE_CONTOUR_PARAMS const& line, bool flag, long
     m_Packed2 = (x2 >> 2 & 0xFFu) + ((y1 & 0x3FFFu) << 8) + (x1 << 22);
 }
 
-bool operator<(CCacheableLineContour::Tag const& a, CCacheableLineContour::Tag const& b)
+bool CCacheableLineContour::Tag::operator<(Tag const& other) const
 {
-    return std::tuple_cat(std::tie(a.m_Packed1, a.m_Packed2, a.m_Size), Order(a.m_StartColor), Order(a.m_EndColor)) <
-           std::tuple_cat(std::tie(b.m_Packed1, b.m_Packed2, b.m_Size), Order(b.m_StartColor), Order(b.m_EndColor));
+    auto const order = [](Tag const& tag) {
+        return std::tuple_cat(std::tie(tag.m_Packed1, tag.m_Packed2, tag.m_Size), Order(tag.m_StartColor),
+                              Order(tag.m_EndColor));
+    };
+    return order(*this) < order(other);
 }
 
 CCacheableLineContour::~CCacheableLineContour()

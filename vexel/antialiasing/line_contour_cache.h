@@ -25,7 +25,7 @@ public:
         CColorInfo m_StartColor;
         CColorInfo m_EndColor;
 
-        friend bool operator<(Tag const& a, Tag const& b);
+        bool operator<(Tag const& other) const;  ///< By the words, then by size and colours.
     };
 
     CCacheableLineContour() = default;
