@@ -135,6 +135,18 @@ TEST(ContourOutput, MixingWithAnAmbientAreaTakesItsColours)
     EXPECT_EQ(contour.m_Solid, (Solid{{{1, 0}, 0x1E78D2}, {{2, 0}, 0x82786E}, {{3, 0}, 0x1E140A}}));
 }
 
+TEST(ContourOutput, AnUnknownAmbientColourIsAGreyOf128)
+{
+    CContour contour;
+    contour.m_Contour[{0, 0}] = {0, 0, 0, 100, 0};
+    contour.m_Ambient.m_Primary[{9, 0}] = NoColor;
+    contour.m_Ambient.m_Secondary[{0, 0}] = &contour.m_Ambient.m_Primary[{9, 0}];
+
+    contour.MixWithBackground(0);
+
+    EXPECT_EQ((contour.m_Solid[{0, 0}]), 0x4D4D4Dul);  // 19840 / 255 = 77.8
+}
+
 TEST(ContourOutput, DrawReadsAndBlendsColumnByColumnThenWritesSolidPixels)
 {
     CContour contour;
@@ -334,6 +346,7 @@ TEST_F(Mask, ClearFlipsOneRowLower)
 {
     m_Bytes.assign(20, 0);
     m_Contour.m_Contour[{3, 1}] = {};
+    m_Contour.m_Contour[{3, 3}] = {};  // its row would be 0, but it is off the mask
     m_Contour.m_Solid[{0, 1}] = 0;
 
     m_Contour.ClearAlphaMask(Bytes(), 4, 3, true);

@@ -261,6 +261,18 @@ TEST(AmbientArea, TheIndexTakesWhatLiesBeforeAllPixels)
     EXPECT_EQ(Index(contour), "(10,0)>(2,1)(12,0)>(2,1)");
 }
 
+TEST(AmbientArea, TheIndexLooksFurtherToTheLeftWhereThatIsNeeded)
+{
+    CContour contour;
+    Add(contour, {{0, 0}, {0, 52}});
+    for (tagPOINT const& point : {tagPOINT{-5, 50}, {0, 1}})
+        contour.m_Ambient.m_Primary[point] = 0;
+
+    contour.IndexAmbientPoints();
+
+    EXPECT_EQ(Index(contour), "(0,0)>(0,1)(0,52)>(-5,50)");
+}
+
 TEST(AmbientArea, TheIndexKeepsWhatItHas)
 {
     CContour contour;
