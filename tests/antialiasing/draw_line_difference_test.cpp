@@ -132,7 +132,7 @@ TEST(DrawLineDifference, EveryPixelIsThatOfTheContour)
 {
     CTestRandom random;
     CSurface fast, slow;
-    int const count = GetLineCount(20000);
+    int const count = GetLineCount(10000);
     for (int i = 0; i < count; ++i)
     {
         if (i % 50 == 0)
