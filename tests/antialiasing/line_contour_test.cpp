@@ -289,7 +289,7 @@ TEST(LineContour, CapsOfAShortLineShrink)
     EXPECT_EQ(cap.m_Radius, 0);
     EXPECT_EQ(cap.m_ExtraArea, 6ul);
 
-    cap.Set(CapArrowWide, 2, 10, 20, 30);  // 0.4 of 60, but no more than 10
+    cap.Set(CapArrowWide, 3, 10, 20, 30);  // would like 13; 0.4 of 60, but no more than 10
     EXPECT_DOUBLE_EQ(cap.m_Length, 10);
     EXPECT_DOUBLE_EQ(cap.m_HalfWidth, 3.249196962561462);
     EXPECT_EQ(cap.m_Offset, 20);
