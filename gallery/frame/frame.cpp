@@ -40,7 +40,7 @@ void CFrame::Build(SState const& state)
     std::vector<std::string> titles;
     for (SPage const& page : GetPages())
         titles.emplace_back(page.title);
-    m_List = new CPageList(root, {214, 0}, alLeft, std::move(titles));
+    m_List = new CPageList(root, {210, 0}, alLeft, std::move(titles));
     m_List->SetCurrent(state.page);
     m_List->m_SigChosen.connect(this, &CFrame::PageChosen);
 

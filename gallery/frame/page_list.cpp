@@ -33,6 +33,15 @@ void CPageList::CRows::SetHot(int row)
     Update(utElement);
 }
 
+void CPageList::CRows::SetPos(rectangle<int> const& rect, bool force)
+{
+    bool const isFirst = GetRowViewModel()->GetViewSize() < 1;
+    CAliveGuard const alive(this);
+    CRowViewer::SetPos(rect, force);
+    if (alive && isFirst && GetRowViewModel()->GetViewSize() >= 1)
+        GetRowHandler().MakeCurrentVisible(false);
+}
+
 void CPageList::CRows::DrawRow(IPainter* painter, int row, int, int state, rectangle<double> const& rect,
                                IDirtyItemSet::DirtyType dirty)
 {
@@ -69,7 +78,7 @@ void CPageList::SetCurrent(int index)
     CDiscreteItemEventHandler& handler = m_Rows.GetRowHandler();
     CAliveGuard const alive(this);
     handler.SetCurrentItem(std::clamp(index, 0, std::max(0, static_cast<int>(m_Titles.size()) - 1)));
-    if (alive)
+    if (alive && m_Rows.GetRowViewModel()->GetViewSize() >= 1)
         handler.MakeCurrentVisible(false);
 }
 

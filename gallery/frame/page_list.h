@@ -29,6 +29,7 @@ private:
         CRows(CVisualElement* parent, std::vector<std::string> const& titles);
 
         void SetHot(int row);
+        void SetPos(rectangle<int> const& rect, bool force) override;  ///< The current row shows from the beginning.
 
     protected:
         int CalculateDefaultRowHeight() const override;

@@ -48,14 +48,16 @@ public:
     int GetRowMargin() const override { return 6; }
 
 protected:
-    void DrawRow(IPainter* painter, int row, int, int state, rectangle<double> const& rect,
+    void DrawRow(IPainter* painter, int row, int skip, int state, rectangle<double> const& rect,
                  IDirtyItemSet::DirtyType dirty) override
     {
         if (dirty == IDirtyItemSet::dirtyOther)
             return;
         m_Buffer.clear();
         m_Text(row, m_Buffer);
-        m_Look.Draw(painter, rect, {row, state, this->IsFocused(), true, true}, m_Buffer);
+        rectangle<double> whole = rect;  // also what lies before the view, so that the text stands where it stood
+        whole.top -= skip;
+        m_Look.Draw(painter, whole, {row, state, this->IsFocused(), true, true}, m_Buffer);
     }
 
 private:

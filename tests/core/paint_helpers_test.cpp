@@ -145,6 +145,22 @@ TEST(UpdateStorage, WithoutPairsEveryItemIsToBePaintedAsEver)
     EXPECT_EQ(static_cast<int>(storage.GetItemType(5)), 2);
 }
 
+TEST(UpdateStorage, ThousandsOfPairsThatNobodyPaintsBecomeOneThatCoversThem)
+{
+    CUpdateStorage storage;
+    for (int i = 1; i <= 4096; ++i)
+        storage.UpdateItems(10 * i, 10 * i + 1);
+    EXPECT_EQ(storage.GetItemType(25), IDirtyItemSet::dirtyOther);
+
+    storage.UpdateItems(0, 0);
+
+    EXPECT_EQ(storage.GetItemType(25), IDirtyItemSet::dirtyItem);
+    EXPECT_EQ(storage.GetItemType(40961), IDirtyItemSet::dirtyItem);
+    EXPECT_EQ(storage.GetItemType(0), IDirtyItemSet::dirtyItem);
+    EXPECT_EQ(storage.GetItemType(9), IDirtyItemSet::dirtyOther);
+    EXPECT_EQ(storage.GetItemType(40962), IDirtyItemSet::dirtyOther);
+}
+
 TEST(UpdateStorage, AnItemIsDirtyIfAPairHoldsItBothEndsIncluded)
 {
     CUpdateStorage storage;

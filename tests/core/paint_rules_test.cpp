@@ -209,6 +209,25 @@ TEST_F(PaintRules, SiblingsAndStrangersInOneUpdateAreEachDrawnAtTheirOwnPlace)
     EXPECT_EQ(m_Host.PixelAt(32, 0), color_table[9]);
 }
 
+// The element covers the pixels 10 to 15 of each axis; a clip of the painter has its right and bottom outside.
+TEST_F(DrawingLists, AnElementThatNoPixelOfIsInThePaintersClipIsSkipped)
+{
+    m_Element.SetPos({10, 10, 15, 15}, false);
+    struct SCase
+    {
+        rectangle<double> clip;
+        bool drawn;
+    };
+    for (SCase const& c : {SCase{{0, 0, 10, 50}, false}, SCase{{0, 0, 11, 50}, true}, SCase{{15, 0, 50, 50}, true},
+                           SCase{{16, 0, 50, 50}, false}, SCase{{0, 0, 50, 10}, false}, SCase{{0, 0, 50, 11}, true},
+                           SCase{{0, 15, 50, 50}, true}, SCase{{0, 16, 50, 50}, false}, SCase{{}, true}})
+    {
+        m_Painter.SimpleSetClipRect(c.clip, false);
+        EXPECT_EQ(IsDrawn({}), c.drawn) << c.clip.left << " " << c.clip.top << " " << c.clip.right << " "
+                                        << c.clip.bottom;
+    }
+}
+
 TEST_F(DrawingLists, AnElementThatTouchesTheClipWithOneEdgeOnlyIsPassedOver)
 {
     m_Element.SetPos({10, 10, 20, 20}, false);

@@ -1,5 +1,7 @@
 // Boxes and scrolled elements painted bit by bit look as if painted at once: played with random trees.
 
+#include "tests/support/game.h"
+#include "tests/support/leaf.h"
 #include "vexel/core/base_control.h"
 #include "vexel/layout/box.h"
 #include "vexel/testing/test_kit.h"
@@ -7,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <deque>
 #include <utility>
 
 using namespace vexel;
@@ -15,26 +16,6 @@ using namespace vexel::test;
 
 namespace
 {
-
-// A coloured area with a frame and a diagonal, so that no part of it looks like another.
-class CLeaf : public CVisualElement
-{
-public:
-    CLeaf(CVisualElement* parent, size<int> const& extent, Alignment alignment, int look)
-        : CVisualElement(parent, extent, alignment)
-    {
-        SetBkColor(color_table[9 + look % 18]);
-    }
-
-protected:
-    void DrawContent(IPainter* painter) override
-    {
-        rectangle<int> const rect = GetBounds();
-        painter->Rectangle(0, 0, rect.right, rect.bottom);
-        painter->MoveTo(0, 0);
-        painter->LineTo(rect.right, rect.bottom);
-    }
-};
 
 // Hears what is laid out below it.
 class CView : public CLeaf
@@ -76,7 +57,7 @@ public:
     void Step()
     {
         m_All.clear();
-        Collect(m_Top);
+        Collect(m_Top, m_All);
         switch (m_Random.Int(0, 9))
         {
         case 0:
@@ -104,7 +85,7 @@ public:
             {
                 CVisualElement* const element = m_Random.Pick(m_All);
                 element->SetSize({m_Random.Int(1, 40), m_Random.Int(1, 30)}, false);
-                Note("size", element);
+                m_Log.Note("size", element);
             }
             break;
         }
@@ -126,7 +107,7 @@ public:
                 m_Top->SetPos({pos.left, pos.top, pos.left + width, pos.top + height}, true);
                 continue;
             }
-            CVisualElement* const misplaced = FindMisplaced(m_Top);
+            CVisualElement* const misplaced = FindShown(m_Top, SticksOut);
             if (misplaced)
                 Drop(misplaced);
             else if (point<int> const aside = FindTouching(); aside == point<int>{0, 0})
@@ -136,33 +117,9 @@ public:
         }
     }
 
-    std::string History() const
-    {
-        std::string text;
-        for (std::string const& note : m_Notes)
-            text += note + "\n";
-        return text + DescribeTree(m_Top, "");
-    }
+    std::string History() const { return m_Log.Text() + DescribeTree(m_Top); }
 
 private:
-    static std::string DescribeTree(CVisualElement* element, std::string const& indent)
-    {
-        std::string text = indent + ElementName(element) + " at " + Describe(element->GetPos()) + ", asks for " +
-                           Describe(element->GetSize()) + ", dock " + std::to_string(element->GetAlignment()) +
-                           (element->IsVisible() ? "" : ", hidden") + (element->IsTransparent() ? ", glass" : "") +
-                           "\n";
-        for (int i = 0; i < element->GetChildren()->GetCount(); ++i)
-            text += DescribeTree(element->GetChildren()->GetItem(i), indent + "  ");
-        return text;
-    }
-    void Collect(CVisualElement* element)
-    {
-        for (int i = 0; i < element->GetChildren()->GetCount(); ++i)
-        {
-            m_All.push_back(element->GetChildren()->GetItem(i));
-            Collect(m_All.back());
-        }
-    }
     CVisualElement* PickParent()
     {
         for (int attempt = 0; attempt < 3 && !m_All.empty(); ++attempt)
@@ -188,14 +145,14 @@ private:
             element = new CLeaf(parent, extent, alignment, m_Random.Int(0, 17));
             break;
         }
-        Note("add", element);
+        m_Log.Note("add", element);
     }
     void Remove()
     {
         if (m_All.empty())
             return;
         CVisualElement* const element = m_Random.Pick(m_All);
-        Note("remove", element);
+        m_Log.Note("remove", element);
         Drop(element);
     }
     void Drop(CVisualElement* element)
@@ -216,21 +173,21 @@ private:
         {
         case 0:
             element->SetVisible(!element->IsVisible());
-            Note(element->IsVisible() ? "show" : "hide", element);
+            m_Log.Note(element->IsVisible() ? "show" : "hide", element);
             break;
         case 1:
             element->SetAlignment(static_cast<Alignment>(m_Random.Int(alLeft, alBottom)));
-            Note("dock", element);
+            m_Log.Note("dock", element);
             break;
         case 2:
             element->SetBkColor(color_table[m_Random.Int(9, 27)]);
-            Note("colour", element);
+            m_Log.Note("colour", element);
             break;
         default:
             element->GetParent()->GetChildren()->MoveItem(0, element->GetParent()->GetChildren()->GetCount());
             element->OnRearrange(element);
             element->GetParent()->Update(utElement);
-            Note("order", element);
+            m_Log.Note("order", element);
             break;
         }
     }
@@ -242,18 +199,18 @@ private:
         {
         case 0:
             scrolled->SetTransparent(!scrolled->IsTransparent());
-            Note("glass", element);
+            m_Log.Note("glass", element);
             break;
         case 1:
             scrolled->SetBkColor(color_table[m_Random.Int(9, 27)]);
-            Note("colour", element);
+            m_Log.Note("colour", element);
             break;
         default:
             if (auto* const vert = dynamic_cast<CVertBox*>(element))
                 vert->SetBottomPadSize(m_Random.Int(0, 12));
             else if (auto* const horz = dynamic_cast<CHorzBox*>(element))
                 horz->SetRightPadSize(m_Random.Int(0, 12));
-            Note("pad", element);
+            m_Log.Note("pad", element);
             break;
         }
     }
@@ -265,7 +222,7 @@ private:
         int const key = m_Random.Int(33, 40);
         int const keys = m_Random.Bool() ? ksControl : 0;
         m_Host.Keyboard().Press(key, keys);
-        Note("key " + std::to_string(key) + (keys ? " with control" : ""), m_Top);
+        m_Log.Note("key " + std::to_string(key) + (keys ? " with control" : ""), m_Top);
     }
     // By code the owner of one of alNone repaints what it uncovers.
     void Jump()
@@ -274,23 +231,7 @@ private:
             return;
         m_Random.Bool() ? m_Top->JumpVert(m_Random.Int(-40, 40)) : m_Top->JumpHorz(m_Random.Int(-40, 40));
         m_View->Update(utElement);
-        Note("jump", m_Top);
-    }
-    CVisualElement* FindMisplaced(CVisualElement* element)
-    {
-        rectangle<int> const bounds = element->GetBounds();
-        for (int i = 0; i < element->GetChildren()->GetCount(); ++i)
-        {
-            CVisualElement* const child = element->GetChildren()->GetItem(i);
-            if (!child->IsVisible())
-                continue;
-            rectangle<int> const& pos = child->GetPos();
-            if (pos.left < 0 || pos.top < 0 || pos.right > bounds.right || pos.bottom > bounds.bottom || pos.IsEmpty())
-                return child;
-            if (CVisualElement* const found = FindMisplaced(child))
-                return found;
-        }
-        return nullptr;
+        m_Log.Note("jump", m_Top);
     }
     // A child that touches the view's edge by a single line is painted by its own repaint alone. The way out of it.
     point<int> FindTouching() const
@@ -314,20 +255,12 @@ private:
         m_Top->SetPos(pos, false);
         m_View->Update(utElement);
     }
-    void Note(std::string const& what, CVisualElement* element)
-    {
-        m_Notes.push_back(what + " " + ElementName(element) + " at " + Describe(element->GetPos()) + ", dock " +
-                          std::to_string(element->GetAlignment()));
-        if (m_Notes.size() > 20)
-            m_Notes.pop_front();
-    }
-
     CTestHost& m_Host;
     CTestRandom& m_Random;
     CView* m_View = nullptr;
     CScrolled* m_Top = nullptr;
     std::vector<CVisualElement*> m_All;
-    std::deque<std::string> m_Notes;
+    CGameLog m_Log;
 };
 
 class IncrementalBoxes : public testing::TestWithParam<double>

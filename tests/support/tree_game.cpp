@@ -352,7 +352,7 @@ void CTreeGame::Add()
     }
     if (!IsStrips(node))
         PlaceByParent(node);
-    Note("add " + NameOf(node) + " to " + NameOf(parent));
+    m_Log.Note("add " + NameOf(node) + " to " + NameOf(parent));
 }
 
 void CTreeGame::Remove()
@@ -360,7 +360,7 @@ void CTreeGame::Remove()
     CNode* const node = Pick();
     if (!node)
         return;
-    Note("remove " + NameOf(node));
+    m_Log.Note("remove " + NameOf(node));
     CVisualElement* const parent = node->GetParent();
     if (m_Random.Bool())
         node->ReParent(nullptr, true);
@@ -380,7 +380,7 @@ void CTreeGame::Move()
     case 1:
     {
         size<int> const extent{m_Random.Int(1, 40), m_Random.Int(1, 30)};
-        Note("size " + NameOf(node) + " " + std::to_string(extent.width) + " " + std::to_string(extent.height));
+        m_Log.Note("size " + NameOf(node) + " " + std::to_string(extent.width) + " " + std::to_string(extent.height));
         node->SetSize(extent, false);
         break;
     }
@@ -389,13 +389,13 @@ void CTreeGame::Move()
         auto const alignment = static_cast<Alignment>(m_Random.Int(alLeft, IsStrips(node) ? alBottom : alClient));
         if (IsFree(node))
             break;
-        Note("dock " + NameOf(node) + " " + std::to_string(alignment));
+        m_Log.Note("dock " + NameOf(node) + " " + std::to_string(alignment));
         node->SetAlignment(alignment);
         break;
     }
     case 3:
     {
-        Note((node->IsVisible() ? "hide " : "show ") + NameOf(node));
+        m_Log.Note((node->IsVisible() ? "hide " : "show ") + NameOf(node));
         node->SetVisible(!node->IsVisible());
         if (IsFree(node))
             node->GetParent()->Update(utElement);
@@ -406,7 +406,7 @@ void CTreeGame::Move()
         CVisualElement* const parent = PickParent();
         if (IsStrips(node) || IsAncestor(parent, node) || parent == node->GetParent())
             return;
-        Note("move " + NameOf(node) + " to " + NameOf(parent));
+        m_Log.Note("move " + NameOf(node) + " to " + NameOf(parent));
         CVisualElement* const old = node->GetParent();
         node->ReParent(parent, true);
         old->Update(utElement);
@@ -420,7 +420,7 @@ void CTreeGame::Move()
         // The first of the bare one stays the first.
         int const first = IsStrips(node) ? 1 : 0;
         int const to = m_Random.Int(first, children->GetCount() - 1);
-        Note("order " + NameOf(node) + " to " + std::to_string(to));
+        m_Log.Note("order " + NameOf(node) + " to " + std::to_string(to));
         children->MoveItem(from, to);
         node->OnRearrange(node);
         node->GetParent()->Update(utElement);
@@ -430,7 +430,7 @@ void CTreeGame::Move()
         if (IsFree(node))
         {
             PlaceByParent(node);
-            Note("place " + NameOf(node));
+            m_Log.Note("place " + NameOf(node));
         }
         break;
     }
@@ -445,15 +445,15 @@ void CTreeGame::Change()
     {
     case 0:
         node->SetBkColor(color_table[m_Random.Int(9, 27)]);
-        Note("colour " + NameOf(node));
+        m_Log.Note("colour " + NameOf(node));
         break;
     case 1:
         node->SetFgColor(color_table[m_Random.Int(1, 8)]);
-        Note("foreground " + NameOf(node));
+        m_Log.Note("foreground " + NameOf(node));
         break;
     case 2:
         node->SetEnabled(!node->IsEnabled());
-        Note("enable " + NameOf(node));
+        m_Log.Note("enable " + NameOf(node));
         break;
     case 3:
     {
@@ -461,23 +461,23 @@ void CTreeGame::Change()
         changed.size = m_Random.Int(0, 1) ? m_Random.Int(5, 12) : 0;
         changed.style = m_Random.Int(0, 3);
         node->SetFont(changed);
-        Note("font " + NameOf(node));
+        m_Log.Note("font " + NameOf(node));
         break;
     }
     case 4:
         node->Update(utElement);
-        Note("update " + NameOf(node));
+        m_Log.Note("update " + NameOf(node));
         break;
     case 5:
         m_Control.LockRearrange(true);
         node->SetWidth(m_Random.Int(1, 40), false);
         Move();
         m_Control.LockRearrange(false);
-        Note("locked width " + NameOf(node));
+        m_Log.Note("locked width " + NameOf(node));
         break;
     case 6:
         node->ForceRearrange();
-        Note("force");
+        m_Log.Note("force");
         break;
     case 7:
         if (m_Random.Chance(10))
@@ -491,7 +491,7 @@ void CTreeGame::Change()
             int const dx = m_Random.Int(-12, 12);
             int const dy = m_Random.Int(-12, 12);
             each->ScrollBy(dx, dy);
-            Note("scroll " + NameOf(each) + " by " + std::to_string(dx) + " " + std::to_string(dy));
+            m_Log.Note("scroll " + NameOf(each) + " by " + std::to_string(dx) + " " + std::to_string(dy));
             break;
         }
         break;
@@ -509,7 +509,7 @@ void CTreeGame::UserEvent()
         m_Pointer = {m_Random.Int(0, std::max(0, rect.right - 1)), m_Random.Int(0, std::max(0, rect.bottom - 1))};
         CMouseEvent event(m_Pointer.x, m_Pointer.y, m_Held, m_Held ? mbLeft : mbNone);
         m_Control.OnMouseMove(&event);
-        Note("pointer " + std::to_string(m_Pointer.x) + " " + std::to_string(m_Pointer.y));
+        m_Log.Note("pointer " + std::to_string(m_Pointer.x) + " " + std::to_string(m_Pointer.y));
         break;
     }
     case 2:
@@ -521,21 +521,21 @@ void CTreeGame::UserEvent()
             m_Control.OnButtonDown(&event);
         else
             m_Control.OnButtonUp(&event);
-        Note(m_Held ? "press" : "release");
+        m_Log.Note(m_Held ? "press" : "release");
         break;
     }
     case 4:
     {
         CKeyboardEvent event(m_Random.Bool() ? ksShift : 0, vkTab);
         m_Control.OnKeyDown(&event);
-        Note("tab");
+        m_Log.Note("tab");
         break;
     }
     default:
     {
         CMouseEvent event(m_Pointer.x, m_Pointer.y, m_Held, mbNone);
         m_Control.OnLeave(&event);
-        Note("leave");
+        m_Log.Note("leave");
         break;
     }
     }
@@ -545,7 +545,7 @@ void CTreeGame::UserEvent()
 void CTreeGame::ResizeWindow()
 {
     m_Control.Rearrange();
-    Note("rearrange");
+    m_Log.Note("rearrange");
 }
 
 // Painting --------------------------------------------------------------------------------------------------------------
@@ -584,7 +584,7 @@ void CTreeGame::Paint()
         CVisualElement* const misplaced = FindMisplaced(m_Control.GetContent());
         if (!misplaced)
             break;
-        Note("no room for " + NameOf(misplaced));
+        m_Log.Note("no room for " + NameOf(misplaced));
         CVisualElement* const parent = misplaced->GetParent();
         misplaced->ReParent(nullptr, true);
         delete misplaced;
@@ -621,19 +621,11 @@ std::string CTreeGame::CompareWithFullPaint()
     text << ", " << differing << " pixels in all, after step " << m_Steps << "\n"
          << "dragged " << NameOf(m_Control.GetControl()->GetDraggedElement()) << "\n"
          << DescribeTree(m_Control.GetContent(), 0) << "last steps:\n";
-    for (std::string const& note : m_Notes)
-        text << "  " << note << "\n";
+    text << m_Log.Text();
     return text.str();
 }
 
 // Telling ---------------------------------------------------------------------------------------------------------------
-
-void CTreeGame::Note(std::string const& text)
-{
-    m_Notes.push_back(text);
-    if (m_Notes.size() > 24)
-        m_Notes.pop_front();
-}
 
 std::string CTreeGame::NameOf(CVisualElement const* element) const
 {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "tests/support/game.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/visual_element.h"
 #include "vexel/platform/base_window.h"
 #include "vexel/testing/random.h"
 
-#include <deque>
 #include <string>
 #include <vector>
 
@@ -51,7 +51,6 @@ private:
     static bool IsStrips(CNode const* node);
     static bool IsFree(CNode const* node);
     CVisualElement* FindMisplaced(CVisualElement* element);
-    void Note(std::string const& text);
     std::string DescribeTree(CVisualElement* element, int depth) const;
     std::string NameOf(CVisualElement const* element) const;
 
@@ -61,7 +60,7 @@ private:
     CVisualElement* m_Bare = nullptr;
     CVisualElement* m_Base = nullptr;
     std::vector<CNode*> m_All;
-    std::deque<std::string> m_Notes;
+    CGameLog m_Log{24};
     vexelbase::point<int> m_Pointer;
     int m_Held = 0;
     int m_Steps = 0;

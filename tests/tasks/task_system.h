@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/scripted_system.h"
+#include "tests/support/text_log.h"
 #include "vexel/platform/events.h"
 #include "vexel/signals/notify.h"
 #include "vexel/tasks/gui_task.h"
@@ -15,16 +16,7 @@ namespace tasks_test
 
 using namespace vexel;
 
-/// What was done, parted by blanks.
-class CLog
-{
-public:
-    void Add(std::string const& entry) { m_Text += (m_Text.empty() ? "" : " ") + entry; }
-    std::string Take() { return std::exchange(m_Text, {}); }
-
-private:
-    std::string m_Text;
-};
+using CLog = vexel::test::CTextLog;
 
 /// A timer that ticks when the test says so, and writes down what is done to it.
 class CLoggedTimer : public CImplEventSender<ISysTimer>

@@ -14,6 +14,26 @@ using namespace vexel;
 namespace
 {
 
+class CTenEqualItems : public CEqualItemsViewModel
+{
+public:
+    CTenEqualItems()
+    {
+        SetItemSizeBounds(10, 50);
+        SetCount(10);
+    }
+};
+
+class CTenItems : public CNonEqualItemsViewModel
+{
+public:
+    CTenItems()
+    {
+        SetDefaultItemSize(20);
+        SetCount(10);
+    }
+};
+
 TEST(EqualItems, FillTheViewWithinTheirBounds)
 {
     CEqualItemsViewModel model;
@@ -85,9 +105,7 @@ TEST(EqualItems, LookForTheBottomEdgeAsIfASizeOfZeroWereOne)
 
 TEST(EqualItems, ScrollBackSoFarAsToFillTheView)
 {
-    CEqualItemsViewModel model;
-    model.SetItemSizeBounds(10, 50);
-    model.SetCount(10);
+    CTenEqualItems model;
     model.SetStartItem(9);
     model.SetViewSize(30, false);  // three of 10
     EXPECT_EQ(model.GetStartItem(), 7);
@@ -96,9 +114,7 @@ TEST(EqualItems, ScrollBackSoFarAsToFillTheView)
 
 TEST(EqualItems, KeepTheAnchorInView)
 {
-    CEqualItemsViewModel model;
-    model.SetItemSizeBounds(10, 50);
-    model.SetCount(10);
+    CTenEqualItems model;
     model.SetAnchorItem(6);
     model.SetViewSize(30, false);
     EXPECT_EQ(model.GetStartItem(), 4);  // 4, 5, 6
@@ -116,9 +132,7 @@ TEST(EqualItems, KeepTheAnchorInView)
 TEST(EqualItems, TakeTheCurrentItemOfTheAnchorModelIfNoItemIsFixed)
 {
     CDefaultSelectionModel selection;
-    CEqualItemsViewModel model;
-    model.SetItemSizeBounds(10, 50);
-    model.SetCount(10);
+    CTenEqualItems model;
     model.SetAnchorModel(&selection);
     EXPECT_EQ(model.GetAnchorModel(), &selection);
     model.SetViewSize(30, false);
@@ -133,9 +147,7 @@ TEST(EqualItems, TakeTheCurrentItemOfTheAnchorModelIfNoItemIsFixed)
 
 TEST(EqualItems, TellTheirSizeAfterTheirStart)
 {
-    CEqualItemsViewModel model;
-    model.SetItemSizeBounds(10, 50);
-    model.SetCount(10);
+    CTenEqualItems model;
     model.SetViewSize(30, false);
     model.OnEndDraw();
     CModelLog const log(model);
@@ -184,9 +196,7 @@ TEST(EqualItems, ScrollingBackMarksTheRowCutByTheBottomEdge)
 
 TEST(NonEqualItems, KeepTheAnchorInView)
 {
-    CNonEqualItemsViewModel model;
-    model.SetDefaultItemSize(20);
-    model.SetCount(10);
+    CTenItems model;
     model.SetAnchorItem(8);
     model.SetViewSize(110, false);
     EXPECT_EQ(model.GetStartItem(), 4);  // 8 and above it four rows, 80 pixels; a fifth would leave 10
@@ -215,9 +225,7 @@ TEST(NonEqualItems, TakeTheCurrentItemOfTheAnchorModel)
 
 TEST(NonEqualItems, HaveSizesOfTheirOwn)
 {
-    CNonEqualItemsViewModel model;
-    model.SetDefaultItemSize(20);
-    model.SetCount(10);
+    CTenItems model;
     model.SetItemSize(7, 70);
     model.SetAnchorItem(8);
     model.SetViewSize(110, false);
@@ -239,9 +247,7 @@ TEST(NonEqualItems, DoNothingForTheSameCountOrView)
 
 TEST(NonEqualItems, ANewViewMarksTheItemsAtTheBottomEdge)
 {
-    CNonEqualItemsViewModel model;
-    model.SetDefaultItemSize(20);
-    model.SetCount(10);
+    CTenItems model;
     model.SetViewSize(110, false);
     model.OnEndDraw();
     model.SetViewSize(90, false);  // 0 to 3 fit
@@ -253,9 +259,7 @@ TEST(NonEqualItems, ANewViewMarksTheItemsAtTheBottomEdge)
 
 TEST(NonEqualItems, ScrollingBackMarksTheItemsAtTheBottomEdge)
 {
-    CNonEqualItemsViewModel model;
-    model.SetDefaultItemSize(20);
-    model.SetCount(10);
+    CTenItems model;
     model.SetViewSize(110, false);
     model.SetStartItem(3);
     model.OnEndDraw();

@@ -2,6 +2,7 @@
 
 #include "tests/support/virtual_order.h"
 #include "vexel/views/continuous_item_view_model.h"
+#include "vexel/views/grid_viewer.h"
 #include "vexel/views/item_scroll_model.h"
 #include "vexel/views/selection_model.h"
 
@@ -46,6 +47,42 @@ TEST(ViewsVirtualOrder, OfSelectionModels)
         }
     };
     SOpen::Check();
+}
+
+TEST(ViewsVirtualOrder, OfEventHandlers)
+{
+    ExpectOrder(2, &CEventHandler::ProcessMouseMove, &CEventHandler::ProcessButtonDown, &CEventHandler::ProcessButtonUp,
+                &CEventHandler::ProcessClick, &CEventHandler::ProcessDoubleClick, &CEventHandler::ProcessMouseHover,
+                &CEventHandler::ProcessMouseLeave, &CEventHandler::ProcessKeyDown, &CEventHandler::ProcessKeyUp,
+                &CEventHandler::ProcessChar, &CEventHandler::ProcessOnTooltip, &CEventHandler::ProcessOnTooltipTrack,
+                &CEventHandler::ProcessContextMenu, &CEventHandler::ProcessDragOver, &CEventHandler::ProcessDragDrop,
+                &CEventHandler::ProcessGetFocus, &CEventHandler::ProcessLostFocus, &CEventHandler::ProcessDraw,
+                &CEventHandler::ProcessResize, &CEventHandler::ProcessScroll);
+    ExpectOrder(22, &CEventHandlerBase::GetItemViewModel, &CEventHandlerBase::GetItemSelectionModel,
+                &CEventHandlerBase::GetItemIndex);
+}
+
+TEST(ViewsVirtualOrder, OfPainters)
+{
+    ExpectOrder(2, &IItemPainter::DrawItem, &IItemPainter::DrawEmptyArea);
+    ExpectOrder(4, &IRowPainter::DrawRow, &IRowPainter::DrawRowEmptyArea);
+    ExpectOrder(4, &IColumnPainter::DrawColumn, &IColumnPainter::DrawColumnEmptyArea);
+    ExpectOrder(2, &ICellPainter::DrawCell);
+}
+
+TEST(ViewsVirtualOrder, OfViewers)
+{
+    using Rows = CRowViewerBase<IDiscreteItemViewModel>;
+    using Grid = CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>;
+    std::size_t const first = Place(&CCentralPart::FillCoordInfo) + 1;
+    ExpectOrder(first, &CViewerBase::ProcessEndDraw);
+    ExpectOrder(first + 1, &Rows::CalculateDefaultRowHeight, &Rows::GetRowMargin, &Rows::DrawRow,
+                &Rows::DrawRowEmptyArea, &Rows::RowViewModelChanged, &Rows::RowSelectionModelChanged,
+                &Rows::SelectionTypeChanged, &Rows::CurrentRowChanged);
+    std::size_t const columns = Place(&Grid::DrawColumn);
+    EXPECT_GT(columns, Place(&Rows::CurrentRowChanged));
+    ExpectOrder(columns, &Grid::DrawColumn, &Grid::DrawColumnEmptyArea, &Grid::ColumnViewModelChanged,
+                &Grid::ColumnSelectionModelChanged, &Grid::CurrentColumnChanged);
 }
 
 }  // namespace

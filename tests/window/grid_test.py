@@ -9,7 +9,7 @@ from display import Display, Program, eventually
 
 programs = pathlib.Path(sys.argv[1])
 
-# Places on the page at scale 1: the grid begins at (215, 113), rows are 21 high, the first columns 90 and 110 wide.
+# Places on the page at scale 1: the grid begins at (211, 113), rows are 21 high, the first columns 90 and 110 wide.
 COLUMN = 340
 HIGHLIGHT, WINDOW, TINT = (48, 140, 198), (255, 255, 255), (242, 247, 251)
 LAST = 2147483646
@@ -111,8 +111,8 @@ def check_bar(page):
 
 def check_columns(page):
     # The divider behind the second column, which the pointer arms by coming over it.
-    page.display.move(page.window, 414, 100)
-    assert page.after(page.drag((414, 100), (454, 100)), "resized")[0] == 1
+    page.display.move(page.window, 410, 100)
+    assert page.after(page.drag((410, 100), (450, 100)), "resized")[0] == 1
     widths = [int(line.rstrip(")").split(", ")[1]) for line in page.program.output() if line.startswith("signal resized(")]
     assert widths == sorted(widths) and widths[-1] in range(145, 152), widths
     assert page.after(lambda: page.display.click(page.window, 250, 100), "clicked") == [0]

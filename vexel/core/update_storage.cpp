@@ -5,8 +5,23 @@
 namespace vexel
 {
 
+namespace
+{
+
+// A view that is never painted, since it is hidden, goes on collecting.
+constexpr std::size_t s_MostPairs = 4096;
+
+}  // namespace
+
 void CUpdateStorage::UpdateItems(int a, int b)
 {
+    if (m_Items.size() >= s_MostPairs)
+    {
+        std::pair<int, int> all = m_Items.front();
+        for (auto const& [first, last] : m_Items)
+            all = {std::min(all.first, first), std::max(all.second, last)};
+        m_Items.assign(1, all);
+    }
     m_Items.emplace_back(std::min(a, b), std::max(a, b));
 }
 

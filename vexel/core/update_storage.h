@@ -10,7 +10,8 @@
 namespace vexel
 {
 
-/// Dirty items as a plain row of inclusive pairs, in the order they came, without merging.
+/// Dirty items as a plain row of inclusive pairs, in the order they came, without merging. Where nobody paints, some
+/// thousands of them become one that covers them all.
 class VEXEL_API CUpdateStorage : public IDirtyItemSet
 {
 public:

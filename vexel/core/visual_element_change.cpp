@@ -132,14 +132,21 @@ void CVisualElement::RefreshPos()
 void CVisualElement::Scroll(int dx, int dy, bool repaint)
 {
     CAliveGuard const alive(this);
+    rectangle<int> const before = m_ValidRect;
+    bool const whole = repaint;
     repaint = ScrollContent(dx, dy) || repaint;
     if (!alive)
         return;
     if (repaint)
     {
+        // One that has moved its own pixels has narrowed what stands to them: only the rest is to be painted.
+        rectangle<int> const pos = m_Pos;
+        rectangle<int> const after = m_ValidRect;
         OnChange(this, utElement);
         if (!alive)
             return;
+        if (!whole && after != before && m_Pos == pos)
+            m_ValidRect = after;
     }
     int const count = m_Children.GetCount();
     for (int i = 0; i < count && i < m_Children.GetCount(); ++i)

@@ -51,6 +51,17 @@ bool IsOutside(rectangle<int> const& pos, rectangle<int> const& clip)
            clip.bottom <= pos.top;
 }
 
+// Of an element (right and bottom included) and the painter's clip: device pixels, all zero for none.
+bool IsClippedAway(IPainter::CoordInfo const& info, rectangle<double> const& clip)
+{
+    if (clip.IsZero())
+        return false;
+    point<int> const& origin = info.m_DeviceOrigin;
+    return origin.x >= clip.right || origin.y >= clip.bottom ||
+           static_cast<double>(origin.x) + info.m_DeviceExtent.width < clip.left ||
+           static_cast<double>(origin.y) + info.m_DeviceExtent.height < clip.top;
+}
+
 bool IsInside(rectangle<int> const& inner, rectangle<int> const& outer)
 {
     return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
@@ -107,6 +118,7 @@ void DrawElements(IVisualElements* list, IPainter* painter, rectangle<int> const
     CAlivePtr<IPainter> const surface(painter);
     IPainter::CoordInfo info;
     bool const clipped = !clip.IsZero();
+    rectangle<double> const painted = painter->GetClipRect();
     CVisualElement const* lastParent = nullptr;
     point<int> origin;
 
@@ -130,6 +142,8 @@ void DrawElements(IVisualElements* list, IPainter* painter, rectangle<int> const
         info.m_DeviceExtent = {SubtractSaturated(pos.right, pos.left), SubtractSaturated(pos.bottom, pos.top)};
         info.m_LogicalExtent = {static_cast<double>(info.m_DeviceExtent.width),
                                 static_cast<double>(info.m_DeviceExtent.height)};
+        if (IsClippedAway(info, painted))
+            continue;
         painter->SetCoordSystem(IPainter::mmCustom, &info);
         CVisualElement::s_DrawnWithParent = lastParent && list == &lastParent->m_Children;
         element->OnDraw(painter);

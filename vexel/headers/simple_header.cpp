@@ -84,8 +84,18 @@ void CSimpleHeader::ViewModelDies(IBaseItemsModel*)
     OnUpdateModel();
 }
 
+// Sections that are gone are asked for nothing any more.
 void CSimpleHeader::OnUpdateModel()
 {
+    int const count = GetSectionCount();
+    if (m_HotSection >= count)
+        m_HotSection = -1;
+    if (m_ActiveSection >= count)
+    {
+        m_ActiveSection = -1;
+        if (m_State != stDragging)  // which the control ends
+            m_State = stIdle;
+    }
     OnChange(this, utElement);
 }
 
@@ -238,10 +248,8 @@ public:
         rectangle<double> const strip = header.GetOwnHeaderRect();
         m_Left = m_Position = header.GetAlong(strip.left, strip.top);
         m_Right = header.GetAlong(strip.right, strip.bottom);
-        int offset = -1;
+        int offset = 0;
         header.CalcFirstSection(&m_Section, &offset);
-        if (offset < 0)
-            m_Section = -1;
         m_Position -= offset;
     }
 

@@ -147,6 +147,7 @@ private:
     void SetHotSection(int section, bool allowed);
     void ResizeTo(int position, int x, int y, int keys);
     void ScrollWhileDragging(point<int> const& position);
+    void DrawEdge(IPainter* painter, rectangle<double> rect);
     void DrawSortMark(IPainter* painter, rectangle<double> const& section, rectangle<int> const& label, int direction);
     void ModelDies(IItemsModel* model);
     void ViewModelDies(IBaseItemsModel* model);

@@ -34,9 +34,13 @@ bool CSimpleHeader::HandleMouseMove(int x, int y, int keys, MouseButton button)
     if (m_State != stIdle && button != mbLeft)
     {
         // The release went elsewhere.
-        if (m_State == stPressed)
-            m_State = stIdle;
         CAliveGuard const alive(this);
+        if (m_State == stPressed)
+        {
+            m_State = stIdle;
+            OnChange(this, utElement);
+            alive.Check();
+        }
         HandleButtonUp(x, y, keys, mbLeft);
         alive.Check();
     }

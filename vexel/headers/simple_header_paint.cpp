@@ -23,7 +23,7 @@ constexpr double s_LabelSpace = 3.0;
 constexpr int s_TextInset = 4;  // pixels at any scale, as all below
 constexpr int s_DragAlpha = 70;
 constexpr int s_NativeOverhang = 10;
-constexpr int s_PointerWidth = 12;
+constexpr int s_PointerHalf = 6;
 constexpr int s_PointerHeight = 6;
 _color const g_PointerColor{0xFF0000FF};
 
@@ -86,10 +86,10 @@ void CSimpleHeader::DrawContent(IPainter* painter)
     point<double> position = MakePoint(GetAlong(strip.left, strip.top), 0);
 
     int first = -1;
-    int offset = -1;
+    int offset = 0;
     CalcFirstSection(&first, &offset);
     int const count = GetSectionCount();
-    if (first >= 0 && offset >= 0)
+    if (first >= 0)
     {
         IncAlong(&position, -offset);
         font const before = painter->GetFont();
@@ -145,11 +145,7 @@ void CSimpleHeader::DrawSectionRect(IPainter* painter, rectangle<double> const& 
     }
     else
     {
-        bool const flat = (m_Style & hsFlat) != 0;
-        rectangle<double> edge = rect;
-        if (flat)
-            edge.left -= 1;
-        DrawBorder(painter, edge, bsBox, flat ? bsFlat : bsRaised, false);
+        DrawEdge(painter, rect);
     }
 
     double const scale = GetSystemScale();
@@ -171,6 +167,15 @@ void CSimpleHeader::DrawSectionRect(IPainter* painter, rectangle<double> const& 
                   GetItemImageIndex(index), this, DefaultDelimiters, nullptr);
     if (direction != 0)
         DrawSortMark(painter, rect, label, direction);
+}
+
+// Flat ones share a line with what stands before them.
+void CSimpleHeader::DrawEdge(IPainter* painter, rectangle<double> rect)
+{
+    bool const flat = (m_Style & hsFlat) != 0;
+    if (flat)
+        GetAlongRef(rect.left, rect.top) -= 1;
+    DrawBorder(painter, rect, bsBox, flat ? bsFlat : bsRaised, false);
 }
 
 // Behind the label, or at the section's end.
@@ -205,8 +210,7 @@ void CSimpleHeader::DrawEmptyArea(IPainter* painter, double left, double top, do
                                     IPainter::esDisabled);
         return;
     }
-    bool const flat = (m_Style & hsFlat) != 0;
-    DrawBorder(painter, {flat ? left - 1 : left, top, right, bottom}, bsBox, flat ? bsFlat : bsRaised, false);
+    DrawEdge(painter, {left, top, right, bottom});
 }
 
 // What is dragged -----------------------------------------------------------------------------------------------------------
@@ -216,7 +220,8 @@ void CSimpleHeader::HandleDrawDragItem(IPainter* painter, DragInfo& info, bool, 
     rectangle<int> rect = info.m_Rect;
     ControlToElement(&rect);
     ISystem* const system = GetCurrentSystem();
-    if (!rect.IsEmpty() && system)
+    bool const isGone = m_State == stDragging && m_ActiveSection < 0;
+    if (!rect.IsEmpty() && system && !isGone)
     {
         int const width = rect.Width();
         int const height = rect.Height();
@@ -225,9 +230,7 @@ void CSimpleHeader::HandleDrawDragItem(IPainter* painter, DragInfo& info, bool, 
         canvas->BeginPaint(IPainter::ssPaint);
         canvas->SetBrush({GetSystemColor(ISysPalette::scFace), brush::bsSolid});
         canvas->FillRect(0, 0, width, height);
-        font turned = GetFont();
-        ConvFont(&turned);
-        canvas->SetFont(turned);
+        canvas->SetFont(GetFont());
         canvas->SetTextColor(GetFgColor());
         DrawSectionRect(
             canvas,
@@ -253,7 +256,7 @@ void CSimpleHeader::DrawDraggingPointer(IPainter* painter, int section)
     double const h = GetAcrossExtent() - 8;
     FillTriangle(
         painter,
-        {MakePoint(a, h), MakePoint(a + s_PointerWidth, h), MakePoint(a + s_PointerWidth / 2, h + s_PointerHeight)},
+        {MakePoint(a, h), MakePoint(a + 2 * s_PointerHalf, h), MakePoint(a + s_PointerHalf, h + s_PointerHeight)},
         g_PointerColor);
 }
 

@@ -39,9 +39,14 @@ void CBaseWindow::SetEventTarget(CVexelControl* target)
     if (target == m_Target)
         return;
     m_Target = target;
-    if (!target || !m_Painter)
-        return;
-    m_Painter->RequestFullPaint();
+    if (target && m_Painter)
+        LoseSurface();
+}
+
+void CBaseWindow::LoseSurface()
+{
+    if (m_Painter)
+        m_Painter->RequestFullPaint();
     rectangle<int> const area = GetRect();
     InvalidateRect(area.left, area.top, area.right, area.bottom);
 }
@@ -112,10 +117,8 @@ void CBaseWindow::ResizeSurface(size<int> const& extent)
     {
         m_Device->GetDamage().Clear();
         m_Device->GetDamage().Add(GetRect());
-        m_Painter->RequestFullPaint();
     }
-    rectangle<int> const area = GetRect();
-    InvalidateRect(area.left, area.top, area.right, area.bottom);
+    LoseSurface();
     CWindowEvent event;
     Deliver(&CVexelControl::OnResize, &event);
 }
@@ -145,6 +148,7 @@ bool CBaseWindow::PaintTarget()
 {
     std::weak_ptr<int> const life = GetLifeToken();
     bool completed = true;
+    BeforePaint();
     int const depth = m_Painter->GetBracketDepth();
     m_InPaint = true;
     try

@@ -38,6 +38,7 @@ public:
     void Post(IRunnable* runnable) override;
 
     CPixelBuffer& GetPixels() { return m_Pixels; }  ///< The surface; the backend's device paints on it.
+    CPixelBuffer const& GetPixels() const { return m_Pixels; }
     CRasterDevice& GetDevice() { return *m_Device; }
     /// A frame was asked for and has not come yet: of a paint, or only of moved pixels that are not shown yet.
     bool IsFramePending() const { return m_FramePending; }
@@ -60,10 +61,13 @@ protected:
     /// From any thread: call RunQueue on the GUI thread after the present event. Called with the queue locked, so that
     /// it never comes after StartDestroying: it must only leave a note, and call neither Post nor RunQueue.
     virtual void WakeQueue() = 0;
-    virtual void AfterPaint() {}  ///< A paint of the control has ended: deferred native moves and shows are due.
+    virtual void BeforePaint() {}  ///< A paint of the control begins.
+    virtual void AfterPaint() {}   ///< A paint of the control has ended: deferred native moves and shows are due.
 
     /// The surface takes a new size, keeping what fits; the next paint is a full one. Then OnResize is delivered.
     void ResizeSurface(size<int> const& extent);
+    /// What the surface held is lost: the next paint is a full one.
+    void LoseSurface();
     /// Runs the control's paint if one is due, then PresentDamage. Does nothing during a paint or while drawing is
     /// locked; the frame is then asked for again, and comes later. A paint that an exception has ended is repeated once, as a full one.
     /// The window may be gone afterwards.

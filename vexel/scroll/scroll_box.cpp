@@ -19,6 +19,14 @@ int GetBarMetric()
     return system ? system->GetSystemMetric(ISystem::smScrollBarWidth) : 0;
 }
 
+// How far a model has gone since, as it must be drawn.
+int GetPixels(IScrollModel* model, double before)
+{
+    CScrollConverter const converter(model);
+    int const distance = FloorToInt(converter.L2P(model->GetStart()) - converter.L2P(before) + 0.5);
+    return model->GetFrom() > model->GetTo() ? SubtractSaturated(0, distance) : distance;
+}
+
 }  // namespace
 
 // The wrapped models ------------------------------------------------------------------------------------------------------
@@ -32,9 +40,11 @@ void CScrollBox::CInternalScrollModel::SetStepSize(double, double) const
 
 void CScrollBox::CInternalScrollModel::SetMeasure(std::pair<double, int> measure)
 {
+    CAliveGuard const alive(m_Owner);
     if (m_Wrapped)
         m_Wrapped->SetMeasure(measure);
-    m_Owner->RefreshScroll();
+    if (alive)
+        m_Owner->RefreshScroll();
 }
 
 std::pair<double, int> CScrollBox::CInternalScrollModel::GetMeasure() const
@@ -84,7 +94,8 @@ CScrollBox::CScrollBox(CVisualElement* parent, size<int> const& extent, Alignmen
 
 CScrollBox::~CScrollBox()
 {
-    SetModelOwner(nullptr);
+    m_VertOwner.Watch(nullptr);
+    m_HorzOwner.Watch(nullptr);
     TakeWrappersBack();
 }
 
@@ -135,6 +146,11 @@ void CScrollBox::CreateScrollbars(IControl* control)
     m_HorzBar = horizontal.get();
     m_VertElement.SetScrollBar(m_VertBar);
     m_HorzElement.SetScrollBar(m_HorzBar);
+    if (!IsEnabled())
+    {
+        m_VertBar->SetEnabled(false);
+        m_HorzBar->SetEnabled(false);
+    }
     m_VertBar->Subscribe(&m_VertElement, typeid(IScrollBarNotify), true);
     m_HorzBar->Subscribe(&m_HorzElement, typeid(IScrollBarNotify), true);
 }
@@ -159,25 +175,77 @@ void CScrollBox::SetCornerAlways(bool always)
     RefreshScroll();
 }
 
+// A range that has come to fit its page goes back to its beginning by itself, past the box: how far it went.
+class CScrollBox::CSnap
+{
+public:
+    CSnap(CScrollBox* box, IScrollModel* model)
+        : m_Box(box), m_Model(model), m_Start(model ? model->GetStart() : 0), m_Moves(box->m_Moves)
+    {}
+
+    int GetDistance(IScrollModel* present) const
+    {
+        if (!m_Model || present != m_Model || m_Box->m_Moves != m_Moves || m_Box->m_InScroll || !m_Box->m_ReportPixels)
+            return 0;
+        ++m_Box->m_Moves;
+        return GetPixels(m_Model, m_Start);
+    }
+
+private:
+    CScrollBox* const m_Box;
+    IScrollModel* const m_Model;
+    double const m_Start;
+    unsigned const m_Moves;
+};
+
+// Whether the vertical bar is needed in a pane that is higher by `more` than it is now. False: the box is gone.
+bool CScrollBox::JudgeVert(int more)
+{
+    CAliveGuard const alive(this);
+    CVisualElement const* const pane = GetCentralPane();
+    if (pane || !GetVertScroll())
+    {
+        CSnap const snap(this, GetVertScroll());
+        m_VertElement.Recalculate(GetVertScroll(), pane ? AddSaturated(pane->GetBounds().bottom, more) : 0);
+        if (int const distance = alive ? snap.GetDistance(GetVertScroll()) : 0)
+            ScrollAll(0, SubtractSaturated(0, distance));
+    }
+    if (alive)
+        m_VertHolder.SetVisible(m_VertElement.IsScrollBarVisible());
+    return static_cast<bool>(alive);
+}
+
+bool CScrollBox::JudgeHorz(int more)
+{
+    CAliveGuard const alive(this);
+    CVisualElement const* const pane = GetCentralPane();
+    if (pane || !GetHorzScroll())
+    {
+        CSnap const snap(this, GetHorzScroll());
+        m_HorzElement.Recalculate(GetHorzScroll(), pane ? AddSaturated(pane->GetBounds().right, more) : 0);
+        if (int const distance = alive ? snap.GetDistance(GetHorzScroll()) : 0)
+            ScrollAll(SubtractSaturated(0, distance), 0);
+    }
+    if (alive)
+        m_HorzHolder.SetVisible(m_HorzElement.IsScrollBarVisible());
+    return static_cast<bool>(alive);
+}
+
 void CScrollBox::RefreshScroll()
 {
     CAliveGuard const alive(this);
     bool const vertBefore = m_VertElement.IsScrollBarVisible();
     bool const horzBefore = m_HorzElement.IsScrollBarVisible();
     // The vertical bar comes first: where it appears it narrows the pane.
-    if (CVisualElement const* const pane = GetCentralPane())
-        m_VertElement.Recalculate(GetVertScroll(), pane->GetBounds().bottom);
-    if (!alive)
+    if (!JudgeVert(0) || !JudgeHorz(0))
         return;
-    m_VertHolder.SetVisible(m_VertElement.IsScrollBarVisible());
-    if (!alive)
+    // Where one bar goes as the other comes, both have been judged with a bar that is there no more, or not yet. The one
+    // that comes is needed only if it is beside the room that the other one leaves; else they would take turns for ever.
+    bool const vertComes = !vertBefore && m_VertElement.IsScrollBarVisible();
+    bool const horzComes = !horzBefore && m_HorzElement.IsScrollBarVisible();
+    if (horzComes && vertBefore && !m_VertElement.IsScrollBarVisible() && !JudgeHorz(m_VertHolder.GetSize().width + 1))
         return;
-    if (CVisualElement const* const pane = GetCentralPane())
-        m_HorzElement.Recalculate(GetHorzScroll(), pane->GetBounds().right);
-    if (!alive)
-        return;
-    m_HorzHolder.SetVisible(m_HorzElement.IsScrollBarVisible());
-    if (!alive)
+    if (vertComes && horzBefore && !m_HorzElement.IsScrollBarVisible() && !JudgeVert(m_HorzHolder.GetSize().height + 1))
         return;
     bool const vertical = m_VertElement.IsScrollBarVisible();
     bool const horizontal = m_HorzElement.IsScrollBarVisible();
@@ -201,7 +269,8 @@ void CScrollBox::SetVertScroll(IScrollModel* model)
 {
     if (model == &m_VertWrapper)
         return;
-    m_OwnerTypes &= ~unsigned{ctVertical};
+    if (!m_VertOwner.get() || m_VertOwner.get()->GetVertScroll() != model)
+        m_VertOwner.Watch(nullptr);
     CScrollableElement::SetVertScroll(model);
     m_VertWrapper.SetWrapped(model);
     RefreshScroll();
@@ -211,7 +280,8 @@ void CScrollBox::SetHorzScroll(IScrollModel* model)
 {
     if (model == &m_HorzWrapper)
         return;
-    m_OwnerTypes &= ~unsigned{ctHorizontal};
+    if (!m_HorzOwner.get() || m_HorzOwner.get()->GetHorzScroll() != model)
+        m_HorzOwner.Watch(nullptr);
     CScrollableElement::SetHorzScroll(model);
     m_HorzWrapper.SetWrapped(model);
     RefreshScroll();
@@ -226,20 +296,24 @@ void CScrollBox::ConnectElement(CScrollableElement* element, ConnectionType type
     KeepConnected(element);
     if (connect)
     {
-        SetModelOwner(element);
         SetCentralPane(element);
         if (!alive || !other)
             return;
         // A wrapped model has no meaning inside of its wrapping: a second connection keeps what is there.
         if ((type & ctHorizontal) && element->GetHorzScroll() != &m_HorzWrapper)
+        {
+            m_HorzOwner.Watch(element);
             SetHorzScroll(element->GetHorzScroll());
-        if (!alive || !other)
-            return;
+            if (!alive || !other)
+                return;
+        }
         if ((type & ctVertical) && element->GetVertScroll() != &m_VertWrapper)
+        {
+            m_VertOwner.Watch(element);
             SetVertScroll(element->GetVertScroll());
-        if (!alive || !other)
-            return;
-        m_OwnerTypes |= static_cast<unsigned>(type);
+            if (!alive || !other)
+                return;
+        }
         if (type & ctVertical)
             element->SetVertScroll(&m_VertWrapper);
         if ((type & ctHorizontal) && other && alive)
@@ -282,28 +356,22 @@ void CScrollBox::TakeWrappersBack()
     }
 }
 
-void CScrollBox::SetModelOwner(CScrollableElement* element)
+void CScrollBox::CModelOwner::Watch(CScrollableElement* element)
 {
-    if (element == m_ModelOwner)
+    if (element == m_Element)
         return;
-    if (m_ModelOwner)
-        m_ModelOwner->m_SigDestroy.disconnect(this, &CScrollBox::ModelOwnerDies);
-    m_ModelOwner = element;
-    m_OwnerTypes = 0;
-    if (m_ModelOwner)
-        m_ModelOwner->m_SigDestroy.connect(this, &CScrollBox::ModelOwnerDies);
+    if (m_Element)
+        m_Element->m_SigDestroy.disconnect(this, &CModelOwner::Dies);
+    m_Element = element;
+    if (m_Element)
+        m_Element->m_SigDestroy.connect(this, &CModelOwner::Dies);
 }
 
-// Its models have gone with it.
-void CScrollBox::ModelOwnerDies(CVisualElement*)
+// Its model has gone with it.
+void CScrollBox::CModelOwner::Dies(CVisualElement*)
 {
-    m_ModelOwner = nullptr;
-    unsigned const types = m_OwnerTypes;
-    CAliveGuard const alive(this);
-    if (types & ctVertical)
-        SetVertScroll(nullptr);
-    if ((types & ctHorizontal) && alive)
-        SetHorzScroll(nullptr);
+    m_Element = nullptr;
+    (m_Box->*m_SetModel)(nullptr);
 }
 
 // Moves -------------------------------------------------------------------------------------------------------------------
@@ -332,15 +400,15 @@ int CScrollBox::ScrollImp(IScrollModel* model, double value)
     };
 
     CScope const scope(this);
+    bool const isOwn = model == GetVertScroll() || model == GetHorzScroll();
     double const old = model->GetStart();
+    ++m_Moves;
     model->SetStart(value);
     // Whoever heard of it may have taken the model away.
-    bool const isStill = scope.m_Alive && (model == GetVertScroll() || model == GetHorzScroll());
+    bool const isStill = scope.m_Alive && (!isOwn || model == GetVertScroll() || model == GetHorzScroll());
     if (!isStill || !m_ReportPixels)
         return 0;
-    CScrollConverter const converter(model);
-    int const distance = FloorToInt(converter.L2P(model->GetStart()) - converter.L2P(old) + 0.5);
-    return model->GetFrom() > model->GetTo() ? SubtractSaturated(0, distance) : distance;
+    return GetPixels(model, old);
 }
 
 void CScrollBox::VertScroll(CScrollEvent::ScrollAction, double value)
@@ -349,7 +417,7 @@ void CScrollBox::VertScroll(CScrollEvent::ScrollAction, double value)
     int const distance = ScrollImp(GetVertScroll(), value);
     if (!alive || distance == 0)
         return;
-    Scroll(0, SubtractSaturated(0, distance), false);
+    ScrollAll(0, SubtractSaturated(0, distance));
     if (alive)
         UpdateAtOnce();
 }
@@ -360,9 +428,27 @@ void CScrollBox::HorzScroll(CScrollEvent::ScrollAction, double value)
     int const distance = ScrollImp(GetHorzScroll(), value);
     if (!alive || distance == 0)
         return;
-    Scroll(SubtractSaturated(0, distance), 0, false);
+    ScrollAll(SubtractSaturated(0, distance), 0);
     if (alive)
         UpdateAtOnce();
+}
+
+void CScrollBox::ScrollAll(int dx, int dy)
+{
+    if (!m_PaneMovesItself)
+    {
+        Scroll(dx, dy, false);
+        return;
+    }
+    CAliveGuard const alive(this);
+    for (int i = 0; alive && i < GetChildren()->GetCount(); ++i)
+    {
+        CVisualElement* const child = GetChildren()->GetItem(i);
+        if (child == GetCentralPane())
+            child->ScrollContent(dx, dy);
+        else if (child->IsVisible())
+            child->Scroll(dx, dy, false);
+    }
 }
 
 void CScrollBox::UpdateAtOnce()

@@ -129,10 +129,34 @@ public:
     bool HandleWheel(int x, int y, int keys, MouseButton button, int delta) override;
     void HandleControlDestroy() override;
 
+protected:
+    /// The pane has moved what stands in it, with its pixels, when its model has: of a scroll it hears alone.
+    void SetPaneMovesItself(bool itself) { m_PaneMovesItself = itself; }
+
 private:
+    // The element whose own model is scrolled on an axis. The model goes with it.
+    class CModelOwner : public subscriber_base_t
+    {
+    public:
+        CModelOwner(CScrollBox* box, void (CScrollBox::*setModel)(IScrollModel*)) : m_Box(box), m_SetModel(setModel) {}
+
+        CScrollableElement* get() const { return m_Element; }
+        void Watch(CScrollableElement* element);
+
+    private:
+        void Dies(CVisualElement*);
+
+        CScrollBox* const m_Box;
+        void (CScrollBox::*const m_SetModel)(IScrollModel*);
+        CScrollableElement* m_Element = nullptr;
+    };
+
+    class CSnap;
+
+    bool JudgeVert(int more);
+    bool JudgeHorz(int more);
+    void ScrollAll(int dx, int dy);
     void UpdateAtOnce();
-    void SetModelOwner(CScrollableElement* element);
-    void ModelOwnerDies(CVisualElement* element);
     void KeepConnected(CScrollableElement* element);
     void TakeWrappersBack();
 
@@ -150,10 +174,12 @@ private:
     bool m_ReportPixels = true;
     bool m_CornerAlways = false;
     bool m_InScroll = false;
+    bool m_PaneMovesItself = false;
+    unsigned m_Moves = 0;  // of models, by this box
     bool m_UpdateAtOnce = false;
     std::vector<std::unique_ptr<CElementPtr<CScrollableElement>>> m_Connected;  // those that have wrapped models
-    CScrollableElement* m_ModelOwner = nullptr;                                 // whose own models are scrolled
-    unsigned m_OwnerTypes = 0;                                                  // on these axes
+    CModelOwner m_VertOwner{this, &CScrollBox::SetVertScroll};
+    CModelOwner m_HorzOwner{this, &CScrollBox::SetHorzScroll};
 };
 
 }  // namespace vexel

@@ -118,11 +118,15 @@ void CScrollContainer::CCentralPart::SetVertStart(double value)
     MoveChild(rect);
 }
 
-// All of it is painted anew: what moves out of the view is not on the screen.
+// All of the view is painted anew: what moves into it is not on the screen, and the element may uncover its background.
 void CScrollContainer::CCentralPart::MoveChild(rectangle<int> const& rect)
 {
     CAliveGuard const alive(this);
     m_Scrolled->SetPos(rect, true);
+    if (alive)
+        RefreshPos();  // native controls that are docked nowhere follow, too
+    if (alive)
+        OnChange(this, utElement);
     ISysWindow* const window = alive && GetControl() ? GetControl()->GetWindow() : nullptr;
     if (window)
         window->UpdateNow();
@@ -283,6 +287,7 @@ CScrollContainer::CScrollContainer(CVisualElement* parent, size<int> const& exte
 {
     m_CentralPart.SetDynamic(false);
     m_CentralPart.ReParent(this, true);
+    SetPaneMovesItself(true);
     m_CentralPart.m_SigButtonDown.connect(&m_CentralPart, &CCentralPart::HandlePaneButtonDown);
     m_SigGetWheelStep.connect(this, &CScrollContainer::GetWheelStepSize);
     SetHorzScroll(static_cast<IHorzPhysicalScrollModel*>(&m_CentralPart));
@@ -301,13 +306,11 @@ CScrollContainer::~CScrollContainer()
 
 void CScrollContainer::SetScrolled(CVisualElement* element)
 {
-    if (element == m_Scrolled)
-        return;
     CAliveGuard const alive(this);
     if (CVisualElement* const old = m_Scrolled)
     {
         LetGo();
-        if (old->GetParent() == &m_CentralPart)
+        if (old != element && old->GetParent() == &m_CentralPart)
             old->ReParent(nullptr, true);
         if (!alive)
             return;
@@ -330,6 +333,10 @@ void CScrollContainer::SetScrolled(CVisualElement* element)
     if (!alive)
         return;
     m_CentralPart.SetHorzStart(0);
+    if (alive)
+        m_CentralPart.OnRearrange(&m_CentralPart);  // an element that is docked nowhere asks for no layout
+    if (alive)
+        m_CentralPart.Update(utElement);
     if (alive)
         RefreshScroll();
 }

@@ -26,8 +26,10 @@ void CScrollElement::Recalculate(IScrollModel* model, int pagePixels)
         return;
     }
     CAlivePtr<CScrollElement> const alive(this);
+    // Whoever hears of what happens here may have taken the bar or the model away.
+    auto const goesOn = [&] { return alive && m_ScrollBar && m_Converter.GetModel() == model; };
     m_Converter.NormalizeScale();
-    if (!alive || !m_ScrollBar)
+    if (!goesOn())
         return;
 
     int const page = std::max(pagePixels, 1);
@@ -45,7 +47,7 @@ void CScrollElement::Recalculate(IScrollModel* model, int pagePixels)
         info.position = std::max(0.0, info.maximum - info.page);
         double const start = m_Converter.P2L(info.inverted ? 0.0 : info.position);
         m_SigScroll(CScrollEvent::saRangeChanged, start);
-        if (!alive || !m_ScrollBar)
+        if (!goesOn())
             return;
     }
     if (scrolls)
@@ -61,7 +63,7 @@ void CScrollElement::Recalculate(IScrollModel* model, int pagePixels)
     if (model->GetStart() != low)
     {
         model->SetStart(low);
-        if (!alive || !m_ScrollBar)
+        if (!goesOn())
             return;
     }
     m_ScrollBar->SetEnabled(false);

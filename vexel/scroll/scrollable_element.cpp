@@ -2,6 +2,7 @@
 
 #include "vexel/platform/system.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -84,7 +85,7 @@ rectangle<int> CScrollableElement::GetCentralRect() const
 
 // Automatic scrolling -------------------------------------------------------------------------------------------------------
 
-CScrollableElement::ScrollCondition* CScrollableElement::GetCondition(unsigned type)
+CScrollableElement::ScrollCondition* CScrollableElement::GetCondition(int type)
 {
     if (type == ISysWindow::stVertical)
         return &m_VertCondition;
@@ -109,7 +110,7 @@ void CScrollableElement::StopScrolling(ISysWindow::ScrollType type)
         Disarm(type);
 }
 
-void CScrollableElement::Disarm(unsigned type)
+void CScrollableElement::Disarm(int type)
 {
     m_ScrollType &= ~type;
     StopRepeating();
@@ -190,9 +191,13 @@ double CScrollableElement::DelStepsInfo(double value, IScrollModel* model) const
     double rest = value - base;
     double sum = base;
     double index = base;
+    double const last = std::max(model->GetFrom(), model->GetTo());
     for (int count = std::numeric_limits<int>::max(); ToInt(rest) > 0 && count > 0; --count)
     {
-        rest -= model->GetStepSize(index);
+        double const step = model->GetStepSize(index);
+        if (!(step > 0) && !(index < last))  // behind the range, nothing without size comes to an end
+            break;
+        rest -= step;
         sum += 1;
         index += 1;
     }

@@ -73,13 +73,13 @@ protected:  // From CRepeatableOperation
     void ProcessRepeatOperation() override;
 
 private:
-    ScrollCondition* GetCondition(unsigned type);
-    void Disarm(unsigned type);
+    ScrollCondition* GetCondition(int type);
+    void Disarm(int type);
 
     IScrollModel* m_VertScroll = nullptr;
     IScrollModel* m_HorzScroll = nullptr;
     CElementPtr<> m_CentralPane;
-    unsigned m_ScrollType = 0;  // the armed axes, bits of ISysWindow::ScrollType
+    int m_ScrollType = 0;  // the armed axes, bits of ISysWindow::ScrollType
     ScrollCondition m_VertCondition;
     ScrollCondition m_HorzCondition;
 };

@@ -36,11 +36,16 @@ void CScroller::CCentralPart::Move(int distance)
         OnChange(this, utElement);
 }
 
+CVisualElement* CScroller::CCentralPart::GetScrolled() const
+{
+    return m_Scrolled && m_Scrolled->GetParent() == this ? m_Scrolled.get() : nullptr;
+}
+
 void CScroller::CCentralPart::SetPos(rectangle<int> const& rect, bool force)
 {
     CAliveGuard const alive(this);
     CVisualElement::SetPos(rect, force);
-    if (!alive || !m_Scrolled)
+    if (!alive || !GetScrolled())
         return;
     int const height = m_Scrolled->GetSize().height;
     rectangle<int> const bounds = GetBounds();
@@ -65,7 +70,7 @@ void CScroller::CCentralPart::SetPos(rectangle<int> const& rect, bool force)
     {
         m_Offset = 0;
     }
-    if (alive && m_Scrolled)
+    if (alive && GetScrolled())
         m_Scrolled->SetPos({bounds.left, m_Offset, bounds.right, AddSaturated(height, m_Offset)}, force);
 }
 
@@ -76,7 +81,7 @@ void CScroller::CCentralPart::OnDraw(IPainter* painter)
         return;
     CAlivePtr<IPainter> const surface(painter);
     std::optional<detail::CClipScope> clip;
-    if (m_Scrolled)
+    if (GetScrolled())
         clip.emplace(surface, bounds);
     CVisualElement::OnDraw(painter);
 }
@@ -126,7 +131,7 @@ void CScroller::SetScrolled(CVisualElement* element)
         return;
     CAliveGuard const alive(this);
     m_CentralPart.m_Scrolled.Watch(nullptr);
-    if (old && old->GetParent() == &m_CentralPart)
+    if (old)
         old->ReParent(nullptr, true);
     if (!alive || !element)
         return;
@@ -135,6 +140,19 @@ void CScroller::SetScrolled(CVisualElement* element)
     element->SetAlignment(alNone);
     if (alive && child)
         element->ReParent(&m_CentralPart, true);
+    if (alive)
+        m_CentralPart.Move(0);  // an element that is docked nowhere asks for no layout
+}
+
+// Buttons that come or go change the room of the view. A control that is laying out ends where the same is asked for
+// again: the panel lays out itself.
+void CScroller::SetPos(rectangle<int> const& rect, bool force)
+{
+    CAliveGuard const alive(this);
+    bool const before = m_TopButton.IsVisible();
+    CVisualElement::SetPos(rect, force);
+    if (alive && m_TopButton.IsVisible() != before)
+        CVisualElement::SetPos(GetPos(), true);
 }
 
 bool CScroller::IsFullRepainted() const

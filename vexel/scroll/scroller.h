@@ -38,6 +38,7 @@ public:
     private:
         friend class CScroller;
 
+        CVisualElement* GetScrolled() const;
         void Move(int distance);
 
         CVisualElement* m_TopButton = nullptr;
@@ -51,11 +52,13 @@ public:
 
     /// What the panel shows from now on; it becomes a child of the central part. The former one is left without a parent.
     void SetScrolled(CVisualElement* element);
-    CVisualElement* GetScrolled() const { return m_CentralPart.m_Scrolled.get(); }
+    /// Null also for one that has another parent now.
+    CVisualElement* GetScrolled() const { return m_CentralPart.GetScrolled(); }
     CArrowButton& GetTopButton() { return m_TopButton; }
     CArrowButton& GetBottomButton() { return m_BottomButton; }
     CCentralPart& GetCentralPart() { return m_CentralPart; }
 
+    void SetPos(rectangle<int> const& rect, bool force) override;
     bool IsFullRepainted() const override;  ///< As the content; false without one.
 
 private:

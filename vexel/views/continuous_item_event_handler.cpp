@@ -1,5 +1,4 @@
 #include "vexel/platform/convert.h"
-#include "vexel/platform/painter.h"
 #include "vexel/views/item_event_handler.h"
 #include "vexel/views/item_walks.h"
 
@@ -16,11 +15,6 @@ constexpr int s_DragSlack = 2;  // a range that is longer than the view by less 
 
 }  // namespace
 
-int CContinuousItemEventHandler::GetItemIndex(int x, int y)
-{
-    return Utils::HitTest(GetViewModel(), AlongOf(x, y));
-}
-
 void CContinuousItemEventHandler::OnColViewModelScroll(int position, int delta, bool* handled)
 {
     if (!GetViewer() || delta == 0)
@@ -29,6 +23,10 @@ void CContinuousItemEventHandler::OnColViewModelScroll(int position, int delta, 
         return;
     }
     *handled = ScrollItems(position, delta);
+    // The view's last line lies behind its last pixel; the model doesn't count it among what comes into view.
+    IContinuousItemViewModel* const model = GetViewModel();
+    if (int const item = Utils::HitTest(model, model->GetViewSize()); *handled && delta < 0 && item >= 0)
+        model->AddDirtyItems(item, item);
     RequestRepaint();
 }
 
@@ -99,15 +97,6 @@ bool CContinuousItemEventHandler::ProcessButtonDown(int x, int y, int keys, Mous
     return PressItem(GetItemIndex(x, y), keys);
 }
 
-bool CContinuousItemEventHandler::ProcessMouseMove(int x, int y, int keys, MouseButton button, bool* handled)
-{
-    CAlivePtr<CEventHandler> const alive(this);
-    CEventHandlerBase::ProcessMouseMove(x, y, keys, button, handled);
-    if (!alive || !IsDragging(keys, button))
-        return false;
-    return DragTo(GetItemIndex(x, y), x, y, button, handled);
-}
-
 void CContinuousItemEventHandler::ProcessRepeatOperation()
 {
     IContinuousItemViewModel* const model = GetViewModel();
@@ -151,27 +140,6 @@ void CContinuousItemEventHandler::ProcessRepeatOperation()
 
 // Keys ----------------------------------------------------------------------------------------------------------------------
 
-bool CContinuousItemEventHandler::ProcessKeyDown(int keys, int key, bool*)
-{
-    CAlivePtr<CEventHandler> const alive(this);
-    if (SelectAll(keys, key))
-        return true;
-    m_FromKeyboard = true;
-    int const before = GetCurrent();
-    if (key == vkSpace)
-    {
-        if (GetSelectionType() != stNone)
-            ToggleItem(before);
-    }
-    else if (!MoveByKey(key))
-    {
-        return false;
-    }
-    if (alive)
-        FollowCurrent(before, keys);
-    return true;
-}
-
 bool CContinuousItemEventHandler::MoveByKey(int key)
 {
     bool const vertical = GetDirection() == idVertical;
@@ -214,43 +182,15 @@ bool CContinuousItemEventHandler::MoveByKey(int key)
 
 void CContinuousItemEventHandler::ProcessDraw(IPainter* painter, rectangle<double> const& rect)
 {
-    if (!painter || !m_Painter)
-        return;
-    IContinuousItemViewModel const* const model = GetViewModel();
-    ISelectionModel const* const selection = GetSelectionModel();
-    double const from = m_Layout->GetAlong(rect.left, rect.top);
-    double const near = m_Layout->GetAcross(rect.left, rect.top);
-    double const far = m_Layout->GetAcross(rect.right, rect.bottom);
-    int const view = model->GetViewSize();
-    int const count = model->GetCount();
-    int const current = selection->GetCurrent();
-    bool const stretch = model->IsLastItemStretched();
-
-    CAlivePtr<CEventHandler> const alive(this);
-    CModelGuard const modelAlive(model);
-    CModelGuard const selectionAlive(selection);
+    int const view = GetViewModel()->GetViewSize();
     int first = -1;
     int skip = 0;
     if (view >= 0)
         CalcFirstSection(&first, &skip);
+    double const from = m_Layout->GetAlong(rect.left, rect.top);
     double const to = from + std::max(view, 0);
-    double position = from;
-    for (int i = first; i >= 0 && i < count && position <= to; ++i)
-    {
-        double end = position + std::max(model->GetItemSize(i) - skip, 1) - 1;
-        if (stretch && i == count - 1)
-            end = std::max(to, end);
-        int const state = (selection->IsItemSelected(i) ? isSelected : 0) | (i == current ? isCurrent : 0);
-        IDirtyItemSet::DirtyType const dirty =
-            GetCellUpdateType(painter, model->GetItemType(i), selection->GetItemType(i));
-        m_Painter->DrawItem(painter, i, skip, state, m_Layout->MakeRect(position, near, end, far), dirty);
-        if (!alive || !modelAlive || !selectionAlive)
-            return;
-        skip = 0;
-        position = end + 1;
-    }
-    if (!(stretch && count > 0) && position <= to)
-        m_Painter->DrawEmptyArea(painter, m_Layout->MakeRect(position, near, to, far));
+    DrawItems(painter, {first, skip, from, to, m_Layout->GetAcross(rect.left, rect.top),
+                        m_Layout->GetAcross(rect.right, rect.bottom), to});
 }
 
 }  // namespace vexel

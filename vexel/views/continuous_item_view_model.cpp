@@ -136,7 +136,10 @@ void CDefaultColumnViewModel::UpdateModelState(IIndexTranslator* translator)
         m_ItemSizes.Translate(*translator);
         m_FullSize = 0;
     }
-    m_SigChanged();
+    CModelGuard const alive(this);
+    m_SigAllStale();
+    if (alive)
+        m_SigChanged();
 }
 
 void CDefaultColumnViewModel::SetCount(int count)

@@ -1,5 +1,4 @@
 #include "vexel/platform/convert.h"
-#include "vexel/platform/painter.h"
 #include "vexel/views/item_event_handler.h"
 #include "vexel/views/item_walks.h"
 
@@ -7,11 +6,6 @@
 
 namespace vexel
 {
-
-int CDiscreteItemEventHandler::GetItemIndex(int x, int y)
-{
-    return Utils::HitTest(GetViewModel(), AlongOf(x, y));
-}
 
 void CDiscreteItemEventHandler::OnRowViewModelScroll(int position, int delta, bool* handled)
 {
@@ -95,15 +89,6 @@ bool CDiscreteItemEventHandler::ProcessButtonDown(int x, int y, int keys, MouseB
     return PressItem(item, keys);
 }
 
-bool CDiscreteItemEventHandler::ProcessMouseMove(int x, int y, int keys, MouseButton button, bool* handled)
-{
-    CAlivePtr<CEventHandler> const alive(this);
-    CEventHandlerBase::ProcessMouseMove(x, y, keys, button, handled);
-    if (!alive || !IsDragging(keys, button))
-        return false;
-    return DragTo(GetItemIndex(x, y), x, y, button, handled);
-}
-
 // A drag past the edge: one item at a time.
 void CDiscreteItemEventHandler::ProcessRepeatOperation()
 {
@@ -145,28 +130,6 @@ void CDiscreteItemEventHandler::ProcessRepeatOperation()
 
 // Keys ----------------------------------------------------------------------------------------------------------------------
 
-bool CDiscreteItemEventHandler::ProcessKeyDown(int keys, int key, bool*)
-{
-    CAlivePtr<CEventHandler> const alive(this);
-    if (SelectAll(keys, key))
-        return true;
-    m_FromKeyboard = true;
-    int const before = GetCurrent();
-    if (key == vkSpace)
-    {
-        if (GetSelectionType() != stNone)
-            ToggleItem(before);
-    }
-    else if (!MoveByKey(key))
-    {
-        return false;
-    }
-    if (alive)
-        FollowCurrent(before, keys);
-    return true;
-}
-
-// False: not a key of this direction.
 bool CDiscreteItemEventHandler::MoveByKey(int key)
 {
     bool const vertical = GetDirection() == idVertical;
@@ -247,41 +210,24 @@ void CDiscreteItemEventHandler::PageDown()
         SetCurrentItem(std::max(std::min(AddSaturated(page, keep), GetViewModel()->GetCount() - 1), 0));
 }
 
+// A view that grows at the end of its range scrolls back and uncovers rows at its foot as well.
+void CDiscreteItemEventHandler::ProcessResize(rectangle<int> const& old, rectangle<int> const& now, bool invalidate)
+{
+    CAlivePtr<CEventHandler> const alive(this);
+    int const start = GetViewModel()->GetStartItem();
+    CEventHandlerBase::ProcessResize(old, now, invalidate);
+    if (alive && GetViewModel()->GetStartItem() != start)
+        MarkAll(GetViewModel());
+}
+
 // Paint ---------------------------------------------------------------------------------------------------------------------
 
 void CDiscreteItemEventHandler::ProcessDraw(IPainter* painter, rectangle<double> const& rect)
 {
-    if (!painter || !m_Painter)
-        return;
-    IDiscreteItemViewModel const* const model = GetViewModel();
-    ISelectionModel const* const selection = GetSelectionModel();
-    double const from = m_Layout->GetAlong(rect.left, rect.top);
-    double const to = m_Layout->GetAlong(rect.right, rect.bottom);
-    double const near = m_Layout->GetAcross(rect.left, rect.top);
-    double const far = m_Layout->GetAcross(rect.right, rect.bottom);
-    int const count = model->GetCount();
-    int const current = selection->GetCurrent();
-    bool const stretch = model->IsLastItemStretched();
-
-    CAlivePtr<CEventHandler> const alive(this);
-    CModelGuard const modelAlive(model);
-    CModelGuard const selectionAlive(selection);
-    double position = from;
-    for (int i = model->GetStartItem(); i < count && position <= to; ++i)
-    {
-        double end = position + std::max(model->GetItemSize(i), 1) - 1;
-        if (stretch && i == count - 1)
-            end = std::max(static_cast<double>(model->GetViewSize()), end);
-        int const state = (selection->IsItemSelected(i) ? isSelected : 0) | (i == current ? isCurrent : 0);
-        IDirtyItemSet::DirtyType const dirty =
-            GetCellUpdateType(painter, model->GetItemType(i), selection->GetItemType(i));
-        m_Painter->DrawItem(painter, i, 0, state, m_Layout->MakeRect(position, near, end, far), dirty);
-        if (!alive || !modelAlive || !selectionAlive)
-            return;
-        position = end + 1;
-    }
-    if (!(stretch && count > 0) && position <= to)
-        m_Painter->DrawEmptyArea(painter, m_Layout->MakeRect(position, near, to, far));
+    DrawItems(painter,
+              {GetViewModel()->GetStartItem(), 0, m_Layout->GetAlong(rect.left, rect.top),
+               m_Layout->GetAlong(rect.right, rect.bottom), m_Layout->GetAcross(rect.left, rect.top),
+               m_Layout->GetAcross(rect.right, rect.bottom), static_cast<double>(GetViewModel()->GetViewSize())});
 }
 
 }  // namespace vexel

@@ -7,6 +7,7 @@
 #include "vexel/views/selection_model.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vexel
 {
@@ -19,7 +20,9 @@ void CSimpleDiscreteItemViewModel::UpdateModelState(IIndexTranslator* translator
         return;
     int const old = m_StartItem;
     m_StartItem = std::clamp(translator->TranslateIndex(old, nullptr), 0, Utils::CalcMaxStart(this));
-    if (m_StartItem != old)
+    CModelGuard const alive(this);
+    m_SigAllStale();
+    if (alive && m_StartItem != old)
         m_SigChanged();
 }
 
@@ -175,11 +178,14 @@ void CDefaultDiscreteItemViewModel::UpdateModelState(IIndexTranslator* translato
 {
     if (!translator || !translator->TranslationIsPresented())
         return;
+    // A slot may delete the translator or this model.
+    CItemSizeMap sizes = m_ItemSizes;
+    sizes.Translate(*translator);
     CModelGuard const alive(this);
     CSimpleDiscreteItemViewModel::UpdateModelState(translator);
     if (!alive)
         return;
-    m_ItemSizes.Translate(*translator);
+    m_ItemSizes = std::move(sizes);
     m_SigChanged();
 }
 
@@ -197,7 +203,7 @@ void CDefaultDiscreteItemViewModel::SetItemSize(int index, int size)
     if (!alive || now == old)
         return;
 
-    // Pixels are moved while the old sizes still hold. An item on the edge of that window may stay unmarked.
+    // Pixels are moved while the old sizes still hold.
     int const start = GetStartItem();
     bool handled = false;
     if (start <= index && index < last - 2)
@@ -213,7 +219,15 @@ void CDefaultDiscreteItemViewModel::SetItemSize(int index, int size)
         AddDirtyItems(last, GetCount());
     }
     else if (start < index)
+    {
         AddDirtyItems(index, GetCount());
+    }
+    else if (start == index)
+    {
+        m_SigAllStale();
+        if (!alive)
+            return;
+    }
 
     if (now == GetDefaultItemSize())
         m_ItemSizes.Remove(index);

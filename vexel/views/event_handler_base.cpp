@@ -18,7 +18,6 @@ namespace
 
 constexpr int s_RepeatInterval = 100;  // milliseconds
 constexpr int s_MarkedSingly = 6;      // so many selected items are repainted one by one
-constexpr int s_Modifiers = 0xff00;    // the keys of the state word
 
 int s_SelectionChangeDelay = 0;
 
@@ -92,8 +91,8 @@ bool CEventHandlerBase::ScrollItems(int position, int delta)
     point<double> rightBottom{static_cast<double>(content.right), static_cast<double>(content.bottom)};
     m_Layout->IncAlong(&leftTop, position);
     // What falls out of the view doesn't move.
-    if (delta < 0 && position == 0)
-        m_Layout->IncAlong(&leftTop, -static_cast<double>(delta));
+    if (delta < 0 && position < -delta)
+        m_Layout->IncAlong(&leftTop, -static_cast<double>(delta) - position);
     else if (delta > 0)
         m_Layout->IncAlong(&rightBottom, -static_cast<double>(delta));
     if (!(leftTop.x < rightBottom.x && leftTop.y < rightBottom.y))
@@ -115,6 +114,19 @@ void CEventHandlerBase::RequestRepaint()
 {
     if (m_Viewer)
         m_Viewer->OnChange(m_Viewer.get(), utElement);
+}
+
+void CEventHandlerBase::MarkAll(IBaseItemsModel* model)
+{
+    if (!model)
+        return;
+    model->AddDirtyItems(0, std::numeric_limits<int>::max());
+    RequestRepaint();
+}
+
+void CEventHandlerBase::SelectionModelStale()
+{
+    MarkAll(GetItemSelectionModel());
 }
 
 void CEventHandlerBase::UpdateScroll()
@@ -147,12 +159,14 @@ void CEventHandlerBase::OnViewModelChange()
 
 void CEventHandlerBase::ConnectSelection(ISelectionModel* model)
 {
+    model->m_SigAllStale.connect(this, &CEventHandlerBase::SelectionModelStale);
     model->m_SigChanged.connect(this, &CEventHandlerBase::OnSelectionModelChange);
     model->m_SigSelectionChanged.connect(this, &CEventHandlerBase::OnSelectionModelChange);
 }
 
 void CEventHandlerBase::DisconnectSelection(ISelectionModel* model)
 {
+    model->m_SigAllStale.disconnect(this, &CEventHandlerBase::SelectionModelStale);
     model->m_SigChanged.disconnect(this, &CEventHandlerBase::OnSelectionModelChange);
     model->m_SigSelectionChanged.disconnect(this, &CEventHandlerBase::OnSelectionModelChange);
 }
@@ -281,9 +295,14 @@ void CEventHandlerBase::ProcessItemChangeFree(int old, int now, int keys, ISelec
             anchor = std::max(std::min(old, count - 1), 0);
             m_Anchor = anchor;
         }
+        // What leaves the selection is repainted too. As a rule that is the run from the anchor to the old current item.
+        bool const isRun = model->IsItemSelected(anchor) && model->IsItemSelected(old) &&
+                           model->GetSelectedCount() == std::abs(std::int64_t{old} - anchor) + 1;
+        if (!isRun && model->GetSelectedCount() > 0)
+            model->AddDirtyItems(0, std::numeric_limits<int>::max());
         model->SetSelectionRange(anchor, now);
         if (alive)
-            model->AddDirtyItems(old, now);  // what has left the range
+            model->AddDirtyItems(old, now);
         return;
     }
     if (keys & ksControl)

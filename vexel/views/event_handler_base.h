@@ -138,6 +138,7 @@ protected:
     int AlongOf(int x, int y) const;                      ///< The position along the axis.
     int GetLength() const;                                ///< Of the viewer along the axis; 0 without one.
     void RequestRepaint();                                ///< Of what is marked dirty.
+    void MarkAll(IBaseItemsModel* model);                 ///< All items are painted anew. Null: nothing.
     bool IsDragging(int keys, MouseButton button) const;  ///< The left button is held and the viewer has the capture.
     /// Treats the item under a drag as shift-clicked, or scrolls where there is none.
     bool DragTo(int item, int x, int y, MouseButton button, bool* handled);
@@ -155,6 +156,7 @@ protected:
 
 private:
     void DropPrevious(int old, ISelectionModel* model);
+    void SelectionModelStale();
     void MarkSelection();
 
     CElementPtr<CScrollableElement> m_Viewer;

@@ -2,6 +2,8 @@
 
 #include "vexel/platform/painter.h"
 
+#include <algorithm>
+
 namespace vexel
 {
 
@@ -118,8 +120,11 @@ void CGridViewer<RowModel, ColumnModel>::SetPos(rectangle<int> const& rect, bool
     rectangle<int> const old = this->GetBounds();
     CAliveGuard const alive(this);
     Base::SetPos(rect, force);
-    if (alive)
-        m_ColumnHandler.ProcessResize(old, this->GetBounds(), false);
+    if (!alive)
+        return;
+    if (int const rows = this->GetRowViewModel()->GetCount(); this->GetBounds().right != old.right)
+        this->GetRowViewModel()->AddDirtyItems(rows, rows);  // the area behind the rows is wider or narrower
+    m_ColumnHandler.ProcessResize(old, this->GetBounds(), false);
 }
 
 template <class RowModel, class ColumnModel> void CGridViewer<RowModel, ColumnModel>::ProcessSetVisible(bool visible)
@@ -168,15 +173,15 @@ void CGridViewer<RowModel, ColumnModel>::DrawColumn(IPainter* painter, int colum
     int const rowMask = rowsSelect ? ~int{isCurrent} | (state & isCurrent) : state & isCurrent;
     int const columnPart = columnsSelect ? state & ~int{isCurrent} : 0;
     this->DrawCell(painter, m_PaintRow, m_PaintRowSkip, column, skip, (rowMask & m_PaintRowState) | columnPart, rect,
-                   GetCellUpdateType(painter, m_PaintRowDirty, dirty));
+                   std::min(m_PaintRowDirty, dirty));  // in a full paint both are dirty
 }
 
 template <class RowModel, class ColumnModel>
 void CGridViewer<RowModel, ColumnModel>::DrawColumnEmptyArea(IPainter* painter, rectangle<double> const& rect)
 {
     // In a row that is clean it stands on the screen already, unless the columns have moved.
-    if (m_PaintRowDirty == IDirtyItemSet::dirtyOther &&
-        m_ColumnViewModel->GetItemType(0) == IDirtyItemSet::dirtyNone && !painter->IsFullPaint())
+    if (m_PaintRowDirty == IDirtyItemSet::dirtyOther && m_ColumnViewModel->GetItemType(0) == IDirtyItemSet::dirtyNone &&
+        !painter->IsFullPaint())
         return;
     painter->SetBrush({this->GetBkColor(), brush::bsSolid});
     painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);

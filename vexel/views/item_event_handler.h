@@ -30,7 +30,27 @@ public:
     IBaseItemViewModel* GetItemViewModel() const override { return m_ViewModel; }
     ISelectionModel* GetItemSelectionModel() const override { return m_SelectionModel; }
 
+public:  // From CEventHandler
+    bool ProcessMouseMove(int x, int y, int keys, MouseButton button, bool* handled) override;
+    bool ProcessKeyDown(int keys, int key, bool* handled) override;
+    int GetItemIndex(int x, int y) override;
+
 protected:
+    /// What of the items is drawn and where, along the axis and across it. No item: `first` below 0.
+    struct SSpan
+    {
+        int first;
+        int skip;  // pixels of the first item that lie before the view
+        double from;
+        double to;
+        double near;
+        double far;
+        double stretchedEnd;  // where the last item ends at least, if it is stretched
+    };
+    /// Asks the painter for each item, and for the empty area behind the last one.
+    void DrawItems(IPainter* painter, SSpan const& span);
+
+    virtual bool MoveByKey(int key) = 0;  ///< False: not a key of this direction.
     virtual void ViewModelScrolled(int position, int delta, bool* handled) = 0;  ///< Slot of m_SigSizeChanged.
     virtual void ShowNewCurrent(int before) = 0;  ///< A press has moved the current item.
 
@@ -39,6 +59,7 @@ protected:
 
 private:
     void ViewModelScrolls(int position, int delta, bool* handled) { ViewModelScrolled(position, delta, handled); }
+    void ViewModelStale() { MarkAll(m_ViewModel); }
     void ViewModelDies(IBaseItemsModel* model);
     void SelectionModelDies(IBaseItemsModel* model);
 
@@ -63,11 +84,9 @@ public:
     void OnRowViewModelScroll(int position, int delta, bool* handled);
 
 public:  // From CEventHandler
-    bool ProcessMouseMove(int x, int y, int keys, MouseButton button, bool* handled) override;
     bool ProcessButtonDown(int x, int y, int keys, MouseButton button, bool* handled) override;
-    bool ProcessKeyDown(int keys, int key, bool* handled) override;
     void ProcessDraw(IPainter* painter, rectangle<double> const& rect) override;
-    int GetItemIndex(int x, int y) override;
+    void ProcessResize(rectangle<int> const& old, rectangle<int> const& now, bool invalidate) override;
 
 protected:
     void ProcessRepeatOperation() override;
@@ -76,9 +95,9 @@ protected:
         OnRowViewModelScroll(position, delta, handled);
     }
     void ShowNewCurrent(int before) override;
+    bool MoveByKey(int key) override;
 
 private:
-    bool MoveByKey(int key);
     void PageUp();
     void PageDown();
 };
@@ -98,11 +117,8 @@ public:
     void CalcFirstSection(int* first, int* skip) const;
 
 public:  // From CEventHandler
-    bool ProcessMouseMove(int x, int y, int keys, MouseButton button, bool* handled) override;
     bool ProcessButtonDown(int x, int y, int keys, MouseButton button, bool* handled) override;
-    bool ProcessKeyDown(int keys, int key, bool* handled) override;
     void ProcessDraw(IPainter* painter, rectangle<double> const& rect) override;
-    int GetItemIndex(int x, int y) override;
 
 protected:
     void ProcessRepeatOperation() override;
@@ -111,9 +127,7 @@ protected:
         OnColViewModelScroll(position, delta, handled);
     }
     void ShowNewCurrent(int before) override;
-
-private:
-    bool MoveByKey(int key);
+    bool MoveByKey(int key) override;
 };
 
 }  // namespace vexel

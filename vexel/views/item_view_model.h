@@ -27,6 +27,8 @@ public:
     virtual void UpdateModelState(IIndexTranslator* translator) = 0;
 
     signal_t<> m_SigChanged;  ///< Anything that needs a repaint or a new layout; after the change.
+    /// Items look otherwise that are not marked dirty: whoever shows them paints them all. Before m_SigChanged.
+    signal_t<> m_SigAllStale;
     /// The model dies; only this class's part still lives. Views go back to their own models.
     signal_t<IBaseItemsModel*> m_SigDestroy;
 };

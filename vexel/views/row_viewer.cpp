@@ -216,8 +216,12 @@ template <class Model> void CRowViewerBase<Model>::SetEnabled(bool enabled)
 
 template <class Model> void CRowViewerBase<Model>::OnDraw(IPainter* painter)
 {
-    if (IsDrawnWithParent() && IsPartlyDirty())
+    // Where the view or an ancestor has moved, its pixels may have been lost on the way, under those of a neighbour.
+    point<int> origin;
+    ElementToControl(&origin);
+    if ((IsDrawnWithParent() || origin != m_DrawnAt) && IsPartlyDirty())
         MarkAllDirty();
+    m_DrawnAt = origin;
     CViewerBase::OnDraw(painter);
 }
 

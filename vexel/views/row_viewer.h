@@ -54,7 +54,7 @@ public:  // From CVisualElement
 public:                              // From CViewerBase
     void ProcessEndDraw() override;  ///< Nothing is dirty any more.
 
-public:                                             // Overridable
+public:  // Overridable
     // A subclass with a height or margin of its own calls AttributeChanged at the end of its constructor.
     virtual int CalculateDefaultRowHeight() const;  ///< Pixels; 0: no text height is known, the rows keep theirs.
     virtual int GetRowMargin() const { return 0; }  ///< Is added to it.
@@ -89,6 +89,7 @@ private:
     RowScrollModel m_RowScrollModel;
     CEventHandlerBase::SelectionType m_SelectionType = CEventHandlerBase::stFree;
     bool m_AutoRowHeight = true;
+    point<int> m_DrawnAt;  // its left-top when it was last drawn; control pixels
 };
 
 /// What applications derive a list from: DrawRow is theirs.

@@ -161,6 +161,8 @@ void CDefaultSelectionModel::UpdateModelState(IIndexTranslator* translator)
     int const newCurrent = m_Current;
     CModelGuard const alive(this);
     if (currentMoved || moved)
+        m_SigAllStale();
+    if (alive && (currentMoved || moved))
         m_SigChanged();
     if (alive && currentMoved)
         m_SigCurrentChanged(oldCurrent, newCurrent);

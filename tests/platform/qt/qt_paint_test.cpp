@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QBackingStore>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPixmap>
@@ -40,6 +41,18 @@ void FillAll(IPainter* painter, ISysWindow& window, _color const& color)
 QImage Shot(QWidget* widget)
 {
     QImage image = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    image.setDevicePixelRatio(1.0);
+    return image;
+}
+
+// What stands behind the widget in the pixels of its top-level one, in device pixels; `left`, `top`: where it stands.
+QImage Behind(QWidget* widget, int left, int top)
+{
+    QPaintDevice* const device = widget->backingStore()->paintDevice();
+    EXPECT_EQ(device->devType(), int{QInternal::Image});
+    double const ratio = widget->devicePixelRatioF();
+    QImage image = static_cast<QImage*>(device)->copy(left, top, static_cast<int>(widget->width() * ratio),
+                                                      static_cast<int>(widget->height() * ratio));
     image.setDevicePixelRatio(1.0);
     return image;
 }
@@ -95,6 +108,34 @@ TEST(QtPaint, OnlyWhatWasTouchedIsShownAnew)
     Settle();
     EXPECT_EQ(watch.m_Count, 1);
     EXPECT_EQ(Text(watch.m_Region), "[10,20 5x3][70,60 1x1]");
+}
+
+TEST(QtPaint, WhatIsPaintedStandsBehindTheTopLevelWidgetToThePixel)
+{
+    QWidget top;
+    top.resize(150, 120);
+    QWidget inner(&top);
+    inner.setGeometry(7, 9, 100, 80);
+    std::unique_ptr<ISysWindow> const window = HostWindow(&inner);
+    CRecorder control(window.get());
+    top.show();
+    Settle();
+    control.m_Draw = [&](IPainter* painter) {
+        FillAll(painter, *window, color_table[9]);
+        painter->SetBrush(Solid(color_table[6]));
+        painter->FillRect(10, 20, 14, 22);
+        painter->FillRect(99, 79, 99, 79);
+    };
+    window->UpdateNow();
+    Settle();
+
+    QImage const seen = Behind(GetWidget(window.get()), 7, 9);
+    for (int y = 0; y < 80; ++y)
+        for (int x = 0; x < 100; ++x)
+        {
+            bool const red = (x >= 10 && x <= 14 && y >= 20 && y <= 22) || (x == 99 && y == 79);
+            ASSERT_EQ(seen.pixel(x, y), red ? 0xFFFF0000u : 0xFFFFFFFFu) << x << ", " << y;
+        }
 }
 
 TEST(QtPaint, ADrawThatTouchesNothingShowsNothing)
@@ -317,6 +358,7 @@ TEST(QtRatio, AtTwoTheSurfaceHasTwicePixels)
     EXPECT_EQ(shot.pixel(51, 61), 0xFFFF0000u);
     EXPECT_EQ(shot.pixel(50, 61), 0xFFFFFFFFu);
     EXPECT_EQ(shot.pixel(52, 61), 0xFFFFFFFFu);
+    EXPECT_EQ(Behind(hosted.Widget(), 0, 0), shot);
 }
 
 }  // namespace vexelbase::qt::test

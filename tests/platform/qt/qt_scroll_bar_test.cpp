@@ -113,6 +113,25 @@ TEST(QtScrollSteps, WithoutAWayThereAreNoSteps)
     }
 }
 
+TEST_F(QtScrollBar, IsPaintedOnlyWhereItsThumbMoves)
+{
+    SetRange(0, 1000000, 50, false, 500);
+    Settle();
+    CPaintWatch watch(&Native());
+    m_Bar->SetScrollPos(501);
+    SetRange(0, 1000000, 50, false, 502);
+    Settle();
+    EXPECT_EQ(watch.m_Count, 0);
+
+    m_Bar->SetScrollPos(400000);
+    Settle();
+    EXPECT_EQ(watch.m_Count, 1);
+
+    m_Bar->SetEnabled(false);
+    Settle();
+    EXPECT_EQ(watch.m_Count, 2);
+}
+
 TEST_F(QtScrollBar, IsAQtBarInTheWindow)
 {
     EXPECT_EQ(Native().orientation(), Qt::Vertical);

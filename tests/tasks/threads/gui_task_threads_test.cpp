@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <thread>
 
@@ -25,8 +26,9 @@ public:
     ~CCounter() override { Stop(); }
 
     std::function<void()> m_OnWork;
-    int m_Last = 100000;  // rounds
-    int m_Shown = 0;      // what was seen last on the GUI thread
+    int m_Last =
+        std::numeric_limits<int>::max();  // rounds; a fast machine works off any smaller number while others wait
+    int m_Shown = 0;                      // what was seen last on the GUI thread
     int m_Shows = 0;
     std::thread::id m_WorkThread;  // read once it has stopped
     std::thread::id m_ShowThread;

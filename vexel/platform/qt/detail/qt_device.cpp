@@ -75,7 +75,7 @@ QImage ViewPixels(CPixelBuffer& pixels)
     if (pixels.GetWidth() <= 0 || pixels.GetHeight() <= 0)
         return QImage();
     return QImage(reinterpret_cast<uchar*>(pixels.Row(0)), pixels.GetWidth(), pixels.GetHeight(),
-                  static_cast<qsizetype>(pixels.GetWidth()) * 4, QImage::Format_RGB32);
+                  static_cast<qsizetype>(pixels.GetStride()) * 4, QImage::Format_RGB32);
 }
 
 bool CQtDevice::Collect(CFontFace& face, std::string_view text, int& width)

@@ -21,10 +21,12 @@ namespace
 {
 
 constexpr int LinesPerNotch = 3;
+constexpr int Shadow = 8;  // pixels of Qt's
 
 }  // namespace
 
-// In a long range most steps leave the thumb on its pixels: then nothing needs to be painted.
+// In a long range most steps leave the thumb on its pixels: then nothing needs to be painted. And a thumb that moves leaves
+// the rest as it is.
 class CQtScrollBar::CBar final : public CNativeWidget<QScrollBar>
 {
 public:
@@ -37,18 +39,22 @@ protected:
         initStyleOption(&option);
         SLook const look{style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this),
                          sliderPosition() == minimum(), sliderPosition() == maximum()};
-        if (std::exchange(m_Look, look) != look || change != SliderValueChange)
+        SLook const before = std::exchange(m_Look, look);
+        if (change != SliderValueChange || before.atMinimum != look.atMinimum || before.atMaximum != look.atMaximum)
             CNativeWidget<QScrollBar>::sliderChange(change);
+        else if (before.thumb != look.thumb)
+            update(QRegion(Around(before.thumb)) + Around(look.thumb));
     }
 
 private:
+    // A style may draw a shadow beside the thumb.
+    static QRect Around(QRect const& thumb) { return thumb.adjusted(-Shadow, -Shadow, Shadow, Shadow); }
+
     struct SLook
     {
         QRect thumb;
         bool atMinimum = false;  // a style may show an arrow that leads nowhere
         bool atMaximum = false;
-
-        bool operator==(SLook const&) const = default;
     };
 
     SLook m_Look;
@@ -61,6 +67,7 @@ CQtScrollBar::CQtScrollBar(CQtWindow& window, bool vertical)
     m_Bar = new CBar(window.GetWidget());
     m_Bar->setOrientation(vertical ? Qt::Vertical : Qt::Horizontal);
     m_Bar->setCursor(Qt::ArrowCursor);
+    m_Bar->setAutoFillBackground(true);  // whatever the style leaves out, nothing shows through
     Take(m_Bar, *m_Bar);
     QObject::connect(m_Bar, &QAbstractSlider::actionTriggered, m_Bar, [this, bar = m_Bar](int action) {
         CInQt const inside;

@@ -50,6 +50,52 @@ void CQtWidget::FillParent()
         setGeometry(area);
 }
 
+void CQtWidget::WatchNeighbours()
+{
+    auto const watchChildren = [this](QWidget& parent) {
+        for (QObject* const child : parent.children())
+            if (child->isWidgetType() && child != this)
+                child->installEventFilter(this);
+    };
+    watchChildren(*this);
+    for (QWidget* inner = this; !inner->isWindow() && inner->parentWidget(); inner = inner->parentWidget())
+    {
+        watchChildren(*inner->parentWidget());
+        inner->parentWidget()->installEventFilter(this);
+    }
+}
+
+void CQtWidget::NoteNeighbour(QEvent const& event)
+{
+    if (!m_Window)
+        return;
+    switch (event.type())
+    {
+    case QEvent::ChildAdded:
+        if (QObject* const child = static_cast<QChildEvent const&>(event).child(); child != this)
+            child->installEventFilter(this);
+        m_Window->NeighbourComes();
+        break;
+    case QEvent::ChildRemoved:
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::ParentChange:
+    case QEvent::ZOrderChange:
+        m_Window->NeighbourMoves();
+        break;
+    default:
+        break;
+    }
+}
+
+QPaintDevice* CQtWidget::GetPaintTarget() const
+{
+    QPoint offset;
+    return redirected(&offset);
+}
+
 int CQtWidget::FrameEvent()
 {
     static int const type = QEvent::registerEventType();
@@ -77,6 +123,8 @@ int CQtWidget::ReleaseEvent()
 bool CQtWidget::event(QEvent* event)
 {
     CInQt const inside;
+    if (event->type() == QEvent::ChildAdded || event->type() == QEvent::ChildRemoved)
+        NoteNeighbour(*event);
     bool handled = false;
     bool result = true;
     if (m_Window && m_Window->IsForWindow(*event))
@@ -94,6 +142,7 @@ bool CQtWidget::event(QEvent* event)
 
 bool CQtWidget::eventFilter(QObject* watched, QEvent* event)
 {
+    NoteNeighbour(*event);
     if (watched == parent() && (event->type() == QEvent::Resize || event->type() == QEvent::ContentsRectChange))
     {
         CInQt const inside;

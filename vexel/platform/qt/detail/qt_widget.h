@@ -20,6 +20,8 @@ public:
     /// Moves the focus to the next or previous widget, as Tab does. False if there is none.
     bool MoveFocus(bool forward) { return QWidget::focusNextPrevChild(forward); }
     void FillParent();
+    QPaintDevice* GetPaintTarget() const;  ///< What the paint event under way is meant for; null outside of one.
+    void WatchNeighbours();  ///< The window is told of widgets that come, or move, where they may hide it.
 
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
@@ -37,6 +39,8 @@ protected:
     void focusOutEvent(QFocusEvent*) override {}
 
 private:
+    void NoteNeighbour(QEvent const& event);
+
     CQtWindow* m_Window;
 };
 

@@ -11,25 +11,19 @@
 #include "vexel/platform/qt/detail/qt_widget.h"
 
 #include <QApplication>
-#include <QBackingStore>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QEnterEvent>
 #include <QFocusEvent>
 #include <QHelpEvent>
-#include <QImage>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPaintEngine>
-#include <QPainter>
 #include <QPointer>
-#include <QTimer>
 #include <QWheelEvent>
 #include <QWindow>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -64,8 +58,6 @@ Qt::CursorShape ToShape(int cursor)
 }
 
 }  // namespace
-
-bool CQtWindow::s_ShowRepaints = false;
 
 CQtWindow::CQtWindow(QWidget* parent)
 {
@@ -131,6 +123,7 @@ void CQtWindow::WidgetGoes()
         std::lock_guard const lock(m_WidgetMutex);
         m_Widget = nullptr;
     }
+    GetPixels().UseOwn(false);
     std::weak_ptr<int> const life = GetLifeToken();
     if (!IsDestroying())
         StartDestroying();
@@ -175,6 +168,7 @@ void CQtWindow::SyncSurface()
 {
     if (!m_Widget || IsDestroying())
         return;
+    CheckStore();
     double const ratio = m_Widget->devicePixelRatioF();
     if (std::exchange(m_Ratio, ratio) != ratio && !ForAllNatives([](CQtNativeNode& native) { native.LookChanged(); }))
         return;
@@ -213,51 +207,6 @@ void CQtWindow::RequestFrame()
         QCoreApplication::postEvent(m_Widget, new QEvent(static_cast<QEvent::Type>(CQtWidget::FrameEvent())));
 }
 
-void CQtWindow::PresentDamage()
-{
-    CDamage& damage = GetDevice().GetDamage();
-    if (m_Widget && damage.GetCount() > 0)
-    {
-        // Rectangles that come from top to bottom are only appended to a region.
-        std::array<rectangle<int>, CDamage::Capacity> rects;
-        for (int i = 0; i < damage.GetCount(); ++i)
-            rects[static_cast<std::size_t>(i)] = damage[i];
-        auto const end = rects.begin() + damage.GetCount();
-        std::sort(rects.begin(), end, [](rectangle<int> const& a, rectangle<int> const& b) {
-            return a.top != b.top ? a.top < b.top : a.left < b.left;
-        });
-        QRegion region;
-        for (auto rect = rects.begin(); rect != end; ++rect)
-        {
-            int const left = FloorToInt(rect->left / m_Ratio);
-            int const top = FloorToInt(rect->top / m_Ratio);
-            region +=
-                QRect(left, top, CeilToInt(rect->right / m_Ratio) - left, CeilToInt(rect->bottom / m_Ratio) - top);
-        }
-        m_Widget->update(region);
-        if (s_ShowRepaints)
-            FlashRepaint(region);
-    }
-    damage.Clear();
-}
-
-// The colour lies over what is shown, never on the surface.
-void CQtWindow::FlashRepaint(QRegion const& region)
-{
-    m_Flash += region;
-    QTimer::singleShot(250, m_Widget, [this, life = GetLifeToken()] {
-        if (life.expired() || !m_Widget)
-            return;
-        m_Widget->update(m_Flash);
-        m_Flash = QRegion();
-    });
-}
-
-void CQtWindow::SetShowRepaints(bool show)
-{
-    s_ShowRepaints = show;
-}
-
 void CQtWindow::SyncAllScales()
 {
     // A control that hears of it may delete windows.
@@ -269,90 +218,6 @@ void CQtWindow::SyncAllScales()
         if (!life.expired() && window->m_Widget)
             window->SyncScale();
     }
-}
-
-void CQtWindow::Show(QRegion const& region)
-{
-    if (!m_Widget)
-        return;
-    QPainter painter(m_Widget);
-    QImage const image = ViewPixels(GetPixels());
-    double const ratio = m_Widget->devicePixelRatioF();
-    if (image.isNull())
-        return;
-    if (ratio != m_Ratio)
-    {
-        // The widget came to another screen: this once the old pixels are stretched.
-        QCoreApplication::postEvent(m_Widget, new QEvent(static_cast<QEvent::Type>(CQtWidget::RatioEvent())));
-        painter.drawImage(QRectF(m_Widget->rect()), image, QRectF(image.rect()));
-        return;
-    }
-
-    if (m_Flash.isEmpty() && CopyToStore(region, image, painter))
-        return;
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    if (ratio != 1.0)
-        painter.scale(1.0 / ratio, 1.0 / ratio);
-    int const shownWidth = CeilToInt(m_Widget->width() * ratio);
-    int const shownHeight = CeilToInt(m_Widget->height() * ratio);
-    for (QRect const& rect : region)
-    {
-        int const left = FloorToInt(rect.left() * ratio);
-        int const top = FloorToInt(rect.top() * ratio);
-        int const right = std::min(CeilToInt((rect.left() + rect.width()) * ratio), shownWidth);
-        int const bottom = std::min(CeilToInt((rect.top() + rect.height()) * ratio), shownHeight);
-        painter.drawImage(QPoint(left, top), image, QRect(left, top, right - left, bottom - top));
-        if (right > image.width())
-            painter.drawImage(QRect(image.width(), top, right - image.width(), bottom - top), image,
-                              QRect(image.width() - 1, top, 1, bottom - top));
-        if (bottom > image.height())
-            painter.drawImage(QRect(left, image.height(), right - left, bottom - image.height()), image,
-                              QRect(left, image.height() - 1, right - left, 1));
-    }
-    if (m_Flash.isEmpty())
-        return;
-    painter.resetTransform();
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    for (QRect const& rect : region.intersected(m_Flash))
-        painter.fillRect(rect, QColor(255, 120, 0, 110));
-}
-
-// Straight into the pixels behind the top-level widget, where these can be had: QPainter would share large areas out to
-// threads, which takes longer than the copying. False: nothing was done.
-bool CQtWindow::CopyToStore(QRegion const& region, QImage const& image, QPainter const& painter)
-{
-    QBackingStore const* const store = m_Widget->backingStore();
-    QPaintDevice* const device = store ? const_cast<QBackingStore*>(store)->paintDevice() : nullptr;
-    // The painter may draw elsewhere: into a picture of the widget.
-    if (!device || device->devType() != QInternal::Image || painter.paintEngine()->paintDevice() != device)
-        return false;
-    auto* const target = static_cast<QImage*>(device);
-    QTransform const transform = painter.deviceTransform();
-    if (target->format() != QImage::Format_RGB32 || transform.type() > QTransform::TxScale ||
-        transform.m11() != m_Ratio || transform.m22() != m_Ratio)
-        return false;
-    int const dx = ToInt(std::round(transform.dx()));
-    int const dy = ToInt(std::round(transform.dy()));
-    auto const copy = [&](QRect const& rect) {
-        rectangle<int> area{FloorToInt(rect.left() * m_Ratio), FloorToInt(rect.top() * m_Ratio),
-                            CeilToInt((rect.left() + rect.width()) * m_Ratio),
-                            CeilToInt((rect.top() + rect.height()) * m_Ratio)};
-        area.Intersect({std::max(0, -dx), std::max(0, -dy), target->width() - dx, target->height() - dy});
-        if (area.IsEmpty() || area.right > image.width() || area.bottom > image.height())
-            return area.IsEmpty();
-        uchar* to = target->bits() + std::ptrdiff_t{area.top + dy} * target->bytesPerLine() +
-                    std::ptrdiff_t{area.left + dx} * 4;
-        uchar const* from = image.constScanLine(area.top) + std::ptrdiff_t{area.left} * 4;
-        for (int y = area.top; y < area.bottom; ++y)
-        {
-            CopyPixelRow(reinterpret_cast<std::uint32_t*>(to), reinterpret_cast<std::uint32_t const*>(from),
-                         area.Width());
-            to += target->bytesPerLine();
-            from += image.bytesPerLine();
-        }
-        return true;
-    };
-    return std::all_of(region.begin(), region.end(), copy);
 }
 
 void CQtWindow::WakeQueue()
@@ -606,6 +471,7 @@ bool CQtWindow::HandleEvent(QEvent& event)
     }
     case QEvent::Hide:
     {
+        LeaveStore();
         ReleaseMouse();
         HideTooltip();
         if (m_OwnPopup)

@@ -2,6 +2,7 @@
 
 #include "vexel/platform/base_window.h"
 #include "vexel/platform/qt/detail/qt_input.h"
+#include "vexel/platform/qt/detail/store_pixels.h"
 
 #include <QRegion>
 
@@ -10,7 +11,6 @@
 #include <vector>
 
 class QEvent;
-class QImage;
 class QPainter;
 class QWidget;
 
@@ -47,6 +47,8 @@ public:
     // From ISysWindow ---------------------------------------------------------------------------------------------
     void SetFocus() override;
     bool HasFocus() const override;
+    IPainter* GetPainter() override;
+    void ScrollPixels(int dx, int dy, screen_rectangle<int> const& area) override;
     void SetCursor(int cursor) override;
     void CaptureMouse() override;
     void ReleaseMouse() override;
@@ -67,6 +69,8 @@ public:
     void Show(QRegion const& region);  ///< Shows this part of the surface, in the widget's coordinates.
     void SyncSurface();                ///< The surface takes the widget's size and ratio.
     void WidgetGoes();
+    void NeighbourComes();  ///< Another widget stands in, or beside, the window's.
+    void NeighbourMoves();
     bool IsNativeFocused() const;  ///< A native control of the window has the focus.
     /// Moves the focus out of the window: forward into the native controls that Tab goes to, then to other widgets.
     /// Where there is nobody else it comes back in from the other end.
@@ -97,6 +101,7 @@ protected:
     void RequestFrame() override;
     void PresentDamage() override;
     void WakeQueue() override;
+    void BeforePaint() override;
     void AfterPaint() override;
 
 private:
@@ -113,14 +118,35 @@ private:
     bool PressOutside(QEvent& event);
     size<int> GetWantedSize() const;
 
-    bool CopyToStore(QRegion const& region, QImage const& image, QPainter const& painter);
+    // What is painted lies in a surface of the window's own, or straight in the backing store
+    bool IsInStore() const;
+    SStorePixels FindStore() const;
+    size<int> GetSurfaceSize() const { return GetPixels().GetSize(); }
+    size<int> GetShownSize() const;
+    bool MayUseStore() const;
+    void EnterStore();
+    void LeaveStore();
+    void CheckStore();
+    bool IsPaintedToStore() const;
+    bool PaintNow();
+    bool CopyToStore(QRegion const& region);
+    void RestoreChildren(QRegion const& region);
+    void Draw(QPainter& painter, QRegion const& region);
+    QRegion GetChildRegion() const;
+    QRect ToQtRect(rectangle<int> const& pixels) const;
+    QRegion ToQtRegion(CDamage const& damage) const;
     void FlashRepaint(QRegion const& region);
 
     static bool s_ShowRepaints;
 
     CQtWidget* m_Widget = nullptr;
-    QRegion m_Flash;           // what is shown as just repainted
-    std::mutex m_WidgetMutex;  // between posting threads and the end of the widget
+    SStorePixels m_Store;          // the backing store's pixels that the window was last shown in
+    bool m_HasNeighbours = false;  // others that may paint on the store where the window stands
+    bool m_Suspect = false;        // one of them has come, moved or gone since the last paint event
+    QRegion m_Missing;             // what is to be shown yet, in the widget's coordinates
+    bool m_Showing = false;        // in a paint event of the widget
+    QRegion m_Flash;               // what is shown as just repainted
+    std::mutex m_WidgetMutex;      // between posting threads and the end of the widget
     double m_Ratio = 1.0;
     int m_Cursor = 0;
     std::vector<CQtNativeNode*> m_Natives;  // in the order of their making

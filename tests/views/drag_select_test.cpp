@@ -1,0 +1,341 @@
+// Selecting with the button held, and who hears of a selection when.
+
+#include "tests/views/viewer_bench.h"
+
+using namespace viewer_test;
+
+namespace
+{
+
+class DragSelect : public CRowsBench<IDiscreteItemViewModel>
+{
+protected:
+    int Start() { return View().GetStartItem(); }
+    CVisualElement* Capture() { return m_Host.Root()->GetControl()->GetCapture(); }
+    void Begin(int from, int to)
+    {
+        m_Host.Mouse().Press(*m_Rows, 5, from);
+        m_Host.Mouse().Move(*m_Rows, 5, to);
+    }
+    bool IsRepeating() { return m_Host.Clock().GetRunningTimers() > 0; }
+};
+
+TEST_F(DragSelect, BeginsOnlyWhereTheSensitivityIsPassed)
+{
+    Begin(25, 27);
+    EXPECT_EQ(Capture(), nullptr);
+    m_Host.Mouse().Move(*m_Rows, 7, 25);
+    EXPECT_EQ(Capture(), nullptr);
+    m_Host.Mouse().Move(*m_Rows, 8, 25);
+    EXPECT_EQ(Capture(), m_Rows);
+    m_Host.Mouse().Release();
+    EXPECT_EQ(Capture(), nullptr);
+    Begin(25, 28);
+    EXPECT_EQ(Capture(), m_Rows);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragSelect, InsideTheViewIsARowOfShiftClicks)
+{
+    Begin(25, 35);
+    EXPECT_EQ(Selected(), "2 3");
+    m_Host.Mouse().Move(*m_Rows, 5, 45);
+    EXPECT_EQ(Selected(), "2 3 4");
+    m_Host.Mouse().Move(*m_Rows, 5, 5);
+    EXPECT_EQ(Selected(), "0 1 2");
+    EXPECT_EQ(Current(), 0);
+    EXPECT_EQ(Handler().GetAnchor(), 2);
+    EXPECT_FALSE(IsRepeating());
+    m_Host.Mouse().Release();
+    m_Host.Mouse().Move(*m_Rows, 5, 45);
+    EXPECT_EQ(Selected(), "0 1 2");
+}
+
+TEST_F(DragSelect, PastTheTopScrollsByARowATickAndStopsAtTheFirst)
+{
+    View().SetStartItem(3);
+    Settle();
+    Begin(25, 15);  // from row 5 to row 4
+    m_Host.Mouse().Move(*m_Rows, 5, -10);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssBackward);
+    EXPECT_EQ(Start(), 3);
+    m_Host.Clock().Advance(99);
+    EXPECT_EQ(Start(), 3);
+    m_Host.Clock().Advance(1);
+    EXPECT_EQ(Start(), 2);
+    EXPECT_EQ(Selected(), "2 3 4 5");
+    EXPECT_EQ(Handler().GetAnchor(), 5);
+    m_Host.Clock().Advance(200);
+    EXPECT_EQ(Start(), 0);
+    EXPECT_TRUE(IsRepeating());
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Start(), 0);
+    EXPECT_FALSE(IsRepeating());
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
+    EXPECT_EQ(Selected(), "0 1 2 3 4 5");
+    EXPECT_EQ(Current(), 0);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragSelect, PastTheBottomScrollsUntilTheLastRowIsSelected)
+{
+    Begin(25, 35);
+    m_Host.Mouse().Move(*m_Rows, 5, 60);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssForward);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Start(), 1);
+    EXPECT_EQ(Current(), 4);  // the last in view before the scroll
+    m_Host.Clock().Advance(400);
+    EXPECT_EQ(Start(), 5);
+    EXPECT_EQ(Current(), 8);
+    EXPECT_TRUE(IsRepeating());
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Start(), 6);
+    EXPECT_EQ(Current(), 9);
+    EXPECT_FALSE(IsRepeating());
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
+    EXPECT_EQ(Selected(), "2 3 4 5 6 7 8 9");
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragSelect, ComingBackStopsTheScrolling)
+{
+    Begin(25, 35);
+    m_Host.Mouse().Move(*m_Rows, 5, 60);
+    m_Host.Clock().Advance(200);
+    EXPECT_EQ(Start(), 2);
+    m_Host.Mouse().Move(*m_Rows, 5, 25);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
+    EXPECT_FALSE(IsRepeating());
+    EXPECT_EQ(Current(), 4);
+    EXPECT_EQ(Selected(), "2 3 4");
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragSelect, LettingGoOutsideStopsTheScrolling)
+{
+    Begin(25, 35);
+    m_Host.Mouse().Move(*m_Rows, 5, 60);
+    m_Host.Mouse().Release();
+    EXPECT_FALSE(IsRepeating());
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
+    EXPECT_EQ(Capture(), nullptr);
+}
+
+TEST_F(DragSelect, TheWayCannotTurnWithoutComingBack)
+{
+    View().SetStartItem(3);
+    Settle();
+    Begin(25, 35);
+    m_Host.Mouse().Move(*m_Rows, 5, 60);
+    m_Host.Mouse().Move(*m_Rows, 5, -10);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssForward);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragSelect, BehindTheLastRowOfAShortListGoesForward)
+{
+    View().SetCount(3);
+    Settle();
+    Begin(5, 15);
+    m_Host.Mouse().Move(*m_Rows, 5, 45);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssForward);
+    m_Host.Clock().Advance(100);
+    EXPECT_FALSE(IsRepeating());
+    EXPECT_EQ(Start(), 0);
+    EXPECT_EQ(Selected(), "0 1 2");
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragSelect, TheHelperStartsAndStopsByTheSameRule)
+{
+    Handler().ProcessScrolling(-1, 70);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssForward);
+    EXPECT_TRUE(IsRepeating());
+    Handler().ProcessScrolling(3, 10);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
+    EXPECT_FALSE(IsRepeating());
+    Handler().ProcessScrolling(3, -1);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssBackward);
+    Handler().StopScrolling();
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
+    EXPECT_FALSE(IsRepeating());
+}
+
+TEST_F(DragSelect, AMoveWithTheButtonUpForgetsThePress)
+{
+    m_Host.Mouse().Press(*m_Rows, 5, 25);
+    m_Host.Mouse().LoseRelease();
+    m_Host.Mouse().Move(*m_Rows, 5, 26);
+    EXPECT_EQ(Capture(), nullptr);
+    m_Rows->HandleMouseMove(5, 45, 1, mbLeft);  // held again, but pressed elsewhere
+    EXPECT_EQ(Capture(), nullptr);
+}
+
+// Pixels -------------------------------------------------------------------------------------------------------------------
+TEST_F(DragSelect, PixelsAreMovedOnlyWhereSomeStay)
+{
+    EXPECT_FALSE(Handler().ScrollItems(0, 0));
+    EXPECT_FALSE(Handler().ScrollItems(-1, 10));
+    EXPECT_FALSE(Handler().ScrollItems(50, 10));
+    EXPECT_FALSE(Handler().ScrollItems(0, 50));
+    EXPECT_FALSE(Handler().ScrollItems(0, -50));
+    EXPECT_TRUE(Handler().ScrollItems(49, 10));
+    EXPECT_TRUE(Handler().ScrollItems(0, 49));
+    EXPECT_TRUE(Handler().ScrollItems(0, -49));
+    m_Rows->SetVisible(false);
+    EXPECT_FALSE(Handler().ScrollItems(0, 10));
+}
+
+TEST_F(DragSelect, TheModelsOfferIsTakenOnlyIfItIsOne)
+{
+    bool handled = false;
+    Handler().OnRowViewModelScroll(0, -10, &handled);
+    EXPECT_FALSE(handled);
+    EXPECT_TRUE(m_Host.IsFramePending());
+    handled = true;
+    Handler().OnRowViewModelScroll(0, -10, &handled);
+    EXPECT_TRUE(handled);
+    Handler().OnRowViewModelScroll(0, 0, &handled);
+    EXPECT_FALSE(handled);
+    handled = true;
+    CDiscreteItemEventHandler alone;
+    alone.OnRowViewModelScroll(0, -10, &handled);
+    EXPECT_FALSE(handled);
+}
+
+// Notifications ------------------------------------------------------------------------------------------------------------
+TEST_F(DragSelect, NobodyIsToldOfASelectionUnlessItIsWanted)
+{
+    CSignalLog log(m_Rows->m_SigSelectionChanged, "told");
+    Click(25);
+    m_Host.RunPending();
+    EXPECT_EQ(log.Text(), "");
+    EXPECT_EQ(m_Host.Pending().find("posted"), std::string::npos);
+}
+
+TEST_F(DragSelect, OneNotificationComesAfterTheEvent)
+{
+    Handler().SetNotifySelection(true);
+    CSignalLog log(Handler().m_SigSelectionChanged, "handler");
+    log.Add(m_Rows->m_SigSelectionChanged, "viewer");
+    Click(25);
+    Click(45, ksShift);
+    EXPECT_EQ(log.Text(), "");
+    EXPECT_EQ(m_Host.RunPending(), 1);
+    EXPECT_EQ(log.Take(), "viewer() handler()");
+    Selection().ClearSelection();
+    EXPECT_EQ(m_Host.RunPending(), 1);
+    EXPECT_EQ(log.Take(), "viewer() handler()");
+}
+
+TEST_F(DragSelect, AHeldKeyNotifiesOnceAfterTheDelay)
+{
+    SetSelectionChangeDelay(200);
+    EXPECT_EQ(GetSelectionChangeDelay(), 200);
+    Handler().SetNotifySelection(true);
+    CSignalLog log(m_Rows->m_SigSelectionChanged, "told");
+    for (int i = 0; i < 4; ++i)
+    {
+        m_Host.Keyboard().Down(vkDown);
+        m_Host.RunPending();
+        m_Host.Clock().Advance(150);
+    }
+    EXPECT_EQ(log.Text(), "");
+    m_Host.Clock().Advance(49);
+    EXPECT_EQ(log.Text(), "");
+    m_Host.Clock().Advance(1);
+    EXPECT_EQ(log.Take(), "told()");
+    m_Host.Clock().Advance(1000);
+    m_Host.RunPending();
+    EXPECT_EQ(log.Text(), "");
+    Click(5);
+    m_Host.RunPending();
+    EXPECT_EQ(log.Take(), "told()");
+    SetSelectionChangeDelay(0);
+}
+
+TEST_F(DragSelect, WithoutSelectionNobodyIsTold)
+{
+    Handler().SetNotifySelection(true);
+    CSignalLog log(Handler().m_SigSelectionChanged, "told");
+    Click(25);
+    Handler().SetSelectionType(CEventHandlerBase::stNone);
+    m_Host.RunPending();
+    EXPECT_EQ(log.Text(), "");
+    Handler().SetSelectionType(CEventHandlerBase::stFree);
+    Handler().NotifySelectionChanged();  // the pending one is gone
+    EXPECT_EQ(log.Text(), "");
+    Click(45);
+    m_Host.RunPending();
+    EXPECT_EQ(log.Text(), "told()");
+}
+
+TEST_F(DragSelect, ANotificationThatWaitsOutlivesNobody)
+{
+    Handler().SetNotifySelection(true);
+    Click(25);
+    delete m_Rows;
+    m_Host.RunPending();
+    m_Host.Paint();
+}
+
+TEST_F(DragSelect, APendingNotificationGoesWithItsWindow)
+{
+    Handler().SetNotifySelection(true);
+    Click(25);
+    m_Host.DestroyWindow();
+    EXPECT_EQ(m_Host.RunPending(), 0);
+}
+
+TEST_F(DragSelect, AListThatMovesToAnotherWindowStillNotifies)
+{
+    CTestHost other(100, 51);
+    Handler().SetNotifySelection(true);
+    CSignalLog log(Handler().m_SigSelectionChanged, "told");
+    Click(25);
+    m_Rows->ReParent(other.Root(), true);
+    m_Host.DestroyWindow();
+    other.Paint();
+    Selection().SelectItem(7, true);
+    other.RunPending();
+    EXPECT_EQ(log.Text(), "told()");
+}
+
+// Focus --------------------------------------------------------------------------------------------------------------------
+TEST_F(DragSelect, AChangeOfFocusMarksTheSelectedRows)
+{
+    Selection().SetCurrent(2);
+    Selection().SetSelectionRange(1, 3);
+    Settle();
+    Handler().ProcessLostFocus(nullptr);
+    EXPECT_EQ(Dirty(Selection(), 12), "1-3");
+    Selection().OnEndDraw();
+    bool handled = false;
+    Handler().ProcessGetFocus(&handled);
+    EXPECT_EQ(Dirty(Selection(), 12), "1-3");
+    EXPECT_FALSE(handled);
+    Selection().SetSelectionRange(1, 6);
+    Settle();
+    Handler().ProcessGetFocus(&handled);
+    EXPECT_EQ(Dirty(Selection(), 12), "1-6");
+    Selection().SetSelectionRange(1, 7);
+    Settle();
+    Handler().ProcessGetFocus(&handled);
+    EXPECT_EQ(Dirty(Selection(), 12), "0-12");
+}
+
+TEST_F(DragSelect, TheSelectedRowsAreRepaintedWhenTheFocusGoesAndComes)
+{
+    auto* const leaf = new CVisualElement(m_Host.Root(), {10, 10}, alNone);
+    leaf->SetCanHaveFocus(true);
+    GoTo(2);
+    leaf->SetFocus(true);
+    EXPECT_EQ(Paint(),
+              "0 state 0 other, 1 state 0 other, 2 state 3 item, 3 state 0 other, 4 state 0 other, 5 state 0 other");
+    m_Rows->SetFocus(true);
+    EXPECT_EQ(Paint(),
+              "0 state 0 other, 1 state 0 other, 2 state 3 item, 3 state 0 other, 4 state 0 other, 5 state 0 other");
+}
+
+}  // namespace
