@@ -7,8 +7,6 @@
 namespace vexel
 {
 
-IDrawingContext::~IDrawingContext() = default;
-
 unsigned long CDrawingContext::GetPixel(long x, long y)
 {
     return m_Painter

@@ -1,21 +1,13 @@
 #pragma once
 
+#include "vexel/antialiasing/drawing_context.h"
 #include "vexel/core/fwd.h"
 #include "vexel/export.h"
 
 namespace vexel
 {
 
-/// Where antialiased rendering reads and writes its pixels. Values are 0x00BBGGRR.
-class VEXEL_API IDrawingContext
-{
-public:
-    virtual ~IDrawingContext();
-    virtual unsigned long GetPixel(long x, long y) = 0;
-    virtual void SetPixel(long x, long y, unsigned long value) = 0;
-};
-
-/// The same on a painter: a pixel stands at its position times scale plus origin, in the painter's logical units.
+/// A drawing context on a painter: a pixel stands at its position times scale plus origin, in the painter's logical units.
 class VEXEL_API CDrawingContext : public IDrawingContext
 {
 public:

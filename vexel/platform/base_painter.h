@@ -90,6 +90,7 @@ public:
     void DrawXPM(XPMImage const& image, double x, double y, int sourceX, int sourceY, int sourceWidth, int sourceHeight,
                  RasterOperation operation) override;
     double GetDPIScale() const override;
+    void EditPixels(rectangle<int> const& area, IPixelEditor& editor) override;
 
     using IPainter::ConvertCoord2;
     using IPainter::DeconvertCoord2;

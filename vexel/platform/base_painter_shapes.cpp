@@ -255,4 +255,9 @@ _color CBasePainter::GetPixel(double x, double y) const
     return CPixelBuffer::ToColor(m_Device.ReadPixel(position.x, position.y));
 }
 
+void CBasePainter::EditPixels(rectangle<int> const& area, IPixelEditor& editor)
+{
+    m_Clip.ForEach(area, [&](rectangle<int> const& part) { m_Device.Edit(part, editor); });
+}
+
 }  // namespace vexelbase

@@ -11,6 +11,7 @@ namespace vexelbase
 {
 
 class CPixelBuffer;
+class IPixelEditor;
 
 /// What a backend must be able to do for the painter. All coordinates are device pixels; rectangles exclude their right
 /// and bottom edge and have already been cut to the clip, but not to the surface. Pixels are words 0xFFRRGGBB.
@@ -36,6 +37,8 @@ public:
     virtual void Extract(rectangle<int> const& area, CPixelBuffer& picture, point<int> const& position) = 0;
     /// The pixels that are painted on, so that a picture drawn onto itself is recognized; null if there are none.
     virtual CPixelBuffer const* GetTarget() const { return nullptr; }
+    /// Lets the editor change the part of `area` that lies on the surface. By default by ReadPixel and Fill, one by one.
+    virtual void Edit(rectangle<int> const& area, IPixelEditor& editor);
 
     // Text: one unbroken run, UTF-8, ill-formed bytes shown as replacement characters ------------------------------
     struct SRun

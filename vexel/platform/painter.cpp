@@ -2,6 +2,8 @@
 
 #include "vexel/platform/convert.h"
 #include "vexel/platform/paint_device.h"
+#include "vexel/platform/pixel_buffer.h"
+#include "vexel/platform/pixel_editor.h"
 
 namespace vexelbase
 {
@@ -38,6 +40,24 @@ size<double> IPainter::DrawString(rectangle<double> const& rect, std::string con
 {
     int const length = SaturateToInt(static_cast<std::int64_t>(text.size()));
     return DrawString(rect, text.c_str(), flags, count < 0 || count > length ? length : count);
+}
+
+void IPainter::EditPixels(rectangle<int> const& area, IPixelEditor& editor)
+{
+    EditPixelCopy(
+        area, editor, [this](int x, int y) { return CPixelBuffer::ToPixel(GetPixel(x, y)); },
+        [this](int x, int y, std::uint32_t pixel) { SetPixel(x, y, CPixelBuffer::ToColor(pixel)); });
+}
+
+void IPaintDevice::Edit(rectangle<int> const& area, IPixelEditor& editor)
+{
+    rectangle<int> part = area;
+    part.Intersect({0, 0, GetSize().width, GetSize().height});
+    EditPixelCopy(
+        part, editor, [this](int x, int y) { return ReadPixel(x, y); },
+        [this](int x, int y, std::uint32_t pixel) {
+            Fill({x, y, x + 1, y + 1}, pixel, IPainter::roCopy);
+        });
 }
 
 }  // namespace vexelbase

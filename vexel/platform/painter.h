@@ -14,6 +14,7 @@
 namespace vexelbase
 {
 
+class IPixelEditor;
 class XPMImage;
 
 /// Draws on a window's surface or on a picture. Coordinates are logical unless a group says otherwise: they go through
@@ -227,6 +228,12 @@ public:
                          int sourceHeight, RasterOperation operation) = 0;
 
     virtual double GetDPIScale() const = 0;  ///< Widgets multiply their pixel constants by it.
+
+    // Pixels in bulk ----------------------------------------------------------------------------------------------
+    /// Lets the editor change what the clip leaves of an area of device pixels (half-open), in as many parts as that
+    /// takes; none twice. Only with the mapping mmDevice. By default it is done by GetPixel and SetPixel, a pixel at a
+    /// time, of which the latter keeps to the clip.
+    virtual void EditPixels(rectangle<int> const& area, IPixelEditor& editor);
 
     // State that the framework reads and writes -------------------------------------------------------------------
     bool m_Painting = false;  ///< A bracket is open.

@@ -2,6 +2,7 @@
 
 #include "vexel/platform/convert.h"
 #include "vexel/platform/detail/pixel_transfer.h"
+#include "vexel/platform/pixel_editor.h"
 
 #include <algorithm>
 
@@ -169,6 +170,13 @@ void CRasterDevice::Extract(rectangle<int> const& area, CPixelBuffer& picture, p
         point<int> const from{static_cast<int>(to.left - dx), static_cast<int>(to.top - dy)};
         detail::CopyPixels(picture, to, m_Pixels, from, IPainter::roCopy);
     }
+}
+
+void CRasterDevice::Edit(rectangle<int> const& area, IPixelEditor& editor)
+{
+    rectangle<int> part = area;
+    if (Touch(part))
+        editor.Edit({part, m_Pixels.Row(part.top) + part.left, m_Pixels.GetWidth()});
 }
 
 bool CRasterDevice::Move(rectangle<int> const& area, int dx, int dy)

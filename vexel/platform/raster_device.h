@@ -50,6 +50,7 @@ public:
     void Blend(rectangle<int> const& area, CPixelBuffer const& picture, point<int> const& origin, int alpha) override;
     void Extract(rectangle<int> const& area, CPixelBuffer& picture, point<int> const& position) override;
     CPixelBuffer const* GetTarget() const override { return &m_Pixels; }
+    void Edit(rectangle<int> const& area, IPixelEditor& editor) override;  ///< In place.
 
     /// Moves the pixels of `area` now, overlaps included; source and target are cut to the surface.
     /// Returns false if some target pixel of the surface had its source outside.

@@ -389,4 +389,12 @@ void CMemoryPainter::DrawXPM(XPMImage const& image, double x, double y, int sour
     CBasePainter::DrawXPM(image, x, y, sourceX, sourceY, sourceWidth, sourceHeight, operation);
 }
 
+void CMemoryPainter::EditPixels(rectangle<int> const& area, IPixelEditor& editor)
+{
+    if (g_Recorder && m_Silent == 0)
+        IPainter::EditPixels(area, editor);
+    else
+        CBasePainter::EditPixels(area, editor);
+}
+
 }  // namespace vexelbase::memory

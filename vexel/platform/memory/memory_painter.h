@@ -74,6 +74,8 @@ public:
     void AlphaBlend(double left, double top, double right, double bottom, IRasterPicture* picture, int alpha) override;
     void DrawXPM(XPMImage const& image, double x, double y, int sourceX, int sourceY, int sourceWidth, int sourceHeight,
                  RasterOperation operation) override;
+    /// Told to a recorder as the SetPixel calls that it amounts to, of the pixels that change.
+    void EditPixels(rectangle<int> const& area, IPixelEditor& editor) override;
 
 private:
     class CCall;

@@ -1,0 +1,8 @@
+#include "vexel/antialiasing/drawing_context.h"
+
+namespace vexel
+{
+
+IDrawingContext::~IDrawingContext() = default;
+
+}  // namespace vexel
