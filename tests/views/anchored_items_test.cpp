@@ -145,6 +145,24 @@ TEST(EqualItems, TakeTheCurrentItemOfTheAnchorModelIfNoItemIsFixed)
     EXPECT_EQ(model.GetStartItem(), 0);
 }
 
+TEST(EqualItems, ForgetAnAnchorModelThatDies)
+{
+    CTenEqualItems model;
+    {
+        CDefaultSelectionModel selection;
+        selection.SetCurrent(8);
+        model.SetAnchorModel(&selection);
+        model.SetViewSize(30, false);
+        EXPECT_EQ(model.GetStartItem(), 6);
+        CDefaultSelectionModel other;
+        model.SetAnchorModel(&other);
+        model.SetAnchorModel(&selection);
+    }
+    EXPECT_EQ(model.GetAnchorModel(), nullptr);
+    model.SetViewSize(20, false);
+    EXPECT_EQ(model.GetStartItem(), 6);
+}
+
 TEST(EqualItems, TellTheirSizeAfterTheirStart)
 {
     CTenEqualItems model;

@@ -104,6 +104,15 @@ void CSimpleDiscreteItemViewModel::SetStartItem(int item)
     m_SigChanged();
 }
 
+void CItemAnchor::SetAnchorModel(ISelectionModel* model)
+{
+    if (m_AnchorModel)
+        m_AnchorModel->m_SigDestroy.disconnect(this, &CItemAnchor::AnchorModelDies);
+    m_AnchorModel = model;
+    if (m_AnchorModel)
+        m_AnchorModel->m_SigDestroy.connect(this, &CItemAnchor::AnchorModelDies);
+}
+
 int CItemAnchor::FindAnchor() const
 {
     return m_AnchorItem < 0 && m_AnchorModel ? m_AnchorModel->GetCurrent() : m_AnchorItem;

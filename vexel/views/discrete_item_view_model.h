@@ -55,21 +55,23 @@ private:
 };
 
 /// The item that stays in view when the view gets another size: a fixed one, else the current one of a model.
-class VEXEL_API CItemAnchor
+class VEXEL_API CItemAnchor : public subscriber_base_t
 {
 public:
     /// Below 0: the current item of the anchor model. Takes effect with the next change of the view.
     void SetAnchorItem(int item) { m_AnchorItem = item; }
     int GetAnchorItem() const { return m_AnchorItem; }
-    /// Null: none. Not owned: it must outlive this object or be replaced first.
-    void SetAnchorModel(ISelectionModel* model) { m_AnchorModel = model; }
+    /// Null: none. Not owned; it is forgotten when it dies.
+    void SetAnchorModel(ISelectionModel* model);
     ISelectionModel* GetAnchorModel() const { return m_AnchorModel; }
 
 protected:
-    ~CItemAnchor() = default;
+    ~CItemAnchor() override = default;
     int FindAnchor() const;  ///< Below 0: none.
 
 private:
+    void AnchorModelDies(IBaseItemsModel*) { m_AnchorModel = nullptr; }
+
     int m_AnchorItem = -1;
     ISelectionModel* m_AnchorModel = nullptr;
 };
