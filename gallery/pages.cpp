@@ -7,6 +7,7 @@
 #include "gallery/pages/boxes_page.h"
 #include "gallery/pages/buttons_page.h"
 #include "gallery/pages/captions_page.h"
+#include "gallery/pages/chart_page.h"
 #include "gallery/pages/docking_page.h"
 #include "gallery/pages/drag_drop_page.h"
 #include "gallery/pages/edges_page.h"
@@ -92,6 +93,9 @@ SPage const g_Pages[] = {
      &Make<CGridPage>},
     {"axes", "Axes", "Their steps follow from the width of their labels. Drag the range, zoom by the wheel.",
      &Make<CAxesPage>},
+    {"chart", "A chart of millions of points",
+     "Days above, hours below. Drag it, turn the wheel (Shift: along, Control: up and down), double-click to see all.",
+     &Make<CChartPage>},
     {"bar", "Bars of sections", "Click, Shift and Control; drag dividers, sections, and the free edge of the left bar.",
      &Make<CBarPage>},
     {"zoomer", "Zoomer and rolls", "Drag the thumb, or press beside it. A click on a strip rolls its panel up.",

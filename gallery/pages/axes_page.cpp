@@ -16,16 +16,11 @@ namespace
 {
 
 constexpr int s_AxisDepth = 30;
-constexpr double s_ZoomStep = 0.8;     // a notch of the wheel
-constexpr double s_FinestZoom = 1e-6;  // units of a pixel
-constexpr double s_WidestZoom = 10;
 constexpr double s_Minute = 0.1;  // units of a pixel at first
 constexpr double s_Metre = 0.13;
 constexpr double s_FirstMinute = -6;
 constexpr int s_CurveStep = 2;  // pixels
 
-_color const g_MinorLine = _color::FromRgb(0xEE, 0xEE, 0xF2);
-_color const g_MajorLine = _color::FromRgb(0xC0, 0xC4, 0xD0);
 _color const g_Curve = _color::FromRgb(0xC0, 0x30, 0x20);
 _color const g_Column = _color::FromRgb(0x60, 0x90, 0xD0);
 
@@ -47,130 +42,34 @@ double DepthAt(double minute)
     return high + (low - high) * (time - from) / (to - from);
 }
 
-// Lines of the pane at the ticks of an axis.
-void DrawGrid(IPainter* painter, CAxis const& axis, rectangle<double> const& pane)
-{
-    auto const draw = [&](std::vector<double> const& ticks, _color const& color) {
-        painter->SetPen({color, pen::psSolid, 1});
-        for (double const tick : ticks)
-        {
-            bool const upright = axis.GetAlignment() == alTop || axis.GetAlignment() == alBottom;
-            painter->MoveTo(upright ? tick : pane.left, upright ? pane.top : tick);
-            painter->LineTo(upright ? tick : pane.right, upright ? pane.bottom : tick);
-        }
-    };
-    draw(axis.GetMinorTicks(), g_MinorLine);
-    draw(axis.GetMajorTicks(), g_MajorLine);
-}
-
 }  // namespace
 
-// A curve over a grid. It is dragged by the mouse and zoomed by the wheel about the pointer.
-class CAxesPage::CPlot : public CCentralPart
+// The depth of a dive over a grid.
+class CAxesPage::CPlot : public chart::CGraph
 {
 public:
-    CPlot(CVisualElement* parent, CRange& horz, CRange& vert) : CCentralPart(parent, {0, 0}, alClient)
-    {
-        SetHorzScroll(&horz);
-        SetVertScroll(&vert);
-    }
-    signal_t<double, double> m_SigShown;  // the first and the last minute in view
+    using CGraph::CGraph;
 
-    // The grid is that of the first two.
-    void SetAxes(std::vector<CAxis*> axes) { m_Axes = std::move(axes); }
-
-    // The axes come first: the grid takes their ticks.
-    void ShowRange()
+protected:
+    void DrawGraph(IPainter* painter) override
     {
-        for (CAxis* const axis : m_Axes)
-            axis->Update(utElement);
-        Update(utElement);
-        double const start = GetHorzScroll()->GetStart();
-        m_SigShown(start, start + GetBounds().Width() * GetHorzScroll()->GetMeasure().first);
-    }
-
-protected:  // From CVisualElement
-    void DrawContent(IPainter* painter) override
-    {
-        rectangle<int> const bounds = GetBounds();
-        painter->FillRect(0, 0, bounds.right, bounds.bottom);
-        CClipHolder const clip(painter, GetDrawRect(painter));
-        SetCoordSystem(painter);
-        rectangle<double> const pane = GetDrawRect(painter);
-        for (std::size_t i = 0; i < std::min<std::size_t>(m_Axes.size(), 2); ++i)
-            DrawGrid(painter, *m_Axes[i], pane);
         painter->SetPen({g_Curve, pen::psSolid, 2});
-        double const pixel = GetHorzScroll()->GetMeasure().first;
-        double const start = GetHorzScroll()->GetStart();
-        for (int x = -s_CurveStep; x <= bounds.right + s_CurveStep; x += s_CurveStep)
+        double const pixel = m_Horz.GetUnitsOfPixel();
+        double const start = m_Horz.GetStart();
+        for (int x = -s_CurveStep; x <= GetBounds().right + s_CurveStep; x += s_CurveStep)
         {
             double const minute = start + x * pixel;
             x < 0 ? painter->MoveTo(minute, DepthAt(minute)) : painter->LineTo(minute, DepthAt(minute));
         }
     }
-    bool HandleButtonDown(int x, int y, int, MouseButton button) override
-    {
-        if (button != mbLeft)
-            return false;
-        m_Last = {x, y};
-        m_Held = true;
-        CaptureMouse();
-        return true;
-    }
-    bool HandleMouseMove(int x, int y, int, MouseButton button) override
-    {
-        if (button != mbLeft || !m_Held)
-            return false;
-        Move(*GetHorzScroll(), m_Last.x - x);
-        Move(*GetVertScroll(), m_Last.y - y);
-        m_Last = {x, y};
-        ShowRange();
-        return true;
-    }
-    bool HandleButtonUp(int, int, int, MouseButton button) override
-    {
-        if (button != mbLeft)
-            return false;
-        m_Held = false;
-        ReleaseMouse();
-        return true;
-    }
-    bool HandleWheel(int x, int y, int, MouseButton, int delta) override
-    {
-        Zoom(*GetHorzScroll(), x, delta);
-        Zoom(*GetVertScroll(), y, delta);
-        ShowRange();
-        return true;
-    }
-
-private:
-    static void Show(IScrollModel& model, double start)
-    {
-        model.SetStart(std::clamp(start, model.GetFrom(), model.GetTo()));
-    }
-    static void Move(IScrollModel& model, double pixels)
-    {
-        Show(model, model.GetStart() + pixels * model.GetMeasure().first);
-    }
-    // What lies so many pixels from the start stays where it is.
-    static void Zoom(IScrollModel& model, double pixels, int notches)
-    {
-        double const now = model.GetMeasure().first;
-        double const next = std::clamp(now * std::pow(s_ZoomStep, notches), s_FinestZoom, s_WidestZoom);
-        model.SetMeasure({next, 1});
-        Show(model, model.GetStart() + pixels * (now - next));
-    }
-
-    std::vector<CAxis*> m_Axes;
-    point<int> m_Last;
-    bool m_Held = false;
 };
 
 // A column for each month; all of them fill the pane.
 class CAxesPage::CColumns : public CCentralPart
 {
 public:
-    CColumns(CVisualElement* parent, CRange& months, CRange& rain) : CCentralPart(parent, {0, 0}, alClient)
+    CColumns(CVisualElement* parent, chart::CRange& months, chart::CRange& rain)
+        : CCentralPart(parent, {0, 0}, alClient)
     {
         SetHorzScroll(&months);
         SetVertScroll(&rain);
@@ -192,7 +91,7 @@ protected:
         painter->FillRect(0, 0, bounds.right, bounds.bottom);
         CClipHolder const clip(painter, GetDrawRect(painter));
         SetCoordSystem(painter);
-        DrawGrid(painter, *m_Axis, GetDrawRect(painter));
+        chart::DrawGrid(painter, *m_Axis, GetDrawRect(painter));
         painter->SetBrush({g_Column, brush::bsSolid});
         for (std::size_t i = 0; i < g_RainOfMonth.size(); ++i)
         {
@@ -247,16 +146,12 @@ void CAxesPage::Build(CVisualElement* parent)
     feet->SetUnitConverter(&m_Feet);
     plot->SetAxes({minutes, metres, hours, feet});
 
-    auto const serve = [](CCentralPart* pane, std::initializer_list<CAxis*> axes) {
-        for (CAxis* const axis : axes)
-        {
-            axis->SetCentralPane(pane);
-            axis->SetHorzScroll(pane->GetHorzScroll());
-            axis->SetVertScroll(pane->GetVertScroll());
-        }
-    };
-    serve(plot, {minutes, hours, metres, feet});
-    serve(columns, {months, rain});
+    for (CAxis* const axis : std::initializer_list<CAxis*>{months, rain})
+    {
+        axis->SetCentralPane(columns);
+        axis->SetHorzScroll(&m_MonthRange);
+        axis->SetVertScroll(&m_Rain);
+    }
     Report(plot->m_SigShown, "minutes in view");
     ReportMouse(plot, "plot");
 }

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "examples/chart/plot.h"
 #include "gallery/frame/page.h"
 #include "vexel/charts/unit_converter.h"
 #include "vexel/headers/items_model.h"
-#include "vexel/scroll/scroll_model.h"
 
 #include <string>
-#include <utility>
 
 namespace gallery
 {
@@ -19,26 +18,6 @@ public:
     void Build(CVisualElement* parent) override;
 
 private:
-    /// A range that is what it was set to.
-    class CRange : public ISimpleScrollModel
-    {
-    public:
-        CRange(double from, double to) : m_From(from), m_To(to), m_Start(from < to ? from : to) {}
-
-        double GetFrom() const override { return m_From; }
-        double GetTo() const override { return m_To; }
-        void SetStart(double value) override { m_Start = value; }
-        double GetStart() const override { return m_Start; }
-        int GetMinScrollDistance() const override { return 1; }
-        void SetMeasure(std::pair<double, int> measure) override { m_Measure = measure; }
-        std::pair<double, int> GetMeasure() const override { return m_Measure; }
-
-    private:
-        double const m_From;
-        double const m_To;
-        double m_Start;
-        std::pair<double, int> m_Measure{1.0, 1};
-    };
     /// Units in proportion.
     class CUnits : public IUnitConverter
     {
@@ -61,12 +40,12 @@ private:
     class CColumns;
 
     // They outlive the elements.
-    CRange m_Minutes{-600, 1440};
-    CRange m_Metres{0, 200};  // grows downwards
+    chart::CRange m_Minutes{-600, 1440};
+    chart::CRange m_Metres{0, 200};  // grows downwards
     CUnits m_Hours{1.0 / 60};
     CUnits m_Feet{3.28084};
-    CRange m_MonthRange{-0.5, 11.5};
-    CRange m_Rain{100, 0};  // grows upwards
+    chart::CRange m_MonthRange{-0.5, 11.5};
+    chart::CRange m_Rain{100, 0};  // grows upwards
     CMonths m_Months;
 };
 
