@@ -87,7 +87,8 @@ def check_file(path, folders, externals, graph):
             if name not in STANDARD and not external_allowed(name, externals.get(folder, [])):
                 error(where, f"<{name}> is not open to {folder}")
             continue
-        if not name.startswith("vexel/") and not (name.startswith("gallery/") and path.parts[0] == "gallery"):
+        # The gallery also shows what the examples are made of.
+        if not name.startswith("vexel/") and not (path.parts[0] == "gallery" and name.startswith(("gallery/", "examples/"))):
             error(where, f'"{name}" does not start at the root')
             continue
         target = pathlib.Path(name)
@@ -95,7 +96,7 @@ def check_file(path, folders, externals, graph):
             error(where, f'"{name}" does not exist')
             continue
         graph[str(path)].add(name)
-        if name == "vexel/export.h" or name.startswith("gallery/"):
+        if name == "vexel/export.h" or not name.startswith("vexel/"):
             continue
         other = folder_of(target, folders)
         if other != folder and not folders[folder] & {other, name.removeprefix("vexel/")}:
