@@ -64,8 +64,7 @@ int main(int argc, char** argv)
         return Save(*window, picture) ? 0 : Fail("can't write " + picture);
 
     std::string const target = path + ".png";
-    vexel::CConnection const save(view.m_SigSave, [&] {
-        view.Tell(Save(*window, target) ? "Saved as " + target : "Can't write " + target);
-    });
+    vexel::CConnection const save(
+        view.m_SigSave, [&] { view.Tell(Save(*window, target) ? "Saved as " + target : "Can't write " + target); });
     return app.Run();
 }

@@ -27,7 +27,8 @@ _color const g_MajorLine = _color::FromRgb(0xC0, 0xC4, 0xD0);
 
 void Show(CRange& range, double start)
 {
-    range.SetStart(std::clamp(start, std::min(range.GetFrom(), range.GetTo()), std::max(range.GetFrom(), range.GetTo())));
+    range.SetStart(
+        std::clamp(start, std::min(range.GetFrom(), range.GetTo()), std::max(range.GetFrom(), range.GetTo())));
 }
 
 // Cuts a line to a rectangle; false if nothing of it is left.

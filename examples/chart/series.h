@@ -42,8 +42,8 @@ public:
     std::size_t GetCount() const { return m_X.size(); }
     double GetX(std::size_t index) const { return m_X[index]; }
     double GetY(std::size_t index) const { return m_Y[index]; }
-    std::size_t Find(double x) const;                            ///< The first point at `x` or behind; the count: none.
-    SBand GetBand(std::size_t first, std::size_t end) const;     ///< Of y, from `first` to before `end`.
+    std::size_t Find(double x) const;                         ///< The first point at `x` or behind; the count: none.
+    SBand GetBand(std::size_t first, std::size_t end) const;  ///< Of y, from `first` to before `end`.
     SBand GetBand() const { return GetBand(0, GetCount()); }
 
 private:

@@ -84,7 +84,9 @@ TEST(ChartNumbers, OfNothingAreNone)
 {
     EXPECT_EQ(Text(Read("")), "");
     EXPECT_EQ(Text(Read("a,b\n")), "a:; b:");
-    EXPECT_EQ(Text(Read("\xEF\xBB\xBF" "a,b\n1,2")), "a: 1; b: 2");
+    EXPECT_EQ(Text(Read("\xEF\xBB\xBF"
+                        "a,b\n1,2")),
+              "a: 1; b: 2");
 }
 
 TEST(ChartNumbers, AreSortedByTheFirstColumn)
