@@ -1,4 +1,5 @@
-// Antialiased lines on a picture of the desktop backend, beside Qt's own of the same opaque colour.
+// Antialiased lines on a picture of the desktop backend, beside Qt's own and those of cairo, of the same
+// opaque colour.
 //
 // A round is 1,000 lines of 200 pixels at random angles and places on 1280 x 800; "straight" ones are horizontal and
 // vertical, as those of a grid are. "by_contour" is the slow way that the pixels are measured by.
@@ -16,6 +17,8 @@
 #include <QImage>
 #include <QPainter>
 #include <QPen>
+
+#include <cairo.h>
 
 #include <cmath>
 #include <string>
@@ -101,6 +104,26 @@ void DrawByQt(benchmark::State& state, int width, bool straight)
             painter.drawLine(QPointF(line.from.x, line.from.y), QPointF(line.to.x, line.to.y));
 }
 
+void DrawByCairo(benchmark::State& state, int width, bool straight)
+{
+    std::vector<SLine> const lines = MakeLines(straight);
+    cairo_surface_t* const surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, Width, Height);
+    cairo_t* const cairo = cairo_create(surface);
+    cairo_set_source_rgb(cairo, 1, 1, 1);
+    cairo_paint(cairo);
+    cairo_set_source_rgb(cairo, 10 / 255.0, 60 / 255.0, 200 / 255.0);
+    cairo_set_line_width(cairo, width);
+    for (auto _ : state)
+        for (SLine const& line : lines)
+        {
+            cairo_move_to(cairo, line.from.x, line.from.y);
+            cairo_line_to(cairo, line.to.x, line.to.y);
+            cairo_stroke(cairo);
+        }
+    cairo_destroy(cairo);
+    cairo_surface_destroy(surface);
+}
+
 [[maybe_unused]] int const s_Registered = [] {
     for (bool const straight : {false, true})
     {
@@ -110,6 +133,7 @@ void DrawByQt(benchmark::State& state, int width, bool straight)
                 "lines/" + std::string(straight ? "straight" : "draw") + "_1000_width_" + std::to_string(width);
             benchmark::RegisterBenchmark((name + "/vexel").c_str(), DrawByVexel, width, straight, &vexel::DrawLine);
             benchmark::RegisterBenchmark((name + "/qt").c_str(), DrawByQt, width, straight);
+            benchmark::RegisterBenchmark((name + "/cairo").c_str(), DrawByCairo, width, straight);
             benchmark::RegisterBenchmark((name + "/by_contour").c_str(), DrawByVexel, width, straight,
                                          &vexel::DrawLineByContour);
         }
