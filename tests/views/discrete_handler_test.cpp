@@ -2,6 +2,8 @@
 
 #include "tests/views/viewer_bench.h"
 
+#include <limits>
+
 using namespace viewer_test;
 
 namespace
@@ -622,6 +624,25 @@ TEST_F(DiscreteRows, ARowIsBroughtToTheMiddle)
     Selection().SetCurrent(20);
     Handler().CurrentItemToView();
     EXPECT_EQ(Start(), 18);
+}
+
+TEST_F(DiscreteRows, WhatLiesBeyondTheRowsIsBroughtToViewAsFarAsTheyGo)
+{
+    View().SetCount(30);
+    Handler().ItemToView(30);
+    EXPECT_EQ(Start(), 26);
+    StartAt(10);
+    Handler().ItemToView(std::numeric_limits<int>::max());
+    EXPECT_EQ(Start(), 26);
+    Handler().ItemToView(-1);
+    EXPECT_EQ(Start(), 0);
+    StartAt(10);
+    Selection().SetCurrent(-1);
+    Handler().CurrentItemToView();
+    EXPECT_EQ(Start(), 0);
+    View().SetCount(0);
+    Handler().ItemToView(0);
+    EXPECT_EQ(Start(), 0);
 }
 
 TEST_F(DiscreteRows, TheRowAtAPointGoesByTheDirection)
