@@ -172,6 +172,18 @@ TEST_F(DragSelect, AMoveWithTheButtonUpForgetsThePress)
     EXPECT_EQ(Capture(), nullptr);
 }
 
+TEST_F(DragSelect, InAListThatIsEmptiedTheCurrentStays)
+{
+    Begin(25, 35);
+    m_Host.Mouse().Move(*m_Rows, 5, 60);
+    View().SetCount(0);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Current(), 3);
+    EXPECT_EQ(Start(), 0);
+    EXPECT_FALSE(IsRepeating());
+    m_Host.Mouse().Release();
+}
+
 // Pixels -------------------------------------------------------------------------------------------------------------------
 TEST_F(DragSelect, PixelsAreMovedOnlyWhereSomeStay)
 {
@@ -196,8 +208,10 @@ TEST_F(DragSelect, TheModelsOfferIsTakenOnlyIfItIsOne)
     handled = true;
     Handler().OnRowViewModelScroll(0, -10, &handled);
     EXPECT_TRUE(handled);
+    Settle();
     Handler().OnRowViewModelScroll(0, 0, &handled);
     EXPECT_FALSE(handled);
+    EXPECT_FALSE(m_Host.IsFramePending());
     handled = true;
     CDiscreteItemEventHandler alone;
     alone.OnRowViewModelScroll(0, -10, &handled);
