@@ -105,6 +105,35 @@ TEST_F(PixelRows, TheFirstSectionIsFoundByTheOffset)
     EXPECT_EQ(skip, 0);
 }
 
+// Draws by itself, without a viewer.
+class CLonePainter : public IItemPainter
+{
+public:
+    CDrawLog m_Draws;
+
+    void DrawItem(IPainter*, int item, int, int, rectangle<double> const& rect, IDirtyItemSet::DirtyType) override
+    {
+        m_Draws.Add(std::to_string(item) + " " + Describe(rect));
+    }
+    void DrawEmptyArea(IPainter*, rectangle<double> const& rect) override { m_Draws.Add("empty " + Describe(rect)); }
+};
+
+TEST_F(PixelRows, BeforeAnyViewOnlyTheEmptyAreaIsDrawn)
+{
+    CLonePainter painter;
+    CContinuousItemEventHandler plain;
+    plain.SetDirection(idVertical);
+    plain.SetPainter(&painter);
+    plain.GetViewModel()->SetDefaultItemSize(10);
+    plain.GetViewModel()->SetCount(10);
+    auto const picture = CTestHost::System().CreateRasterPicture(size<int>{10, 10});
+    plain.ProcessDraw(picture->GetPainter(), {0, 0, 99, 50});
+    EXPECT_EQ(painter.m_Draws.Take(), "empty (0, 0, 99, 0)");
+    plain.GetViewModel()->SetViewSize(0, false);  // one line of pixels
+    plain.ProcessDraw(picture->GetPainter(), {0, 0, 99, 50});
+    EXPECT_EQ(painter.m_Draws.Take(), "0 (0, 0, 99, 9)");
+}
+
 // Presses ------------------------------------------------------------------------------------------------------------------
 TEST_F(PixelRows, APressCountsTheOffset)
 {
@@ -195,6 +224,24 @@ TEST_F(PixelRows, ThereAreNoPageKeysAndNoKeysOfTheOtherDirection)
         EXPECT_FALSE(m_Rows->HandleKeyDown(0, key)) << key;
     EXPECT_TRUE(m_Rows->HandleKeyDown(0, vkRight));
     EXPECT_TRUE(m_Rows->HandleKeyDown(0, vkLeft));
+}
+
+TEST_F(PixelRows, UpFromBehindAllRowsGoesToTheLast)
+{
+    Selection().SetCurrent(20);
+    Press(vkUp);
+    EXPECT_EQ(Current(), 9);
+    EXPECT_EQ(Offset(), 50);
+}
+
+TEST_F(PixelRows, DownInAnEmptyListMakesNothingCurrent)
+{
+    View().SetCount(0);
+    Press(vkDown);
+    EXPECT_EQ(Current(), -1);
+    Press(vkUp);
+    EXPECT_EQ(Current(), 0);
+    EXPECT_EQ(Selected(), "0");
 }
 
 TEST_F(PixelRows, SpaceAndControlAActAsInAnyList)
@@ -383,6 +430,39 @@ TEST_F(PixelRows, ADragPastTheEndScrollsOnlyWhereMoreThanOnePixelIsLeft)
     m_Host.Mouse().Move(*m_Rows, 5, 70);
     m_Host.Clock().Advance(100);
     EXPECT_EQ(Offset(), 2);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(PixelRows, ADragPastTheEndStopsWithTheTickThatArrivesThere)
+{
+    View().SetItemSize(9, 8);  // 98 in all
+    Settle();
+    m_Host.Mouse().Press(*m_Rows, 5, 25);
+    m_Host.Mouse().Move(*m_Rows, 5, 35);
+    m_Host.Mouse().Move(*m_Rows, 5, 70);
+    m_Host.Clock().Advance(500);
+    EXPECT_EQ(Offset(), 40);
+    EXPECT_EQ(Current(), 9);  // at pixel 90, its first
+    EXPECT_EQ(m_Host.Clock().GetRunningTimers(), 1);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Offset(), 48);
+    EXPECT_EQ(m_Host.Clock().GetRunningTimers(), 0);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(PixelRows, ADragPastTheBeginningStopsWithTheTickThatFindsNothingLeft)
+{
+    OffsetTo(8);
+    m_Host.Mouse().Press(*m_Rows, 5, 25);
+    m_Host.Mouse().Move(*m_Rows, 5, 15);
+    m_Host.Mouse().Move(*m_Rows, 5, -10);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Offset(), 0);
+    EXPECT_EQ(m_Host.Clock().GetRunningTimers(), 1);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Offset(), 0);
+    EXPECT_EQ(m_Host.Clock().GetRunningTimers(), 0);
     m_Host.Mouse().Release();
 }
 

@@ -560,7 +560,7 @@ TEST_F(DiscreteRows, KeysOfTheOtherDirectionAnswerFalse)
     EXPECT_TRUE(m_Rows->HandleKeyDown(0, vkSpace));
 }
 
-TEST_F(DiscreteRows, KeysInAnEmptyListLeaveNothingSelected)
+TEST_F(DiscreteRows, KeysInAnEmptyListMakeTheFirstOrNothingCurrent)
 {
     View().SetCount(0);
     auto const currentAfter = [this](int key) {
