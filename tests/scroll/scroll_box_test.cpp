@@ -136,6 +136,8 @@ TEST_F(ScrollBox, RangesThatJustFitWithoutBarsNeedNoneWhicheverWasThere)
 
 TEST_F(ScrollBox, ABarThatComesWhereNoOtherGoesIsNeededEvenByLittle)
 {
+    Connect(40, 40);
+    EXPECT_EQ(Shown(), "");
     Connect(210, 40);
     EXPECT_EQ(Shown(), "horizontal");
     m_Pane->m_Vert.m_To = 90;  // of 82
