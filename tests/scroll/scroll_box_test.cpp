@@ -114,6 +114,78 @@ TEST_F(ScrollBox, BarsDontTakeTurnsWhereTheRangesFitWithoutAny)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+TEST_F(ScrollBox, RangesThatJustFitWithoutBarsNeedNoneWhicheverWasThere)
+{
+    Connect(300, 40);
+    m_Pane->m_Horz.m_To = 199;
+    m_Pane->m_Vert.m_To = 99;
+    m_Box->RefreshScroll();
+    EXPECT_EQ(Shown(), "");
+    m_Host.Paint();
+    EXPECT_EQ(Shown(), "");
+    EXPECT_EQ(m_Host.Pending(), "");
+    Connect(40, 300);
+    m_Pane->m_Horz.m_To = 199;
+    m_Pane->m_Vert.m_To = 99;
+    m_Box->RefreshScroll();
+    EXPECT_EQ(Shown(), "");
+    m_Host.Paint();
+    EXPECT_EQ(Shown(), "");
+    EXPECT_EQ(m_Host.Pending(), "");
+}
+
+TEST_F(ScrollBox, ABarThatComesWhereNoOtherGoesIsNeededEvenByLittle)
+{
+    Connect(40, 40);
+    EXPECT_EQ(Shown(), "");
+    Connect(210, 40);
+    EXPECT_EQ(Shown(), "horizontal");
+    m_Pane->m_Vert.m_To = 90;  // of 82
+    m_Box->RefreshScroll();
+    m_Host.Paint();
+    EXPECT_EQ(Shown(), "vertical horizontal corner");
+    Connect(40, 40);
+    EXPECT_EQ(Shown(), "");
+    Connect(40, 110);
+    EXPECT_EQ(Shown(), "vertical");
+    m_Pane->m_Horz.m_To = 190;  // of 182
+    m_Box->RefreshScroll();
+    m_Host.Paint();
+    EXPECT_EQ(Shown(), "vertical horizontal corner");
+}
+
+TEST_F(ScrollBox, ABarThatStaysIsJudgedByThePaneAsItStands)
+{
+    Connect(300, 300);
+    m_Pane->m_Horz.m_To = 182;
+    m_Pane->m_Vert.m_To = 90;  // fits once the horizontal bar is gone
+    m_Box->RefreshScroll();
+    EXPECT_EQ(Shown(), "vertical");
+    m_Host.Paint();
+    EXPECT_EQ(Shown(), "");
+    Connect(300, 300);
+    m_Pane->m_Horz.m_To = 190;
+    m_Pane->m_Vert.m_To = 82;
+    m_Box->RefreshScroll();
+    EXPECT_EQ(Shown(), "horizontal");
+    m_Host.Paint();
+    EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(ScrollBox, AModelWithoutAPaneHasNoBarYet)
+{
+    CTestModel horz(0, 300), vert(0, 300);
+    m_Box->SetHorzScroll(&horz);
+    m_Box->SetVertScroll(&vert);
+    m_Host.Paint();
+    EXPECT_EQ(Shown(), "");
+    m_Box->SetCentralPane(m_Pane);
+    m_Host.Paint();
+    EXPECT_EQ(Shown(), "vertical horizontal corner");
+    m_Box->SetHorzScroll(nullptr);
+    m_Box->SetVertScroll(nullptr);
+}
+
 TEST_F(ScrollBox, OneBarComesAsTheOtherGoesWhereTheRoomOfThatIsNotEnough)
 {
     Connect(40, 300);
@@ -305,6 +377,13 @@ TEST_F(ScrollBox, AModelThatRefreshesTheBoxWithinAMoveIsMovedOnce)
     m_Box->GetWrappedVertScroll()->SetStart(20);
     EXPECT_EQ(m_Pane->m_Vert.m_Start, 0.0);
     EXPECT_EQ(m_Pane->m_Calls.Take(), "");  // it never got away from 0
+    m_Pane->m_Vert.m_OnSetStart = [&] {
+        m_Pane->m_Vert.m_OnSetStart = nullptr;
+        m_Box->RefreshScroll();
+    };
+    m_Box->GetWrappedVertScroll()->SetStart(20);
+    EXPECT_EQ(m_Pane->m_Vert.m_Start, 0.0);
+    EXPECT_EQ(m_Pane->m_Calls.Take(), "");
     m_Pane->m_Vert.m_OnSetStart = nullptr;
     Connect(100, 300);
     m_Box->GetWrappedVertScroll()->SetStart(150);

@@ -212,6 +212,16 @@ TEST(EqualItems, ScrollingBackMarksTheRowCutByTheBottomEdge)
     EXPECT_EQ(Dirty(model, 12), "7-9");  // forward: only what comes in behind rows 2 to 6
 }
 
+TEST(EqualItems, AtTheSameStartMarkNothing)
+{
+    CTenEqualItems model;
+    model.SetViewSize(55, false);
+    model.SetStartItem(3);
+    model.OnEndDraw();
+    model.SetStartItem(3);
+    EXPECT_EQ(Dirty(model, 12), "none");
+}
+
 TEST(NonEqualItems, KeepTheAnchorInView)
 {
     CTenItems model;
@@ -227,6 +237,14 @@ TEST(NonEqualItems, KeepTheAnchorInView)
     model.SetAnchorItem(-1);
     model.UpdateView();
     EXPECT_EQ(model.GetStartItem(), 2);
+}
+
+TEST(NonEqualItems, StayWhereTheAnchorIsTheLastInView)
+{
+    CTenItems model;
+    model.SetAnchorItem(4);
+    model.SetViewSize(100, false);  // rows 0 to 4 just fit
+    EXPECT_EQ(model.GetStartItem(), 0);
 }
 
 TEST(NonEqualItems, TakeTheCurrentItemOfTheAnchorModel)

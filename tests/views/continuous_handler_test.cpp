@@ -105,6 +105,35 @@ TEST_F(PixelRows, TheFirstSectionIsFoundByTheOffset)
     EXPECT_EQ(skip, 0);
 }
 
+// Draws by itself, without a viewer.
+class CLonePainter : public IItemPainter
+{
+public:
+    CDrawLog m_Draws;
+
+    void DrawItem(IPainter*, int item, int, int, rectangle<double> const& rect, IDirtyItemSet::DirtyType) override
+    {
+        m_Draws.Add(std::to_string(item) + " " + Describe(rect));
+    }
+    void DrawEmptyArea(IPainter*, rectangle<double> const& rect) override { m_Draws.Add("empty " + Describe(rect)); }
+};
+
+TEST_F(PixelRows, BeforeAnyViewOnlyTheEmptyAreaIsDrawn)
+{
+    CLonePainter painter;
+    CContinuousItemEventHandler plain;
+    plain.SetDirection(idVertical);
+    plain.SetPainter(&painter);
+    plain.GetViewModel()->SetDefaultItemSize(10);
+    plain.GetViewModel()->SetCount(10);
+    auto const picture = CTestHost::System().CreateRasterPicture(size<int>{10, 10});
+    plain.ProcessDraw(picture->GetPainter(), {0, 0, 99, 50});
+    EXPECT_EQ(painter.m_Draws.Take(), "empty (0, 0, 99, 0)");
+    plain.GetViewModel()->SetViewSize(0, false);  // one line of pixels
+    plain.ProcessDraw(picture->GetPainter(), {0, 0, 99, 50});
+    EXPECT_EQ(painter.m_Draws.Take(), "0 (0, 0, 99, 9)");
+}
+
 // Presses ------------------------------------------------------------------------------------------------------------------
 TEST_F(PixelRows, APressCountsTheOffset)
 {
@@ -197,6 +226,24 @@ TEST_F(PixelRows, ThereAreNoPageKeysAndNoKeysOfTheOtherDirection)
     EXPECT_TRUE(m_Rows->HandleKeyDown(0, vkLeft));
 }
 
+TEST_F(PixelRows, UpFromBehindAllRowsGoesToTheLast)
+{
+    Selection().SetCurrent(20);
+    Press(vkUp);
+    EXPECT_EQ(Current(), 9);
+    EXPECT_EQ(Offset(), 50);
+}
+
+TEST_F(PixelRows, DownInAnEmptyListMakesNothingCurrent)
+{
+    View().SetCount(0);
+    Press(vkDown);
+    EXPECT_EQ(Current(), -1);
+    Press(vkUp);
+    EXPECT_EQ(Current(), 0);
+    EXPECT_EQ(Selected(), "0");
+}
+
 TEST_F(PixelRows, SpaceAndControlAActAsInAnyList)
 {
     GoTo(2);
@@ -260,6 +307,52 @@ TEST_F(PixelRows, ARowIsBroughtToTheMiddleUnlessItShows)
     EXPECT_EQ(Offset(), 260);
 }
 
+TEST_F(PixelRows, ARowWhoseEdgeIsTheEdgeOfTheViewIsVisible)
+{
+    OffsetTo(30);
+    Selection().SetCurrent(3);  // 30 to 40
+    EXPECT_FALSE(Handler().MakeCurrentVisible(true));
+    EXPECT_EQ(Offset(), 30);
+    Selection().SetCurrent(7);  // 70 to 80, where the view ends
+    EXPECT_FALSE(Handler().MakeCurrentVisible(true));
+    EXPECT_EQ(Offset(), 30);
+    View().SetCount(30);
+    Handler().ItemToView(3);
+    EXPECT_EQ(Offset(), 30);
+    Handler().ItemToView(7);
+    EXPECT_EQ(Offset(), 30);
+}
+
+TEST_F(PixelRows, ARowThatJustFillsTheViewComesToItsBeginning)
+{
+    View().SetItemSize(3, 50);
+    Selection().SetCurrent(3);
+    EXPECT_TRUE(Handler().MakeCurrentVisible(true));
+    EXPECT_EQ(Offset(), 30);
+    View().SetItemSize(9, 50);  // 130 to 180
+    Handler().ItemToView(9);
+    EXPECT_EQ(Offset(), 130);
+}
+
+TEST_F(PixelRows, ARowIsBroughtToTheMiddleOnlyIfThereIsRoomBeforeAndBehindIt)
+{
+    View().SetCount(30);
+    OffsetTo(100);
+    Handler().ItemToView(2);  // 20 pixels lie before it, and as many would
+    EXPECT_EQ(Offset(), 20);
+    OffsetTo(0);
+    Handler().ItemToView(27);  // what lies behind 250 just fills the view
+    EXPECT_EQ(Offset(), 249);
+    OffsetTo(0);
+    Handler().ItemToView(30);
+    EXPECT_EQ(Offset(), 0);
+    View().SetCount(1);
+    View().SetItemSize(0, 200);
+    OffsetTo(30);
+    Handler().ItemToView(0);
+    EXPECT_EQ(Offset(), 30);
+}
+
 // Drags --------------------------------------------------------------------------------------------------------------------
 TEST_F(PixelRows, ADragPastTheEndScrollsByEightPixelsATick)
 {
@@ -318,14 +411,85 @@ TEST_F(PixelRows, ADragWhereAllIsInViewStopsAtOnce)
     m_Host.Mouse().Release();
 }
 
+TEST_F(PixelRows, ADragPastTheEndScrollsOnlyWhereMoreThanOnePixelIsLeft)
+{
+    View().SetCount(6);
+    View().SetItemSize(5, 1);  // one pixel more than the view
+    Settle();
+    m_Host.Mouse().Press(*m_Rows, 5, 25);
+    m_Host.Mouse().Move(*m_Rows, 5, 35);
+    m_Host.Mouse().Move(*m_Rows, 5, 70);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Offset(), 0);
+    EXPECT_EQ(Selected(), "2 3 4 5");  // pixel 50 is row 5's
+    m_Host.Mouse().Release();
+    View().SetItemSize(5, 2);
+    Settle();
+    m_Host.Mouse().Press(*m_Rows, 5, 25);
+    m_Host.Mouse().Move(*m_Rows, 5, 35);
+    m_Host.Mouse().Move(*m_Rows, 5, 70);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Offset(), 2);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(PixelRows, ADragPastTheEndStopsWithTheTickThatArrivesThere)
+{
+    View().SetItemSize(9, 8);  // 98 in all
+    Settle();
+    m_Host.Mouse().Press(*m_Rows, 5, 25);
+    m_Host.Mouse().Move(*m_Rows, 5, 35);
+    m_Host.Mouse().Move(*m_Rows, 5, 70);
+    m_Host.Clock().Advance(500);
+    EXPECT_EQ(Offset(), 40);
+    EXPECT_EQ(Current(), 9);  // at pixel 90, its first
+    EXPECT_EQ(m_Host.Clock().GetRunningTimers(), 1);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Offset(), 48);
+    EXPECT_EQ(m_Host.Clock().GetRunningTimers(), 0);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(PixelRows, ADragPastTheBeginningStopsWithTheTickThatFindsNothingLeft)
+{
+    OffsetTo(8);
+    m_Host.Mouse().Press(*m_Rows, 5, 25);
+    m_Host.Mouse().Move(*m_Rows, 5, 15);
+    m_Host.Mouse().Move(*m_Rows, 5, -10);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Offset(), 0);
+    EXPECT_EQ(m_Host.Clock().GetRunningTimers(), 1);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Offset(), 0);
+    EXPECT_EQ(m_Host.Clock().GetRunningTimers(), 0);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(PixelRows, APressAfterAKeyNotifiesAtOnce)
+{
+    SetSelectionChangeDelay(200);
+    Handler().SetNotifySelection(true);
+    CSignalLog log(Handler().m_SigSelectionChanged, "told");
+    Press(vkDown);
+    m_Host.Clock().Advance(200);
+    EXPECT_EQ(log.Take(), "told()");
+    Click(25);
+    m_Host.RunPending();
+    EXPECT_EQ(log.Take(), "told()");
+    SetSelectionChangeDelay(0);
+}
+
 // Model signals ------------------------------------------------------------------------------------------------------------
 TEST_F(PixelRows, TheModelAsksForAMoveOfPixels)
 {
     bool handled = false;
     Handler().OnColViewModelScroll(0, -10, &handled);
     EXPECT_TRUE(handled);
+    Settle();
     Handler().OnColViewModelScroll(0, 0, &handled);
     EXPECT_FALSE(handled);
+    EXPECT_FALSE(m_Host.IsFramePending());
     handled = true;
     Handler().OnColViewModelScroll(0, 50, &handled);
     EXPECT_FALSE(handled);

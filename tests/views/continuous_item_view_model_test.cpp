@@ -151,6 +151,13 @@ TYPED_TEST(ContinuousItems, WithoutAViewTheyStandWhereTheyAreTold)
 }
 
 // The view -----------------------------------------------------------------------------------------------------------
+TYPED_TEST(ContinuousItems, AViewOfZeroStandsBehindTheLastItemAtMost)
+{
+    this->m_Model.SetViewSize(0, false);
+    this->m_Model.SetOffset(500);
+    EXPECT_EQ(this->m_Model.GetOffset(), 200);
+}
+
 TYPED_TEST(ContinuousItems, AGrowingViewMarksFromTheOldEdgeOn)
 {
     this->m_Model.SetViewSize(120, false);
@@ -483,6 +490,14 @@ TEST_F(OneItem, AScrollIsAnnouncedAtTheNewOffsetBeforeItHolds)
     EXPECT_EQ(m_Log.Take(), "size(120, -120, true) changed()");
     m_Model.SetOffset(100);
     EXPECT_EQ(m_Log.Text(), "size(100, 20, true)");  // it was dirty already
+}
+
+TEST_F(OneItem, AChangeIsToldWhenTheNewOffsetHolds)
+{
+    int offset = -1;
+    auto const viewer = Listen(m_Model.m_SigChanged, [&] { offset = m_Model.GetOffset(); });
+    m_Model.SetOffset(120);
+    EXPECT_EQ(offset, 120);
 }
 
 TEST_F(OneItem, TheOffsetStaysWhereTheItemFillsTheView)

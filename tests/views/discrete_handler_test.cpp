@@ -2,6 +2,8 @@
 
 #include "tests/views/viewer_bench.h"
 
+#include <limits>
+
 using namespace viewer_test;
 
 namespace
@@ -428,6 +430,16 @@ TEST_F(DiscreteRows, UpFromFarBehindLeavesTheRowLastInView)
     EXPECT_EQ(Start(), 5);  // row 4 would exactly fill the view and is not taken in
 }
 
+TEST_F(DiscreteRows, UpFromFarBeforeTheViewLeavesTheRowLastInView)
+{
+    View().SetCount(30);
+    GoTo(12);
+    StartAt(20);
+    Press(vkUp);
+    EXPECT_EQ(Current(), 11);
+    EXPECT_EQ(Start(), 8);  // rows 8 to 11, for row 7 would exactly fill the view
+}
+
 TEST_F(DiscreteRows, HomeAndEndGoToTheEnds)
 {
     Press(vkEnd);
@@ -548,16 +560,30 @@ TEST_F(DiscreteRows, KeysOfTheOtherDirectionAnswerFalse)
     EXPECT_TRUE(m_Rows->HandleKeyDown(0, vkSpace));
 }
 
-TEST_F(DiscreteRows, KeysInAnEmptyListLeaveNothingSelected)
+TEST_F(DiscreteRows, KeysInAnEmptyListMakeTheFirstOrNothingCurrent)
 {
     View().SetCount(0);
-    for (int const key : {vkUp, vkDown, vkHome, vkEnd, vkPageUp, vkPageDown, vkSpace})
-    {
+    auto const currentAfter = [this](int key) {
         Selection().SetCurrent(-1);
         m_Rows->HandleKeyDown(0, key);
-        EXPECT_LE(Current(), 0) << key;
         EXPECT_EQ(Start(), 0) << key;
-    }
+        return Current();
+    };
+    for (int const key : {vkDown, vkEnd, vkSpace})
+        EXPECT_EQ(currentAfter(key), -1) << key;
+    for (int const key : {vkUp, vkHome, vkPageUp, vkPageDown})
+        EXPECT_EQ(currentAfter(key), 0) << key;
+}
+
+TEST_F(DiscreteRows, BeforeAnyViewEndStartsAtTheLastRow)
+{
+    CDiscreteItemEventHandler plain;
+    plain.SetDirection(idVertical);
+    plain.GetViewModel()->SetCount(10);
+    bool handled = false;
+    EXPECT_TRUE(plain.ProcessKeyDown(0, vkEnd, &handled));
+    EXPECT_EQ(plain.GetViewModel()->GetStartItem(), 9);
+    EXPECT_EQ(plain.GetSelectionModel()->GetCurrent(), 9);
 }
 
 // Scrolling to a row -------------------------------------------------------------------------------------------------------
@@ -622,6 +648,34 @@ TEST_F(DiscreteRows, ARowIsBroughtToTheMiddle)
     Selection().SetCurrent(20);
     Handler().CurrentItemToView();
     EXPECT_EQ(Start(), 18);
+}
+
+TEST_F(DiscreteRows, WhatLiesBeyondTheRowsIsBroughtToViewAsFarAsTheyGo)
+{
+    View().SetCount(30);
+    Handler().ItemToView(30);
+    EXPECT_EQ(Start(), 26);
+    StartAt(10);
+    Handler().ItemToView(std::numeric_limits<int>::max());
+    EXPECT_EQ(Start(), 26);
+    Handler().ItemToView(-1);
+    EXPECT_EQ(Start(), 0);
+    StartAt(10);
+    Selection().SetCurrent(-1);
+    Handler().CurrentItemToView();
+    EXPECT_EQ(Start(), 0);
+    View().SetCount(0);
+    Handler().ItemToView(0);
+    EXPECT_EQ(Start(), 0);
+}
+
+TEST_F(DiscreteRows, TwoPixelsOfRoomLeaveOneForARowOfOnePixel)
+{
+    View().SetCount(30);
+    View().SetItemSize(9, 1);
+    View().SetItemSize(10, 48);
+    Handler().ItemToView(10);
+    EXPECT_EQ(Start(), 9);
 }
 
 TEST_F(DiscreteRows, TheRowAtAPointGoesByTheDirection)

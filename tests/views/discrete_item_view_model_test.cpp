@@ -105,6 +105,15 @@ TEST_F(DiscreteItems, AJumpAsksForNoMoveOfPixels)
     EXPECT_EQ(Dirty(m_Model, 12), "0-10");
 }
 
+TEST_F(DiscreteItems, ViewsThatShareOnlyARowAtTheEndAreAJump)
+{
+    m_Model.SetViewSize(40, false);
+    StartAt(4);
+    m_Model.SetStartItem(3);  // rows 3 and 4 after rows 4 and 5
+    EXPECT_EQ(m_Log.Text(), "size(0, 1, false) changed()");
+    EXPECT_EQ(Dirty(m_Model, 12), "0-10");
+}
+
 TEST_F(DiscreteItems, AViewerMayMoveThePixelsOfAJumpAllTheSame)
 {
     auto const viewer = Listen(m_Model.m_SigSizeChanged, [](int, int, bool* handled) { *handled = true; });
@@ -225,6 +234,16 @@ TEST_F(DiscreteItems, AGrowingViewAtTheEndScrollsBack)
     EXPECT_EQ(m_Model.GetStartItem(), 1);
     EXPECT_EQ(m_Log.Text(), "size(0, 100, true) changed() changed()");
     EXPECT_EQ(Dirty(m_Model, 12), "1-5 10");
+}
+
+TEST_F(DiscreteItems, AViewThatGrowsWhereItStandsAtTheLastStartMarksFromTheOldEdgeOn)
+{
+    m_Model.SetViewSize(30, false);
+    StartAt(8);
+    m_Model.SetViewSize(50, false);  // 8 is the last start of this view, too
+    EXPECT_EQ(m_Model.GetStartItem(), 8);
+    EXPECT_EQ(Dirty(m_Model, 12), "9-10");
+    EXPECT_EQ(m_Log.Text(), "changed()");
 }
 
 TEST_F(DiscreteItems, InvalidatingAllAloneMarksAndStaysSilent)

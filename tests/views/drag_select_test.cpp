@@ -172,6 +172,43 @@ TEST_F(DragSelect, AMoveWithTheButtonUpForgetsThePress)
     EXPECT_EQ(Capture(), nullptr);
 }
 
+TEST_F(DragSelect, InAListThatIsEmptiedTheCurrentStays)
+{
+    Begin(25, 35);
+    m_Host.Mouse().Move(*m_Rows, 5, 60);
+    View().SetCount(0);
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(Current(), 3);
+    EXPECT_EQ(Start(), 0);
+    EXPECT_FALSE(IsRepeating());
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragSelect, TheButtonThatComesUpReleasesNobodyElsesMouse)
+{
+    auto* const other = new CVisualElement(m_Host.Root(), {10, 10}, alNone);
+    other->CaptureMouse();
+    bool handled = false;
+    Handler().ProcessButtonUp(5, 5, 0, mbLeft, &handled);
+    EXPECT_EQ(Capture(), other);
+    other->ReleaseMouse();
+}
+
+TEST_F(DragSelect, OnlyTheLeftButtonMarksWhereADragMayBegin)
+{
+    class CBare : public CEventHandlerBase
+    {
+    public:
+        using CEventHandlerBase::m_Down;
+    };
+    CBare bare;
+    bool handled = false;
+    EXPECT_FALSE(bare.ProcessButtonDown(5, 15, 1, mbLeft, &handled));
+    EXPECT_EQ(bare.m_Down, (point<int>{5, 15}));
+    EXPECT_FALSE(bare.ProcessButtonDown(5, 25, 0, mbRight, &handled));
+    EXPECT_EQ(bare.m_Down, (point<int>{-1, -1}));
+}
+
 // Pixels -------------------------------------------------------------------------------------------------------------------
 TEST_F(DragSelect, PixelsAreMovedOnlyWhereSomeStay)
 {
@@ -180,9 +217,11 @@ TEST_F(DragSelect, PixelsAreMovedOnlyWhereSomeStay)
     EXPECT_FALSE(Handler().ScrollItems(50, 10));
     EXPECT_FALSE(Handler().ScrollItems(0, 50));
     EXPECT_FALSE(Handler().ScrollItems(0, -50));
+    EXPECT_EQ(m_Rows->GetValidRect(), (rectangle<int>{0, 0, 99, 50}));
     EXPECT_TRUE(Handler().ScrollItems(49, 10));
     EXPECT_TRUE(Handler().ScrollItems(0, 49));
     EXPECT_TRUE(Handler().ScrollItems(0, -49));
+    EXPECT_EQ(m_Rows->GetValidRect(), (rectangle<int>{0, 0, 0, 0}));
     m_Rows->SetVisible(false);
     EXPECT_FALSE(Handler().ScrollItems(0, 10));
 }
@@ -196,8 +235,10 @@ TEST_F(DragSelect, TheModelsOfferIsTakenOnlyIfItIsOne)
     handled = true;
     Handler().OnRowViewModelScroll(0, -10, &handled);
     EXPECT_TRUE(handled);
+    Settle();
     Handler().OnRowViewModelScroll(0, 0, &handled);
     EXPECT_FALSE(handled);
+    EXPECT_FALSE(m_Host.IsFramePending());
     handled = true;
     CDiscreteItemEventHandler alone;
     alone.OnRowViewModelScroll(0, -10, &handled);
@@ -310,6 +351,7 @@ TEST_F(DragSelect, AChangeOfFocusMarksTheSelectedRows)
     Settle();
     Handler().ProcessLostFocus(nullptr);
     EXPECT_EQ(Dirty(Selection(), 12), "1-3");
+    EXPECT_TRUE(m_Host.IsFramePending());
     Selection().OnEndDraw();
     bool handled = false;
     Handler().ProcessGetFocus(&handled);

@@ -253,6 +253,23 @@ TEST_F(EventHandlers, EveryInputEventWalksTheChain)
     }
 }
 
+TEST_F(EventHandlers, AViewerThatCannotHaveTheFocusHandsItToItsKeyDelegate)
+{
+    AddBoth();
+    class CDelegate : public CVisualElement
+    {
+    public:
+        using CVisualElement::CVisualElement;
+        int m_Asked = 0;
+        void HandleGetFocus(CVisualElement*, bool focused) override { m_Asked += focused ? 100 : 1; }
+    };
+    auto* const asked = new CDelegate(m_Host.Root(), {10, 10}, alNone);
+    m_Viewer->SetKeyDelegate(asked);
+    m_Viewer->HandleGetFocus(nullptr, false);
+    EXPECT_EQ(asked->m_Asked, 1);
+    EXPECT_EQ(m_Log.Take(), "");
+}
+
 TEST_F(EventHandlers, AViewerWithoutHandlersAnswersFalseAndDrawsNothing)
 {
     EXPECT_FALSE(m_Viewer->HandleMouseMove(1, 2, 0, mbNone));

@@ -1,6 +1,7 @@
 // A list: its models, its row height, and which rows it is asked to draw.
 
 #include "tests/views/viewer_bench.h"
+#include "vexel/scroll/scroll_box.h"
 
 using namespace viewer_test;
 
@@ -76,6 +77,22 @@ TEST_F(RowViewer, ANewViewModelGetsTheViewAndIsPaintedWhole)
               "0 state 0 item, 1 state 0 item, 2 state 0 item, 3 state 0 item, 4 state 0 item, 5 state 0 item");
     model.SetCount(5);
     EXPECT_FALSE(m_Host.IsFramePending());
+}
+
+TEST_F(RowViewer, ANewViewModelThatKnowsItsViewAlreadyIsToldToTheBar)
+{
+    auto* const box = new CScrollBox(m_Host.Root(), {10, 10}, alClient);
+    m_Rows->ReParent(box, true);
+    View().SetCount(2);
+    box->ConnectElement(m_Rows, CScrollBox::ctVertical, true);
+    m_Host.Paint();
+    EXPECT_FALSE(box->GetVertElement().IsScrollBarVisible());
+    CNonEqualItemsViewModel model;
+    model.SetDefaultItemSize(10);
+    model.SetCount(30);
+    model.SetViewSize(50, false);
+    m_Rows->SetRowViewModel(&model);
+    EXPECT_TRUE(box->GetVertElement().IsScrollBarVisible());
 }
 
 TEST_F(RowViewer, ANewSelectionModelIsToldAndPainted)
@@ -307,6 +324,15 @@ TEST_F(RowViewer, AListThatComesBackIsPaintedWhole)
         EXPECT_EQ(Paint(),
                   "0 state 0 item, 1 state 0 item, 2 state 0 item, 3 state 0 item, 4 state 0 item, 5 state 0 item");
     }
+}
+
+TEST_F(RowViewer, ToHideOrShowMarksTheRowsAndTheAreaBehindThem)
+{
+    m_Rows->SetVisible(false);
+    EXPECT_EQ(Dirty(View(), 12), "0-10");
+    View().OnEndDraw();
+    m_Rows->SetVisible(true);
+    EXPECT_EQ(Dirty(View(), 12), "0-10");
 }
 
 TEST_F(RowViewer, TheViewIsAsHighAsTheList)

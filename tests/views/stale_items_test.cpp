@@ -60,6 +60,19 @@ TEST_F(StaleRows, AShiftClickRepaintsAllThatLeavesASelectionOfAnotherKind)
               "0 state 0 item, 1 state 0 item, 2 state 1 item, 3 state 3 item, 4 state 0 item, 5 state 0 item");
 }
 
+TEST_F(StaleRows, AShiftClickRepaintsASelectionThatHasOnlyTheLengthOfARunFromTheAnchor)
+{
+    GoTo(3);
+    Selection().SelectItem(2, true);
+    Selection().SelectItem(5, true);
+    Handler().SetAnchor(1);  // 1 to 3 would be three rows, too
+    Settle();
+    Click(45, ksShift);
+    EXPECT_EQ(Selected(), "1 2 3 4");
+    EXPECT_EQ(Paint(),
+              "0 state 0 item, 1 state 1 item, 2 state 1 item, 3 state 1 item, 4 state 3 item, 5 state 0 item");
+}
+
 TEST_F(StaleRows, AListThatMovedPaintsAllWhereOneRowIsMarked)
 {
     auto* const parent = new CVisualElement(m_Host.Root(), {50, 50}, alNone);
@@ -121,7 +134,10 @@ TEST_F(StaleRows, AListThatShowsOnlyInPartKeepsThePixelsWhereTheyAre)
 {
     m_Rows->SetAlignment(alNone);
     m_Rows->SetPos({0, -10, 99, 40}, false);
+    Settle();
+    EXPECT_EQ(m_Rows->GetValidRect(), (rectangle<int>{0, 0, 99, 50}));
     EXPECT_FALSE(Handler().ScrollItems(0, -10));
+    EXPECT_EQ(m_Rows->GetValidRect(), (rectangle<int>{0, 0, 0, 0}));
 }
 
 TEST_F(StaleRows, AnEnabledOrDisabledListIsPaintedWhole)

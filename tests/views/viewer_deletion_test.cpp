@@ -228,6 +228,23 @@ TYPED_TEST(ViewerDeletion, ByAKey)
     this->Play(2, [](CScene<TypeParam>& scene) { scene.Host().Keyboard().Down('A', ksControl); });
 }
 
+TYPED_TEST(ViewerDeletion, ByAKeyWhereTheCurrentRowIsOutOfView)
+{
+    for (int const start : {0, 15})
+        for (int const key : {vkDown, vkUp, vkPageDown, vkPageUp})
+            this->Play(1, [=](CScene<TypeParam>& scene) {
+                scene.Selection()->SetCurrent(start == 0 ? 25 : 3);
+                if (!scene.View() || !scene.HasControl())
+                    return;
+                if constexpr (CRowViewer<TypeParam>::s_Discrete)
+                    scene.View()->SetStartItem(start);
+                else
+                    scene.View()->SetOffset(start * 10);
+                if (scene.HasControl())
+                    scene.Host().Keyboard().Press(key);
+            });
+}
+
 TYPED_TEST(ViewerDeletion, ByADragAndItsTicks)
 {
     for (int const to : {-20, 100})

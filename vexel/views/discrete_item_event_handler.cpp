@@ -56,11 +56,10 @@ void CDiscreteItemEventHandler::ShowNewCurrent(int)
     CheckNewCurrent();
 }
 
-void CDiscreteItemEventHandler::ItemToView(int item)
+void CDiscreteItemEventHandler::ItemToView(int index)
 {
     IDiscreteItemViewModel* const model = GetViewModel();
-    if (item < 0 || item >= model->GetCount())
-        return;
+    int const item = std::clamp(index, 0, std::max(model->GetCount() - 1, 0));
     int const room = SubtractSaturated(model->GetViewSize(), model->GetItemSize(item));
     std::int64_t const half = std::max(room / 2, 0);
     int start = item;

@@ -76,7 +76,8 @@ extern template class CItemEventHandler<IContinuousItemViewModel>;
 class VEXEL_API CDiscreteItemEventHandler : public CItemEventHandler<IDiscreteItemViewModel>
 {
 public:
-    void ItemToView(int item);  ///< Scrolls so that the item stands in the middle.
+    /// Scrolls so that the item stands in the middle. An index before or behind all items: to the first or last one.
+    void ItemToView(int index);
     void CurrentItemToView() { ItemToView(GetCurrent()); }
     /// Scrolls to the current item if it isn't in view: it becomes the first (`toStart`) or the last one. True: it did.
     bool MakeCurrentVisible(bool toStart);
