@@ -318,9 +318,85 @@ TEST(LineContour, ACapThatIsCutOffWhollyIsNotStamped)
 
     line.DrawCaption(cap, true, x, y, 0, 1, colour, step, false);
     EXPECT_EQ(y, 2);
-    cap.m_Offset = 3;  // 2.5 steps, rounded down
+    cap.m_Offset = 3;
     line.DrawCaption(cap, true, x, y, 0, 1, colour, step, false);
     EXPECT_EQ(y, 4);
+}
+
+TEST(LineContour, WhatIsCutOffACapIsLeftToTheBody)
+{
+    for (bool const atStart : {true, false})
+    {
+        CLineContour line;
+        line.m_Width = 3;
+        (atStart ? line.m_StartCap : line.m_EndCap) = CapArrowNarrow;  // 13 long, of which 9 stay
+        (atStart ? line.m_StartCapOffset : line.m_EndCapOffset) = 4;
+        SetLine(line, 0, 0, 40, 0);
+
+        line.Generate(nullptr, nullptr);
+
+        // 31 samples of the body and 9 of the cap: from 0.25 to 39.25.
+        EXPECT_EQ(line.m_Bounds.right, 40) << atStart;
+        EXPECT_EQ(line.m_Contour.begin()->first.x, 0) << atStart;
+        EXPECT_EQ(line.m_Contour.rbegin()->first.x, 40) << atStart;
+    }
+}
+
+TEST(LineContour, WhatIsCutOffOneCapLeavesRoomForTheOther)
+{
+    for (bool const atStart : {true, false})
+    {
+        CLineContour line;
+        (atStart ? line.m_StartCap : line.m_EndCap) = CapArrowNarrow;
+        (atStart ? line.m_EndCapOffset : line.m_StartCapOffset) = 10;
+        line.m_Width = 3;
+        SetLine(line, 0, 0, 20, 0);
+
+        line.Generate(nullptr, nullptr);
+
+        // 0.4 of 30 long, not of 20; half as wide as 12 * 0.2126 = 2.55, around a middle at 0.25.
+        EXPECT_EQ(line.m_Bounds.top, -3) << atStart;
+        EXPECT_EQ(line.m_Bounds.bottom, 3) << atStart;
+    }
+}
+
+TEST(LineContour, TheStepsOfACapAreRoundedToTheNearest)
+{
+    CLineContour line;
+    CColorInfo colour;
+    CColorInfoR step;
+    CapParams cap;
+    cap.m_Style = CapCircle5;
+    cap.m_Length = 5;
+    double x = 1, y = 2;
+
+    cap.m_Offset = 2.75;  // 2.25
+    line.DrawCaption(cap, true, x, y, 0, 1, colour, step, false);
+    EXPECT_EQ(y, 4);
+    cap.m_Offset = 2.5;
+    line.DrawCaption(cap, true, x, y, 0, 1, colour, step, false);
+    EXPECT_EQ(y, 7);
+}
+
+TEST(LineContour, AnArrowWithoutStepsStillSetsItsSpan)
+{
+    CLineContour line;
+    CColorInfo colour;
+    CColorInfoR step;
+    CapParams cap;
+    cap.m_Style = CapArrowWide;
+    cap.m_Length = cap.m_Offset = 5;
+    cap.m_HalfWidth = 3;
+    double x = 1, y = 2;
+
+    line.DrawCaption(cap, false, x, y, 0.5, 1, colour, step, false);
+
+    EXPECT_EQ(line.m_HalfSpan, (vexelbase::point<double>{-3, 1.5}));
+    EXPECT_TRUE(line.m_Contour.empty());
+    cap.m_Offset = 5.25;
+    cap.m_HalfWidth = 4;
+    line.DrawCaption(cap, false, x, y, 0.5, 1, colour, step, false);
+    EXPECT_EQ(line.m_HalfSpan, (vexelbase::point<double>{-3, 1.5}));  // cut off wholly
 }
 
 TEST(LineContour, ADiscIsRoundOnAVerticalLineButFlatOnAHorizontalOne)
