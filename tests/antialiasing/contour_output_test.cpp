@@ -90,6 +90,15 @@ TEST(ContourOutput, ABlendIsCutToEightBitsNotClamped)
     EXPECT_EQ(contour.GetColor({0, 0}, 0x0000FF), 0x000063ul);  // 355 and 256
 }
 
+TEST(ContourOutput, MoreThanFullCoverageTakesMoreThanTheBackground)
+{
+    CContour contour;
+    contour.m_Contour[{0, 0}] = {300, 0, 0, 300, 0};  // twice stamped and never made solid
+
+    // 128 * -45 / 255 is -22: 278, and cut to eight bits 22; without any colour -22 is 234.
+    EXPECT_EQ(contour.GetColor({0, 0}, 0x800080), 0xEA0016ul);
+}
+
 TEST(ContourOutput, PaintContourKeepsCoverage)
 {
     CContour contour;

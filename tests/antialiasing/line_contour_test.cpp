@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
+#include <iterator>
 #include <string>
 
 namespace antialiasing
@@ -71,6 +74,31 @@ TEST(LineContour, HasTheUsualDefaults)
 
 // A sample at (0.25, 0.25): distances 0.353553, 0.790569 twice, 1.06066. Their reciprocals to the power 1.5 are 4.75683,
 // 1.42262, 1.42262 and 0.91545; of 8.51753 these are 0.55848, 0.16702, 0.16702, 0.10748, so 142, 42, 42 and 27 of 255.
+template <class... Fields> bool StandInOrder(Fields const&... fields)
+{
+    void const* const places[] = {&fields...};
+    return std::is_sorted(std::begin(places), std::end(places), std::less<>());
+}
+
+TEST(LineContour, FieldsStandInTheirOrder)
+{
+    CLineContour const l;
+    LINE_CONTOUR_PARAMS const& params = l;
+    EXPECT_TRUE(StandInOrder(static_cast<CContour const&>(l).m_Last, params.m_Start, l.m_End, l.m_Width, l.m_Density,
+                             l.m_PenStyle, l.m_StartCap, l.m_EndCap, l.m_Intensity, l.m_StartColor, l.m_EndColor,
+                             l.m_StartCapOffset, l.m_EndCapOffset, l.m_CaptionsOnly, l.m_Opacity, l.m_CrossStep,
+                             l.m_HalfSpan));
+    EXPECT_TRUE(
+        StandInOrder(l.m_Mode, l.m_Bounds, l.m_Contour, l.m_Solid, l.m_Overlaid, l.m_Ambient, l.m_Forced, l.m_Last));
+    EXPECT_TRUE(StandInOrder(l.m_Ambient.m_Primary, l.m_Ambient.m_Secondary, l.m_Ambient.m_Owner, l.m_Ambient.m_Saved,
+                             l.m_Ambient.m_Sharers));
+    CapParams const cap;
+    EXPECT_TRUE(StandInOrder(cap.m_Style, cap.m_Length, cap.m_Offset, cap.m_Radius, cap.m_HalfWidth, cap.m_ExtraArea));
+    CColorInfoR const step;
+    EXPECT_TRUE(StandInOrder(step.m_Red, step.m_Green, step.m_Blue, step.m_Alpha, step.m_RedCarry, step.m_GreenCarry,
+                             step.m_BlueCarry, step.m_AlphaCarry));
+}
+
 TEST(LineContour, SamplesOfAHorizontalLineLieAQuarterOffTheGrid)
 {
     CLineContour line;
@@ -172,6 +200,44 @@ TEST(LineContour, AnotherStyleStampsCapsOnly)
     EXPECT_FALSE(caps.m_CaptionsOnly);
 }
 
+TEST(LineContour, AnotherStyleHasTheEndCapWhereTheLineEnds)
+{
+    for (int const style : {0, 6, -1})
+    {
+        CLineContour line;
+        line.m_PenStyle = style;
+        line.m_Width = 3;
+        line.m_StartCap = line.m_EndCap = CapArrowNarrow;  // 13 long
+        SetLine(line, 0, 0, 40, 0);
+
+        line.Generate(nullptr, nullptr);
+
+        // From 0.25 on 13 samples, none on 14 places, and 13 from 27.25 on.
+        for (auto const& [position, pixel] : line.m_Contour)
+            EXPECT_TRUE(position.x <= 13 || position.x >= 27) << style << ": " << position.x;
+        EXPECT_EQ(line.m_Contour.begin()->first.x, 0) << style;
+        EXPECT_EQ(line.m_Contour.rbegin()->first.x, 40) << style;
+    }
+}
+
+TEST(LineContour, TheRowOfTheBodyIsSetWhateverTheStyle)
+{
+    for (int style = 0; style <= 6; ++style)
+    {
+        CLineContour line;
+        line.m_PenStyle = style;
+        line.m_Width = 5;
+        SetLine(line, 0, 0, 30, 40);  // steps of 0.6 and 0.8
+
+        line.Generate(nullptr, nullptr);
+
+        EXPECT_DOUBLE_EQ(line.m_CrossStep.x, -0.8) << style;
+        EXPECT_DOUBLE_EQ(line.m_CrossStep.y, 0.6) << style;
+        EXPECT_DOUBLE_EQ(line.m_HalfSpan.x, -1.6) << style;
+        EXPECT_DOUBLE_EQ(line.m_HalfSpan.y, 1.2) << style;
+    }
+}
+
 TEST(LineContour, CaptionsOnlyPutsTheEndCapWhereTheLineEnds)
 {
     CLineContour whole, caps;
@@ -252,9 +318,85 @@ TEST(LineContour, ACapThatIsCutOffWhollyIsNotStamped)
 
     line.DrawCaption(cap, true, x, y, 0, 1, colour, step, false);
     EXPECT_EQ(y, 2);
-    cap.m_Offset = 3;  // 2.5 steps, rounded down
+    cap.m_Offset = 3;
     line.DrawCaption(cap, true, x, y, 0, 1, colour, step, false);
     EXPECT_EQ(y, 4);
+}
+
+TEST(LineContour, WhatIsCutOffACapIsLeftToTheBody)
+{
+    for (bool const atStart : {true, false})
+    {
+        CLineContour line;
+        line.m_Width = 3;
+        (atStart ? line.m_StartCap : line.m_EndCap) = CapArrowNarrow;  // 13 long, of which 9 stay
+        (atStart ? line.m_StartCapOffset : line.m_EndCapOffset) = 4;
+        SetLine(line, 0, 0, 40, 0);
+
+        line.Generate(nullptr, nullptr);
+
+        // 31 samples of the body and 9 of the cap: from 0.25 to 39.25.
+        EXPECT_EQ(line.m_Bounds.right, 40) << atStart;
+        EXPECT_EQ(line.m_Contour.begin()->first.x, 0) << atStart;
+        EXPECT_EQ(line.m_Contour.rbegin()->first.x, 40) << atStart;
+    }
+}
+
+TEST(LineContour, WhatIsCutOffOneCapLeavesRoomForTheOther)
+{
+    for (bool const atStart : {true, false})
+    {
+        CLineContour line;
+        (atStart ? line.m_StartCap : line.m_EndCap) = CapArrowNarrow;
+        (atStart ? line.m_EndCapOffset : line.m_StartCapOffset) = 10;
+        line.m_Width = 3;
+        SetLine(line, 0, 0, 20, 0);
+
+        line.Generate(nullptr, nullptr);
+
+        // 0.4 of 30 long, not of 20; half as wide as 12 * 0.2126 = 2.55, around a middle at 0.25.
+        EXPECT_EQ(line.m_Bounds.top, -3) << atStart;
+        EXPECT_EQ(line.m_Bounds.bottom, 3) << atStart;
+    }
+}
+
+TEST(LineContour, TheStepsOfACapAreRoundedToTheNearest)
+{
+    CLineContour line;
+    CColorInfo colour;
+    CColorInfoR step;
+    CapParams cap;
+    cap.m_Style = CapCircle5;
+    cap.m_Length = 5;
+    double x = 1, y = 2;
+
+    cap.m_Offset = 2.75;  // 2.25
+    line.DrawCaption(cap, true, x, y, 0, 1, colour, step, false);
+    EXPECT_EQ(y, 4);
+    cap.m_Offset = 2.5;
+    line.DrawCaption(cap, true, x, y, 0, 1, colour, step, false);
+    EXPECT_EQ(y, 7);
+}
+
+TEST(LineContour, AnArrowWithoutStepsStillSetsItsSpan)
+{
+    CLineContour line;
+    CColorInfo colour;
+    CColorInfoR step;
+    CapParams cap;
+    cap.m_Style = CapArrowWide;
+    cap.m_Length = cap.m_Offset = 5;
+    cap.m_HalfWidth = 3;
+    double x = 1, y = 2;
+
+    line.DrawCaption(cap, false, x, y, 0.5, 1, colour, step, false);
+
+    EXPECT_EQ(line.m_HalfSpan, (vexelbase::point<double>{-3, 1.5}));
+    EXPECT_TRUE(line.m_Contour.empty());
+    cap.m_Offset = 5.25;
+    cap.m_HalfWidth = 4;
+    line.DrawCaption(cap, false, x, y, 0.5, 1, colour, step, false);
+    EXPECT_EQ(line.m_HalfSpan, (vexelbase::point<double>{-3, 1.5}));  // cut off wholly
 }
 
 TEST(LineContour, ADiscIsRoundOnAVerticalLineButFlatOnAHorizontalOne)

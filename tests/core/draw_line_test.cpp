@@ -7,8 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace vexel
 {
@@ -166,6 +168,27 @@ TEST_F(DrawLineTest, NothingOfABrokenLineShowsInTheNext)
     for (int y = 0; y < 16; ++y)
         for (int x = 0; x < 24; ++x)
             ASSERT_EQ(other.Pixels().Row(y)[x], m_Canvas.Pixels().Row(y)[x]) << x << ", " << y;
+}
+
+TEST_F(DrawLineTest, FindsRowsThatLieApart)
+{
+    m_Canvas.Pen(tests::Black, pen::psSolid, 3);
+    tests::CCanvas other(24, 16);
+    other.Pen(tests::Black, pen::psSolid, 3);
+    std::vector<std::uint32_t> memory(40 * 16, 0xFFFFFFFFu);
+    other.Pixels().UseOther(memory.data(), 40);
+
+    for (point<double> const& end : {point<double>{20, 12}, {5, 14}, {20, 2}})
+    {
+        DrawLine(&m_Canvas.Painter(), end, {2, 2}, CapArrowWide, CapCircle7);
+        DrawLine(&other.Painter(), end, {2, 2}, CapArrowWide, CapCircle7);
+    }
+
+    for (int y = 0; y < 16; ++y)
+        for (int x = 0; x < 40; ++x)
+            ASSERT_EQ(memory[static_cast<std::size_t>(y * 40 + x)], x < 24 ? m_Canvas.Pixels().Row(y)[x] : 0xFFFFFFFFu)
+                << x << ", " << y;
+    other.Pixels().UseOwn(false);
 }
 
 class CRecorder : public memory::IPaintRecorder

@@ -2,6 +2,7 @@
 
 #include "vexel/platform/convert.h"
 #include "vexel/platform/detail/pixel_transfer.h"
+#include "vexel/platform/pixel_editor.h"
 #include "vexel/testing/random.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 #include <cmath>
 #include <limits>
 #include <map>
+#include <vector>
 
 namespace vexelbase::tests
 {
@@ -237,6 +239,32 @@ TEST(Damage, IsNotedByAllThatWritesAndCutToTheSurface)
     canvas->GetPixel(3, 3);
     canvas->ExtractRasterPicture(MakePicture("rr\n").get(), 0, 0, 9, 9);
     EXPECT_EQ(damage.GetCount(), 0);
+}
+
+// Editing pixels ---------------------------------------------------------------------------------------------------
+
+TEST(RasterDeviceEdit, FindsRowsThatLieApart)
+{
+    std::vector<std::uint32_t> memory(5 * 3, 0xFF000000u);
+    CCanvas canvas(3, 3);
+    canvas.Pixels().UseOther(memory.data(), 5);
+    struct CEditor : IPixelEditor
+    {
+        void Edit(SPixelArea const& part) override
+        {
+            EXPECT_EQ(part.area, (rectangle<int>{1, 1, 3, 3}));
+            *part.At(1, 1) = 0xFF111111u;
+            *part.At(2, 2) = 0xFF222222u;
+        }
+    } editor;
+
+    canvas.Device().Edit({1, 1, 9, 9}, editor);
+
+    std::vector<std::uint32_t> expected(5 * 3, 0xFF000000u);
+    expected[5 + 1] = 0xFF111111u;
+    expected[10 + 2] = 0xFF222222u;
+    EXPECT_EQ(memory, expected);
+    canvas.Pixels().UseOwn(false);
 }
 
 // Moving pixels ----------------------------------------------------------------------------------------------------

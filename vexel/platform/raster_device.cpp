@@ -176,7 +176,7 @@ void CRasterDevice::Edit(rectangle<int> const& area, IPixelEditor& editor)
 {
     rectangle<int> part = area;
     if (Touch(part))
-        editor.Edit({part, m_Pixels.Row(part.top) + part.left, m_Pixels.GetWidth()});
+        editor.Edit({part, m_Pixels.Row(part.top) + part.left, m_Pixels.GetStride()});
 }
 
 bool CRasterDevice::Move(rectangle<int> const& area, int dx, int dy)

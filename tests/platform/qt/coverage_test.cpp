@@ -106,6 +106,26 @@ TEST(QtCoverage, AllWaysAgreeToThePixel)
     }
 }
 
+TEST(QtCoverage, FindsRowsThatLieApart)
+{
+    std::vector<std::uint32_t> memory(20 * 2, 0xFF000000u);
+    CPixelBuffer pixels(size<int>{16, 2});
+    pixels.UseOther(memory.data(), 20);
+    std::uint8_t const bits[16] = {0, 0, 0, 0, 0, 0, 0, 0, 255, 0, 0, 0, 0, 0, 0, 0};
+    SCoverage coverage;
+    coverage.width = 3;
+    coverage.height = 2;
+    coverage.stride = 8;
+    coverage.bits = bits;
+
+    BlendCoverage(pixels, {0, 0, 16, 2}, 2, 0, coverage, 0xFFFEDCBAu);
+
+    std::vector<std::uint32_t> expected(20 * 2, 0xFF000000u);
+    expected[20 + 2] = 0xFFFEDCBAu;
+    EXPECT_EQ(memory, expected);
+    pixels.UseOwn(false);
+}
+
 TEST(QtCoverage, TurningBackGivesTheSame)
 {
     std::vector<std::uint8_t> const letter{1, 2, 3, 0, 0, 0, 0, 0, 4, 5, 6, 0, 0, 0, 0, 0};

@@ -142,8 +142,9 @@ void WalkLine(LINE_CONTOUR_PARAMS const& line, bool capsOnly, SLineCursor& curso
         cursor.x += places * cursor.dx;
         cursor.y += places * cursor.dy;
     }
-    else if (line.m_PenStyle >= 1 && line.m_PenStyle <= 5)
+    else
     {
+        // The row and the place of the end cap don't depend on whether the pen draws a body.
         double const steps = static_cast<double>(line.m_Width) - 1;
         cursor.crossStep = {-cursor.dy, cursor.dx};
         cursor.halfSpan = {cursor.crossStep.x * steps / 2, cursor.crossStep.y * steps / 2};

@@ -51,7 +51,7 @@ void BlendRow(std::uint32_t* row, std::uint8_t const* cover, int count, std::uin
 struct SRows
 {
     std::uint32_t* target;
-    int targetStep;
+    std::ptrdiff_t targetStep;
     std::uint8_t const* cover;
     int coverStep;
     int width;
@@ -202,7 +202,7 @@ void BlendCoverage(CPixelBuffer& pixels, rectangle<int> const& clip, int x, int 
     if (part.left == place.left && part.right == place.right && place.left + reach <= clip.right)
     {
         SRows const rows{pixels.Row(part.top) + part.left,
-                         pixels.GetWidth(),
+                         pixels.GetStride(),
                          cover,
                          coverage.stride,
                          coverage.width,
