@@ -152,6 +152,9 @@ TEST_F(DragSelect, TheHelperStartsAndStopsByTheSameRule)
     Handler().ProcessScrolling(-1, 70);
     EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssForward);
     EXPECT_TRUE(IsRepeating());
+    Handler().StopScrolling();
+    Handler().ProcessScrolling(-1, 0);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssForward);
     Handler().ProcessScrolling(3, 10);
     EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
     EXPECT_FALSE(IsRepeating());
@@ -181,6 +184,27 @@ TEST_F(DragSelect, InAListThatIsEmptiedTheCurrentStays)
     EXPECT_EQ(Current(), 3);
     EXPECT_EQ(Start(), 0);
     EXPECT_FALSE(IsRepeating());
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragSelect, OutsideTheViewNobodyHearsOfAPress)
+{
+    class CPressed : public CEventHandler
+    {
+    public:
+        int m_Presses = 0;
+        bool ProcessButtonDown(int, int, int, MouseButton, bool*) override
+        {
+            ++m_Presses;
+            return false;
+        }
+    };
+    CPressed first;
+    m_Rows->SetDefEventHandler(&first);
+    Begin(25, 35);
+    EXPECT_EQ(first.m_Presses, 2);  // that of the button, and row 3's of the drag
+    m_Host.Mouse().Move(*m_Rows, 5, 60);
+    EXPECT_EQ(first.m_Presses, 2);
     m_Host.Mouse().Release();
 }
 
