@@ -17,6 +17,7 @@
 #include "gallery/pages/grid_page.h"
 #include "gallery/pages/html_text_page.h"
 #include "gallery/pages/input_log_page.h"
+#include "gallery/pages/lines_page.h"
 #include "gallery/pages/lists_page.h"
 #include "gallery/pages/native_controls_page.h"
 #include "gallery/pages/overlap_page.h"
@@ -58,6 +59,8 @@ SPage const g_Pages[] = {
     {"drag", "Drag and drop", "Drag a tile onto the left bin. The right one takes nothing.", &Make<CDragDropPage>},
     {"flashing", "Flashing", "A timer switches colours and palettes of these elements.", &Make<CFlashingPage>},
     {"painter", "Painter", "Every shape, pen, text flag and raster operation.", &Make<CPainterPage>},
+    {"lines", "Antialiased lines", "Widths, patterns, caps and gradients, and what lies beneath them.",
+     &Make<CLinesPage>},
     {"parts", "Native parts and borders",
      "Each part plain, hot, pressed and disabled; each border flat, raised, sunken.", &Make<CPartsPage>},
     {"native", "Native controls", "Edits, boxes and bars of the desktop stand in the tree. Walk through them with Tab.",

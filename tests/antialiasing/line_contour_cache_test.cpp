@@ -24,7 +24,7 @@ TEST(LineContourCache, ATagPacksTheLine)
     line.m_StartColor = {1, 2, 3, 4, 5};
     line.m_EndColor = {6, 7, 8, 9, 10};
 
-    Tag const tag(line, true, 0x10005, 0x20);
+    Tag const tag(line, true, 0x10005, 0x24);
 
     EXPECT_EQ(tag.m_Packed1, 1u + 12u + (4u << 4) + (5u << 7) + (3u << 13) + (45u << 16) + (3u << 30));
     EXPECT_EQ(tag.m_Packed2, 7u + (23u << 8) + (12u << 22));
@@ -57,6 +57,11 @@ TEST(LineContourCache, TagsAreOrderedByWordsSizeAndColours)
     line.m_StartColor.m_Red = 0;
     line.m_EndColor.m_Kind = 1;
     Tag const kind(line, false, 0, 0);
+    line.m_EndColor.m_Alpha = 256;
+    Tag const alpha(line, false, 0, 0);
+    line.m_EndColor.m_Kind = 2;
+    line.m_EndColor.m_Alpha = 255;
+    EXPECT_TRUE(Tag(line, false, 0, 0) < alpha);
 
     EXPECT_FALSE(plain < plain);
     EXPECT_TRUE(plain < kind && kind < red && red < sized && sized < moved && moved < flagged);
@@ -80,6 +85,30 @@ TEST(LineContourCache, AMaskSaysHowMuchOfTheBackgroundRemains)
     line.Generate(4, 3, true);
     unsigned char const flipped[12] = {255, 255, 255, 255, 213, 186, 228, 255, 113, 71, 213, 255};
     EXPECT_TRUE(std::equal(flipped, flipped + 12, line.m_Mask));
+}
+
+TEST(LineContourCache, WhatIsCoveredMoreThanOnceIsCoveredFully)
+{
+    CCacheableLineContour line;
+    line.m_Start = {1, 4};
+    line.m_End = {20, 4};
+    line.m_StartCap = CapArrowWide;  // the samples near its point lie close together
+    CLineContour contour;
+    static_cast<LINE_CONTOUR_PARAMS&>(contour) = line;
+    contour.Generate(nullptr, nullptr);
+
+    line.Generate(24, 9, false);
+
+    int found = 0;
+    for (auto const& [position, pixel] : contour.m_Contour)
+    {
+        if (pixel.m_Alpha > 255)
+        {
+            ++found;
+            EXPECT_EQ(line.m_Mask[position.y * 24 + position.x], 0) << position.x << ", " << position.y;
+        }
+    }
+    EXPECT_GT(found, 0);
 }
 
 TEST(LineContourCache, TheLawIsHandedOn)

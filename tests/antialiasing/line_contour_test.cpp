@@ -422,6 +422,24 @@ TEST(LineContour, ADiscIsRoundOnAVerticalLineButFlatOnAHorizontalOne)
     EXPECT_EQ(flat.m_Bounds.left, -5);
 }
 
+TEST(LineContour, ADiscBeginsWithAPoint)
+{
+    CLineContour line;
+    CColorInfo colour;
+    CColorInfoR step;
+    CapParams cap;
+    cap.m_Style = CapCircle10;
+    cap.m_Length = 10;
+    double x = 0.5, y = 0.5;
+
+    line.DrawCaption(cap, true, x, y, 0, 1, colour, step, false);
+
+    // Ten rows, of half widths 0, 3, 4, 4.58, 4.9, 5, 4.9, 4.58, 4, 3.
+    EXPECT_EQ(line.m_HalfSpan, (vexelbase::point<double>{-3, 0}));
+    EXPECT_EQ(line.m_Contour.begin()->first, (tagPOINT{-5, 3}));  // 0.5 - 4.58, in the fourth row
+    EXPECT_EQ(line.m_Contour.count({-1, 0}), 0u);
+}
+
 TEST(LineContour, CapsOfAShortLineShrink)
 {
     CapParams cap;

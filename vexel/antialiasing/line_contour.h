@@ -27,13 +27,15 @@ struct LINE_CONTOUR_PARAMS
     unsigned long m_Width = 0;    ///< Samples across the line.
     unsigned long m_Density = 0;  ///< Samples for 100 pixels of length.
     /// The numbers of vexelbase::pen: 1 solid, 2 dash, 3 dot, 4 dash dot, 5 dash dot dot. Of others only the caps are
-    /// stamped.
+    /// stamped, where they are with a body.
     int m_PenStyle = 0;
     CapStyle m_StartCap = CapNone;
     CapStyle m_EndCap = CapNone;
     int m_Intensity = 0;  ///< Opacity of one sample, in 255ths.
     CColorInfo m_StartColor;
-    CColorInfo m_EndColor;        ///< Another colour than at the start makes a gradient.
+    /// Another colour than at the start makes a gradient. The rows of a disc that lie before the start take steps of it too,
+    /// so the far end goes beyond this colour by as many; a channel that gets above 255 wraps there.
+    CColorInfo m_EndColor;
     double m_StartCapOffset = 0;  ///< How much of the cap's length is cut off.
     double m_EndCapOffset = 0;
 };
