@@ -45,17 +45,17 @@ int main(int argc, char** argv)
             path = argv[i];
         else
             columns.emplace_back(argv[i]);
-    if (path.empty())
+    if (path.empty() && !picture.empty())
         return Fail("usage: chart [--save PICTURE.png] FILE.csv [COLUMN...]");
     std::ifstream file(path);
-    if (!file)
+    if (!file && !path.empty())
         return Fail("can't read " + path);
 
     if (!picture.empty() && !std::getenv("QT_QPA_PLATFORM"))
         setenv("QT_QPA_PLATFORM", "offscreen", 0);
     vexelbase::qt::CApplication app(argc, argv);
     std::string const name = std::filesystem::path(path).filename().string();
-    auto window = app.CreateMainWindow(name + " - Chart", {900, 560});
+    auto window = app.CreateMainWindow(name.empty() ? "Chart" : name + " - Chart", {900, 560});
     vexel::CBaseControl control(window.get());
     chart::CChartView view(control.GetContent(), chart::ReadNumbers(file), columns);
     if (!view.GetUnknown().empty())
@@ -63,7 +63,9 @@ int main(int argc, char** argv)
     if (!picture.empty())
         return Save(*window, picture) ? 0 : Fail("can't write " + picture);
 
-    std::string const target = path + ".png";
+    if (path.empty())
+        view.Tell("Start it with a file: chart FILE.csv");
+    std::string const target = path.empty() ? "chart.png" : path + ".png";
     vexel::CConnection const save(
         view.m_SigSave, [&] { view.Tell(Save(*window, target) ? "Saved as " + target : "Can't write " + target); });
     return app.Run();

@@ -90,6 +90,6 @@ with tempfile.TemporaryDirectory() as name:
     assert size_of_png(saved) == (WIDTH, HEIGHT)
     for arguments, problem in ((("--save", saved, table, "speed"), "there is no column speed"),
                                (("--save", saved, folder / "none.csv"), "can't read"),
-                               (("--save", folder / "no" / "folder.png", table), "can't write"), ((), "usage: chart")):
+                               (("--save", folder / "no" / "folder.png", table), "can't write"), (("--save", saved), "usage: chart")):
         ended = run(*arguments)
         assert ended.returncode == 1 and problem in ended.stderr, (arguments, ended)
