@@ -374,6 +374,30 @@ TEST_P(BarDrag, ATickMovesTheTarget)
     EXPECT_FALSE(IsTimerRunning());
 }
 
+// Sections of 50 from 30 on; the view ends at 199.
+TEST_P(BarDrag, InAStripThatBeginsLaterATickCountsFromThere)
+{
+    MakeLong();
+    NarrowPane();
+    TargetAt(190);
+    m_Bar.OnSigTimerTick(nullptr);
+    EXPECT_EQ(m_Bar.GetDropTarget(), 3);  // 160 / 50 + 0.5
+    TargetAt(130);
+    m_Bar.OnSigTimerTick(nullptr);
+    EXPECT_EQ(m_Bar.GetDropTarget(), 2);
+    TargetAt(199);
+    m_Bar.OnSigTimerTick(nullptr);
+    EXPECT_EQ(m_Bar.GetDropTarget(), 3);  // 169 / 50
+}
+
+TEST_P(BarDrag, AModelThatCountsBelowNothingHasNoTarget)
+{
+    m_Names.m_Count = -5;
+    EXPECT_EQ(TargetAt(70), 0);
+    m_Bar.OnSigTimerTick(nullptr);
+    EXPECT_EQ(m_Bar.GetDropTarget(), 0);
+}
+
 TEST_P(BarDrag, TheTargetOfATickGoesByThePointersPlace)
 {
     MakeLong();
@@ -434,7 +458,7 @@ TEST_P(BarDrag, TheSectionIsDrawnAsItIsNotSelectedAndHalfTransparent)
                     .Then("picture SetTextColor blue")
                     .Then("picture DrawString \"B\" 0 0 " + edges + " 0x164")
                     .Then("picture EndPaint")
-                    .Then((IsUpright() ? "AlphaBlend 21x61 " : "AlphaBlend 61x21 ") + Numbers(Span(70, 130)) + " 127"));
+                    .Then((IsUpright() ? "AlphaBlend 20x60 " : "AlphaBlend 60x20 ") + Numbers(Span(70, 130)) + " 127"));
     m_Bar.SetDragTransparency(55);
     Move(91);
     EXPECT_THAT(m_Host.Paint(), Draws("AlphaBlend * " + Numbers(Span(71, 131)) + " 200"));

@@ -340,6 +340,7 @@ TEST_P(BarMouseOnSide, APlainClickSelectsOneSectionAtThePress)
     m_Bar.SetSelectedSections({0, 1});
     Press(70);
     EXPECT_EQ(Selected(), "1");  // the others go at the press, not at the release
+    EXPECT_EQ(m_Bar.GetState(), CBar::stPressed);
     Release();
     EXPECT_EQ(Selected(), "1");
     Click(120);

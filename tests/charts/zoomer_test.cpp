@@ -159,6 +159,9 @@ TEST_F(Zoomer, OneTooSmallForTheSliderDrawsItsBackgroundAlone)
     EXPECT_EQ(narrow.Count("FillRect*"), 1);
     EXPECT_THAT(narrow, Not(Draws("DrawString*")));
     EXPECT_THAT(narrow, Not(Draws("LineTo*")));
+    m_Zoomer.SetSliderPos(0.5);
+    Draw();
+    EXPECT_EQ(m_Zoomer.GetThumbRect(), (rectangle<int>{15, 0, 21, 19}));  // 16 - 0.5, cut
 
     m_Zoomer.SetSize({138, 0}, false);
     m_Host.Resize(200, 4);

@@ -110,7 +110,7 @@ bool CBar::IsUpright() const
 
 int CBar::GetSectionCount() const
 {
-    return GetCategoryModel() ? GetCategoryModel()->GetItemCount() : 0;
+    return GetCategoryModel() ? std::max(GetCategoryModel()->GetItemCount(), 0) : 0;
 }
 
 bool CBar::IsSection(int index) const
@@ -236,10 +236,10 @@ CBar::HitTestResult CBar::HitTestStrip(int along) const
     if (std::isnan(value))
         return result;
     int const count = GetSectionCount();
-    if (value > count || count <= 0)
+    if (value > count || count == 0)
     {
         result.m_Area = htBehind;
-        result.m_Section = result.m_NextSection = result.m_Hover = std::max(count, 0);
+        result.m_Section = result.m_NextSection = result.m_Hover = count;
         return result;
     }
     if (value < 0)

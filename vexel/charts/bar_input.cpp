@@ -270,10 +270,8 @@ void CBar::EndPress(int x, int y)
     {
     case stResizingSection:
     {
-        IScrollModel* const model = GetScrollModel();
-        double const width = model ? GetPixelWidth(*model, section) : 1.0;
-        if (IsSection(section))
-            m_SigSectionResized(section, width);
+        if (IScrollModel* const model = GetScrollModel(); IsSection(section))
+            m_SigSectionResized(section, model ? GetPixelWidth(*model, section) : 1.0);
         break;
     }
     case stResizingBar:
@@ -400,7 +398,7 @@ void CBar::ScrollWhileDragging()
     }
     CScrollConverter const converter(model);
     bool const beyond = m_DragPos > m_ViewEnd || place > m_ViewEnd;
-    if (beyond && converter.L2P(model->GetTo()) > converter.L2P(model->GetStart()) + m_ViewEnd)
+    if (beyond && converter.L2P(model->GetTo()) > converter.L2P(model->GetStart()) + m_ViewEnd - GetStripOrigin())
         m_Timer.Start(true);
     else
         m_Timer.Stop();
@@ -413,11 +411,12 @@ void CBar::OnSigTimerTick(CScrollTimer*)
         return;
     CScrollConverter const converter(model);
     double const start = model->GetStart();
+    int const origin = GetStripOrigin();
     double target = 0;
     if (m_DragPos >= m_ViewEnd)
-        target = std::floor(start + converter.P2L(m_ViewEnd));
+        target = std::floor(start + converter.P2L(SubtractSaturated(m_ViewEnd, origin)));
     else if (m_DragPos > m_ViewStart)
-        target = std::trunc(start + converter.P2L(m_DragPos) + 0.5);
+        target = std::trunc(start + converter.P2L(SubtractSaturated(m_DragPos, origin)) + 0.5);
     else
         target = std::ceil(start);
     m_DropTarget = std::clamp(ToInt(target), 0, GetSectionCount());

@@ -204,7 +204,7 @@ void CBar::DrawDraggedSection(IPainter* painter, rectangle<int> const& rect)
         return;
     int const width = rect.Width();
     int const height = rect.Height();
-    vexel_ptr<IRasterPicture> const picture = system->CreateRasterPicture({width + 1, height + 1});
+    vexel_ptr<IRasterPicture> const picture = system->CreateRasterPicture({width, height});
     IPainter* const canvas = picture->GetPainter();
     canvas->BeginPaint(IPainter::ssPaint);
     canvas->SetBrush({GetBkColor(), brush::bsSolid});

@@ -72,7 +72,7 @@ void CZoomer::DrawContent(IPainter* painter)
     if (!alive)
         return;
     rectangle<int> const bounds = GetBounds();
-    int const left = AddSaturated(ToInt(GetWay() * m_Pos), s_SignRoom);
+    int const left = ToInt(GetWay() * m_Pos + s_SignRoom);
     m_ThumbRect = {left, bounds.top, AddSaturated(left, s_ThumbWidth), bounds.bottom};
     if (GetWay() < 0 || bounds.bottom < s_MinHeight)
         return;
