@@ -3,6 +3,7 @@
 
 - paths into somebody's home or work folder: the tree must work wherever it stands;
 - addresses of web hosts other than the few below: nothing is fetched, and links rot;
+- the marks of a merge that was not finished;
 - tabs (but in .tsv files), blanks at the end of a line, carriage returns, a last line without its end.
 """
 import pathlib
@@ -14,6 +15,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 HOSTS = {"www.w3.org"}
 HOME = re.compile(r"(?<![\w.$}/])/(?:home|root|work|Users|mnt)/[\w.-]+")
 URL = re.compile(r"\b(?:https?|ftp)://([\w.-]+)")
+MARK = re.compile(r"(?:<{7}|>{7}) ")
 PICTURES = {".png", ".jpg", ".ico"}
 
 
@@ -24,6 +26,8 @@ def complaints(text):
         for match in URL.finditer(line):
             if match.group(1) not in HOSTS:
                 yield number, f"the address of a host: {match.group(1)}"
+        if MARK.match(line):
+            yield number, "the mark of a merge"
         if line != line.rstrip():
             yield number, "blanks at the end of the line"
         if "\t" in line:

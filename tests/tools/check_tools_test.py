@@ -109,6 +109,8 @@ class Text(unittest.TestCase):
         self.expect("blanks", "two ")
 
     def test_a_last_line_without_end_is_found(self):
+        self.assertEqual(Tree({"a.txt": "<" * 7 + " HEAD\none\n"}).run("check_text.py")[0], 1)
+        self.assertEqual(Tree({"a.txt": ">" * 7 + " other\n"}).run("check_text.py")[0], 1)
         self.assertEqual(Tree({"a.txt": "one"}).run("check_text.py")[0], 1)
 
 
