@@ -108,9 +108,11 @@ class Text(unittest.TestCase):
     def test_blanks_at_the_end_are_found(self):
         self.expect("blanks", "two ")
 
+    def test_the_marks_of_a_merge_are_found(self):
+        self.expect("the mark of a merge", "<" * 7 + " HEAD")
+        self.expect("the mark of a merge", ">" * 7 + " other")
+
     def test_a_last_line_without_end_is_found(self):
-        self.assertEqual(Tree({"a.txt": "<" * 7 + " HEAD\none\n"}).run("check_text.py")[0], 1)
-        self.assertEqual(Tree({"a.txt": ">" * 7 + " other\n"}).run("check_text.py")[0], 1)
         self.assertEqual(Tree({"a.txt": "one"}).run("check_text.py")[0], 1)
 
 
