@@ -363,6 +363,24 @@ TEST_F(AxisPaint, ALabelThatEndsExactlyAtTheEndStaysInItsMiddle)
 namespace
 {
 
+struct SOnce
+{
+    CAxis* axis;
+    double along, lastEnd, limit;
+    double result = -1;
+    void Draw(CVisualElement*, IPainter* painter)
+    {
+        result = axis->DrawLabel(painter, {along, 5}, 100, lastEnd, limit);
+    }
+};
+class CCanvas : public CVisualElement
+{
+public:
+    using CVisualElement::CVisualElement;
+    SOnce* m_Once = nullptr;
+    void DrawContent(IPainter* painter) override { m_Once->Draw(this, painter); }
+};
+
 class AxisLabel : public CAxisBench<CAxis>
 {
 protected:
@@ -370,23 +388,6 @@ protected:
     // The label of a tick at this place in the way of which the last one ends, and what the drawing returned.
     std::string Draw100(double along, double lastEnd, double limit)
     {
-        struct SOnce
-        {
-            CAxis* axis;
-            double along, lastEnd, limit;
-            double result = -1;
-            void Draw(CVisualElement*, IPainter* painter)
-            {
-                result = axis->DrawLabel(painter, {along, 5}, 100, lastEnd, limit);
-            }
-        };
-        class CCanvas : public CVisualElement
-        {
-        public:
-            using CVisualElement::CVisualElement;
-            SOnce* m_Once = nullptr;
-            void DrawContent(IPainter* painter) override { m_Once->Draw(this, painter); }
-        };
         SOnce once{m_Axis, along, lastEnd, limit};
         CCanvas canvas(m_Host.Root(), {0, 0}, alNone);
         canvas.m_Once = &once;

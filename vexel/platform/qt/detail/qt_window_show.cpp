@@ -109,9 +109,10 @@ void CQtWindow::ScrollPixels(int dx, int dy, screen_rectangle<int> const& area)
     if (IsInStore())
     {
         QRegion const children = GetChildRegion();
-        rectangle<int> const moved{
+        rectangle<int> moved{
             std::min(area.left, AddSaturated(area.left, dx)), std::min(area.top, AddSaturated(area.top, dy)),
             std::max(area.right, AddSaturated(area.right, dx)), std::max(area.bottom, AddSaturated(area.bottom, dy))};
+        moved.Intersect({-1, -1, GetSurfaceSize().width, GetSurfaceSize().height});
         if (children.intersects(ToQtRect(moved)) || !MayUseStore())
             LeaveStore();
     }
