@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/edge_bench.h"
 #include "vexel/charts/bar.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
@@ -60,25 +61,15 @@ public:
     std::pair<double, int> GetMeasure() const override { return m_Measure; }
 };
 
-/// What the bar stands beside.
-class CBarPane : public CVisualElement
-{
-public:
-    using CVisualElement::CVisualElement;
-
-protected:
-    void DrawContent(IPainter* painter) override
-    {
-        rectangle<int> const rect = GetBounds();
-        painter->FillRect(0, 0, rect.right, rect.bottom);
-    }
-};
+using CBarPane = CSheet;  // what it stands beside
 
 /// A bar on a window of 200 x 200, 20 pixels thick and 199 long on whichever side it stands; the rest is a pane. Its
 /// sections are 0 to 50, 50 to 110, 110 to 150.
-template <class Bar = CBar> class CBarBenchOf : public testing::Test
+template <class Bar = CBar> class CBarBenchOf : public CEdgeBench
 {
 protected:
+    CTestHost& GetHost() override { return m_Host; }
+    CVisualElement& GetStrip() const override { return m_Bar; }
     explicit CBarBenchOf(Alignment side = alTop, int thickness = 20)
         : m_Bar(*new Bar(m_Host.Root(), {thickness, thickness}, side)),
           m_Pane(*new CBarPane(m_Host.Root(), {0, 0}, alClient))
@@ -94,24 +85,9 @@ protected:
         m_Host.Paint();
     }
 
-    // Places along the bar, 10 pixels in
-    bool IsUpright() const { return m_Bar.GetAlignment() == alLeft || m_Bar.GetAlignment() == alRight; }
-    point<int> At(int along, int across = 10) const
-    {
-        return IsUpright() ? point<int>{across, along} : point<int>{along, across};
-    }
-    rectangle<int> Span(int from, int to) const  ///< As thick as the bar.
-    {
-        return IsUpright() ? rectangle<int>{0, from, 20, to} : rectangle<int>{from, 0, to, 20};
-    }
     rectangle<double> SpanDouble(double from, double to) const
     {
         return IsUpright() ? rectangle<double>{0, from, 20, to} : rectangle<double>{from, 0, to, 20};
-    }
-    void Move(int along, int across = 10)
-    {
-        point<int> const where = At(along, across);
-        m_Host.Mouse().Move(m_Bar, where.x, where.y);
     }
     void Press(int along, int keys = 0, MouseButton button = mbLeft)
     {
@@ -119,7 +95,6 @@ protected:
         CHoldKeys const held(m_Host, keys);
         m_Host.Mouse().Press(button);
     }
-    void Release(MouseButton button = mbLeft) { m_Host.Mouse().Release(button); }
     void Click(int along, int keys = 0)
     {
         Press(along, keys);
@@ -142,8 +117,6 @@ protected:
             text += std::to_string(section);
         return text;
     }
-    CVisualElement* Captured() { return m_Host.Control().GetControl()->GetCapture(); }
-    CVisualElement* Dragged() { return m_Host.Control().GetControl()->GetDraggedElement(); }
     void HearAll(CSignalLog& log)
     {
         log.Add(m_Bar.m_SigSectionDropped, "dropped").Add(m_Bar.m_SigBarResizeAllowed, "barResizeAllowed");

@@ -1,6 +1,7 @@
 // Whatever a slot does away with while a user works at a bar, the bar touches nothing that is dead.
 
 #include "tests/charts/bar_bench.h"
+#include "tests/support/deed_scene.h"
 #include "tests/support/slot.h"
 #include "vexel/signals/cancel_processing.h"
 
@@ -16,7 +17,7 @@ namespace
 {
 
 // A bar at the left of a pane in a parent, 200 x 200, with sections from 0 to 50, 110, 150, 190, 230 and 270.
-class CScene
+class CScene : public CDeedScene
 {
 public:
     CScene()
@@ -28,6 +29,9 @@ public:
         Watch(*m_Bar);
         m_Host->Paint();
     }
+    ~CScene() { StopWatching(); }
+    CScene(CScene const&) = delete;
+    CScene& operator=(CScene const&) = delete;
 
     // Everything that a user can do, each step on its own.
     static std::vector<std::function<void(CScene&)>> Steps()
@@ -119,39 +123,20 @@ public:
             m_Bar->SetAlignment(alTop);
     }
 
-    // Everything that a slot may hear, by name.
-    template <class... A> void On(std::string const& name, auto& signal)
-    {
-        m_Connect[name] = [&signal](std::function<void()> const& deed) {
-            auto slot = std::make_unique<CSlot<A...>>([deed](A...) {
-                auto const copy = deed;  // it may end this slot
-                copy();
-            });
-            signal.connect(slot.get(), &CSlot<A...>::Call);
-            return std::unique_ptr<subscriber_base_t>(std::move(slot));
-        };
-    }
-    std::map<std::string, std::function<std::unique_ptr<subscriber_base_t>(std::function<void()> const&)>> m_Connect;
-
     bool IsThere(CVisualElement* element) const
     {
         if (element == m_Bar && m_Detached)
             return true;
-        return m_Host->HasControl() && m_Alive.contains(element);
+        return m_Host->HasControl() && IsAlive(element);
     }
 
 private:
     void Watch(CBar& bar)
     {
-        for (CVisualElement* element : std::initializer_list<CVisualElement*>{m_Bar, m_Pane, m_Parent})
-        {
-            m_Alive.insert(element);
-            m_Watches.push_back(Listen(element->m_SigDestroy, [this](CVisualElement* dead) {
-                m_Alive.erase(dead);
-                if (dead == m_Bar)
-                    static_cast<void>(m_Detached.release());
-            }));
-        }
+        WatchElements({m_Bar, m_Pane, m_Parent}, [this](CVisualElement* dead) {
+            if (dead == m_Bar)
+                static_cast<void>(m_Detached.release());
+        });
         On<CBar*, int, int>("dropped", bar.m_SigSectionDropped);
         On<bool*>("barResizeAllowed", bar.m_SigBarResizeAllowed);
         On<size<int>&>("barResized", bar.m_SigBarResized);
@@ -176,8 +161,6 @@ public:
     CBarPane* const m_Pane = new CBarPane(m_Parent, {0, 0}, alClient);
 
 private:
-    std::set<CVisualElement*> m_Alive;
-    std::vector<std::unique_ptr<CSlot<CVisualElement*>>> m_Watches;
     std::unique_ptr<CBar> m_Detached;
 };
 

@@ -1,5 +1,6 @@
 // What the paint pass and its helpers do to the painter, and which elements they pass over.
 
+#include "tests/support/edge_bench.h"
 #include "tests/support/slot.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/clip_holder.h"
@@ -21,19 +22,6 @@ using Rect = rectangle<double>;
 
 namespace
 {
-
-class CSheet : public CVisualElement
-{
-public:
-    using CVisualElement::CVisualElement;
-
-protected:
-    void DrawContent(IPainter* painter) override
-    {
-        rectangle<int> const rect = GetBounds();
-        painter->FillRect(0, 0, rect.right, rect.bottom);
-    }
-};
 
 // left (0, 0, 20, 39) > inner (0, 0, 20, 10); right (21, 0, 99, 39)
 class PaintRules : public testing::Test

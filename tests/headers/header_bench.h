@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/edge_bench.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
 #include "vexel/headers/simple_header.h"
@@ -105,19 +106,7 @@ public:
     bool IsInseparableStep() const override { return m_Whole; }
 };
 
-/// What the header stands beside.
-class CViewPane : public CVisualElement
-{
-public:
-    using CVisualElement::CVisualElement;
-
-protected:
-    void DrawContent(IPainter* painter) override
-    {
-        rectangle<int> const rect = GetBounds();
-        painter->FillRect(0, 0, rect.right, rect.bottom);
-    }
-};
+using CViewPane = CSheet;  // what it stands beside
 
 /// Tells from outside whether an element asked for a repaint.
 inline bool IsRepaintPending(CTestHost& host)
@@ -128,9 +117,11 @@ inline bool IsRepaintPending(CTestHost& host)
 }
 
 /// A header on a window of 200 x 200, 20 pixels thick and 199 long on whichever side it stands; the rest is a pane.
-class CHeaderBench : public testing::Test
+class CHeaderBench : public CEdgeBench
 {
 protected:
+    CTestHost& GetHost() override { return m_Host; }
+    CVisualElement& GetStrip() const override { return m_Header; }
     explicit CHeaderBench(Alignment side = alTop, std::vector<int> widths = {50, 60, 40})
         : m_Sections(std::move(widths)), m_Header(*new CSimpleHeader(m_Host.Root(), {20, 20}, side)),
           m_Pane(*new CViewPane(m_Host.Root(), {0, 0}, alClient))
@@ -146,27 +137,11 @@ protected:
         m_Host.Paint();
     }
 
-    // Places along the header, 10 pixels in
-    bool IsUpright() const { return m_Header.GetAlignment() == alLeft || m_Header.GetAlignment() == alRight; }
-    point<int> At(int along, int across = 10) const
-    {
-        return IsUpright() ? point<int>{across, along} : point<int>{along, across};
-    }
-    rectangle<int> Span(int from, int to) const  ///< As thick as the header.
-    {
-        return IsUpright() ? rectangle<int>{0, from, 20, to} : rectangle<int>{from, 0, to, 20};
-    }
-    void Move(int along, int across = 10)
-    {
-        point<int> const where = At(along, across);
-        m_Host.Mouse().Move(m_Header, where.x, where.y);
-    }
     void Press(int along, MouseButton button = mbLeft)
     {
         Move(along);
         m_Host.Mouse().Press(button);
     }
-    void Release(MouseButton button = mbLeft) { m_Host.Mouse().Release(button); }
     std::string Hit(int along, int across = 10)
     {
         CSimpleHeader::HitTestResult const hit = m_Header.HitTest(At(along, across));
@@ -174,8 +149,6 @@ protected:
             std::to_string(hit.m_Area) + ": " + std::to_string(hit.m_Section) + " " + std::to_string(hit.m_NextSection);
         return text + " " + Describe(hit.m_Rect);
     }
-    CVisualElement* Captured() { return m_Host.Control().GetControl()->GetCapture(); }
-    CVisualElement* Dragged() { return m_Host.Control().GetControl()->GetDraggedElement(); }
     void HearAll(CSignalLog& log)
     {
         log.Add(m_Header.m_SigCanResize, "canResize").Add(m_Header.m_SigResizing, "resizing");

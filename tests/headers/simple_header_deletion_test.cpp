@@ -1,6 +1,7 @@
 // Whatever a slot does away with while a user works at a header, the header touches nothing that is dead.
 
 #include "tests/headers/header_grid.h"
+#include "tests/support/deed_scene.h"
 #include "tests/support/slot.h"
 #include "vexel/signals/cancel_processing.h"
 #include "vexel/views/discrete_item_view_model.h"
@@ -17,7 +18,7 @@ namespace
 {
 
 // A header over a grid in a scroll box, 200 x 100; columns of 50 pixels.
-class CScene
+class CScene : public CDeedScene
 {
 public:
     CScene()
@@ -39,6 +40,9 @@ public:
         m_Host->Paint();
         m_Sorter->SetFocus(true);
     }
+    ~CScene() { StopWatching(); }
+    CScene(CScene const&) = delete;
+    CScene& operator=(CScene const&) = delete;
 
     // Everything that a user can do, each step on its own.
     static std::vector<std::function<void(CTestHost&)>> Steps()
@@ -159,39 +163,20 @@ public:
             m_Header->SetEnabled(false);
     }
 
-    // Everything that a slot may hear, by name; the slot ends before the deed is done.
-    template <class... A> void On(std::string const& name, auto& signal)
-    {
-        m_Connect[name] = [&signal](std::function<void()> const& deed) {
-            auto slot = std::make_unique<CSlot<A...>>([deed](A...) {
-                auto const copy = deed;  // it may end this slot
-                copy();
-            });
-            signal.connect(slot.get(), &CSlot<A...>::Call);
-            return std::unique_ptr<subscriber_base_t>(std::move(slot));
-        };
-    }
-    std::map<std::string, std::function<std::unique_ptr<subscriber_base_t>(std::function<void()> const&)>> m_Connect;
-
     bool IsThere(CVisualElement* element) const
     {
         if (element == m_Header && m_Detached)
             return true;
-        return m_Host->HasControl() && m_Alive.contains(element);
+        return m_Host->HasControl() && IsAlive(element);
     }
 
 private:
     void Watch(CSimpleHeader& header)
     {
-        for (CVisualElement* element : std::initializer_list<CVisualElement*>{m_Header, m_Grid, m_Box, m_Sorter})
-        {
-            m_Alive.insert(element);
-            m_Watches.push_back(Listen(element->m_SigDestroy, [this](CVisualElement* dead) {
-                m_Alive.erase(dead);
-                if (dead == m_Header)
-                    static_cast<void>(m_Detached.release());
-            }));
-        }
+        WatchElements({m_Header, m_Grid, m_Box, m_Sorter}, [this](CVisualElement* dead) {
+            if (dead == m_Header)
+                static_cast<void>(m_Detached.release());
+        });
         On<CSimpleHeader*, int, bool*>("canResize", header.m_SigCanResize);
         On<CSimpleHeader*, int, int, bool*>("resizing", header.m_SigResizing);
         On<CSimpleHeader*, int, int>("resized", header.m_SigResized);
@@ -218,8 +203,6 @@ public:
     CSectionGrid* const m_Grid = new CSectionGrid(m_Box, m_Sections.get());
 
 private:
-    std::set<CVisualElement*> m_Alive;
-    std::vector<std::unique_ptr<CSlot<CVisualElement*>>> m_Watches;
     std::unique_ptr<CSimpleHeader> m_Detached;
 };
 

@@ -74,6 +74,12 @@ inline std::string InfoText(IScrollBar const* bar)
 class CBoxBench : public testing::Test
 {
 protected:
+    void SetRanges(double horzTo, double vertTo)
+    {
+        m_Pane->m_Horz.m_To = horzTo;
+        m_Pane->m_Vert.m_To = vertTo;
+        m_Box->RefreshScroll();
+    }
     void Connect(double horzTo, double vertTo)
     {
         m_Pane->m_Horz.m_To = horzTo;
