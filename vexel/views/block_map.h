@@ -35,12 +35,12 @@ public:
 
 private:
     static constexpr std::size_t s_MaxNodes = 256;  // of a block
-    static constexpr std::size_t s_Group = 16;      // nodes that stand together in a few cache lines
+    static constexpr std::size_t s_Group = 32;      // nodes that stand together in a few cache lines
 
+    // The last key of each group of a block; the largest int where there is none.
+    using group_keys = std::array<int, s_MaxNodes / s_Group>;
     struct alignas(64) SLeaf
     {
-        // The last key of each group; the largest int where there is none. A lookup reads these and one group.
-        std::array<int, s_MaxNodes / s_Group> groupKeys;
         std::array<SNode, s_MaxNodes> nodes;
     };
     struct SBlock
@@ -122,6 +122,7 @@ public:
         for (SBlock const& block : other.m_Blocks)
             blocks.push_back({std::make_unique<SLeaf>(*block.leaf), block.count, block.weight});
         m_LastKeys = other.m_LastKeys;
+        m_GroupKeys = other.m_GroupKeys;
         m_Blocks = std::move(blocks);
         m_Count = other.m_Count;
         m_Weight = other.m_Weight;
@@ -137,6 +138,7 @@ public:
     {
         m_Blocks.swap(other.m_Blocks);
         m_LastKeys.swap(other.m_LastKeys);
+        m_GroupKeys.swap(other.m_GroupKeys);
         std::swap(m_Count, other.m_Count);
         std::swap(m_Weight, other.m_Weight);
     }
@@ -155,8 +157,8 @@ public:
         int const wanted = static_cast<int>(std::max<std::int64_t>(key, std::numeric_limits<int>::min()));
         std::size_t const block = FindBlock(wanted);
         SLeaf const& leaf = *m_Blocks[block].leaf;
-        std::size_t place = 0;  // counted without branches, which no processor could foresee
-        for (int const last : leaf.groupKeys)
+        std::size_t place = 0;
+        for (int const last : m_GroupKeys[block])
             place += last < wanted ? s_Group : 0;
         std::size_t const groupEnd = std::min(place + s_Group, m_Blocks[block].count);
         std::size_t below = 0;
@@ -175,6 +177,7 @@ public:
     {
         m_Blocks.clear();
         m_LastKeys.clear();
+        m_GroupKeys.clear();
         m_Count = 0;
         m_Weight = 0;
     }
@@ -275,14 +278,19 @@ private:
     // The first block whose last key is not below; there is one.
     std::size_t FindBlock(int key) const
     {
+        // Without branches, which no processor could foresee: halved, then counted in what are a few cache lines.
         int const* base = m_LastKeys.data();
-        for (std::size_t count = m_LastKeys.size(); count > 1;)
+        std::size_t count = m_LastKeys.size();
+        while (count > s_Group)
         {
             std::size_t const half = count / 2;
             base += base[half - 1] < key ? half : 0;
             count -= half;
         }
-        return static_cast<std::size_t>(base - m_LastKeys.data());
+        std::size_t below = 0;
+        for (std::size_t i = 0; i < count; ++i)
+            below += base[i] < key;
+        return static_cast<std::size_t>(base - m_LastKeys.data()) + below;
     }
 
     void AddWeight(SBlock& block, std::int64_t weight)
@@ -296,7 +304,7 @@ private:
     {
         SBlock const& block = m_Blocks[at];
         m_LastKeys[at] = block.Last().key;
-        auto& keys = block.leaf->groupKeys;
+        group_keys& keys = m_GroupKeys[at];
         for (std::size_t group = place / s_Group; group < keys.size(); ++group)
         {
             std::size_t const last = group * s_Group + s_Group - 1;
@@ -335,8 +343,10 @@ private:
     {
         SBlock block;
         block.leaf = std::make_unique<SLeaf>();
-        m_LastKeys.insert(m_LastKeys.begin() + static_cast<std::ptrdiff_t>(at), 0);
-        m_Blocks.insert(m_Blocks.begin() + static_cast<std::ptrdiff_t>(at), std::move(block));
+        auto const place = static_cast<std::ptrdiff_t>(at);
+        m_LastKeys.insert(m_LastKeys.begin() + place, 0);
+        m_GroupKeys.insert(m_GroupKeys.begin() + place, group_keys{});
+        m_Blocks.insert(m_Blocks.begin() + place, std::move(block));
     }
     void Split(std::size_t at)
     {
@@ -376,10 +386,14 @@ private:
         auto const last = static_cast<std::ptrdiff_t>(to);
         m_Blocks.erase(m_Blocks.begin() + first, m_Blocks.begin() + last);
         m_LastKeys.erase(m_LastKeys.begin() + first, m_LastKeys.begin() + last);
+        m_GroupKeys.erase(m_GroupKeys.begin() + first, m_GroupKeys.begin() + last);
     }
 
     std::vector<SBlock> m_Blocks;
-    std::vector<int> m_LastKeys;  // of each block
+    // Of each block. Apart from the nodes: what a lookup reads before it knows its group is small enough to stay in
+    // the caches.
+    std::vector<int> m_LastKeys;
+    std::vector<group_keys> m_GroupKeys;
     std::size_t m_Count = 0;
     std::int64_t m_Weight = 0;
 };
