@@ -286,13 +286,15 @@ void CCaption::DrawBackground(IPainter* painter)
 void CCaption::DrawContent(IPainter* painter)
 {
     CAliveGuard const alive(this);
-    CHTMLTextFormatter::Clear();
     DrawBackground(painter);
     if (!alive)
         return;
+    DrawTextAndImage(painter, IsEnabled() ? m_TextAlign : m_TextAlign | IPainter::AlignDisabled);
+}
 
+void CCaption::DrawTextAndImage(IPainter* painter, int flags)
+{
     rectangle<int> rect = GetInternalRect();
-    int const flags = IsEnabled() ? m_TextAlign : m_TextAlign | IPainter::AlignDisabled;
     bool const hasMargin = (m_TextAlign & IPainter::AlignHCenter) == 0 && !m_Caption.empty();
     size<int> const extra = hasMargin ? GetDrawingAdditionalExtent() : size<int>();
     int const margin = ToInt(ToInt(GetAlong(extra.width, extra.height)) * 0.5 + 0.5);
@@ -304,10 +306,28 @@ void CCaption::DrawContent(IPainter* painter)
         if (SubtractSaturated(rect.right, rect.left) > limit)
             rect.right = AddSaturated(rect.left, limit);
     }
+    FollowDrawing(painter, [&] {
+        DrawLabel(painter, rect, m_Caption, flags, m_ImageSpace, GetImages(), m_ImageIndex, this, GetDelimiters(),
+                  GetFormatter());
+    });
+}
 
+size<double> CCaption::DrawText(IPainter* painter, rectangle<double> const& rect, int flags)
+{
+    size<double> extent;
+    FollowDrawing(painter, [&] {
+        extent = painter->DrawStringEx(rect, m_Caption.c_str(), flags, -1, GetDelimiters(), GetFormatter());
+    });
+    return extent;
+}
+
+// Links and tooltip come from what is drawn.
+template <class Draw> void CCaption::FollowDrawing(IPainter* painter, Draw const& draw)
+{
+    CAliveGuard const alive(this);
+    CHTMLTextFormatter::Clear();
     m_Links.SetValid(false);
-    DrawLabel(painter, rect, m_Caption, flags, m_ImageSpace, GetImages(), m_ImageIndex, this, GetDelimiters(),
-              GetFormatter());
+    draw();
     if (!alive)
         return;
     if (m_TooltipFromCaption)

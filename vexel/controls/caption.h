@@ -114,11 +114,19 @@ public:  // Overridable
     /// A piece of a link was drawn. See CHTMLTextFormatter.
     void OnDrawLink(char const* target, int length, rectangle<int> const& rect) override;
 
+protected:
+    /// Text and image as DrawContent draws them, without the ground.
+    void DrawTextAndImage(IPainter* painter, int flags);
+    /// The text alone, where the subclass wants it; links, mark-up and the tooltip go by it as by DrawContent. Gives back
+    /// its size.
+    size<double> DrawText(IPainter* painter, rectangle<double> const& rect, int flags);
+
 private:
     char const* GetDelimiters() const { return m_UseHTML ? HTMLDelimiters : DefaultDelimiters; }
     IPainter::ITextFormatter* GetFormatter() { return m_UseHTML ? this : nullptr; }
     IImageList* GetImages() const;
     size<double> MeasureText(IPainter* painter, size<int> const& image, size<int> const& extra);
+    template <class Draw> void FollowDrawing(IPainter* painter, Draw const& draw);
     void FollowShortening(bool shortened);
     point<int> ToLinkPosition(int x, int y) const;
 

@@ -24,7 +24,8 @@ public:
     CVisualElement* GetEditor() const { return m_Editor.get(); }
     void SetEditor(CVisualElement* editor);  ///< Not owned; one that dies is forgotten. Null: none.
     void UpdateEditor();                     ///< Takes place and visibility of the editor as they are now.
-    rectangle<int> const& GetEditorPos() const { return m_EditorPos; }  ///< Where it would stand if nothing were cut off.
+    /// Where it would stand if nothing were cut off.
+    rectangle<int> const& GetEditorPos() const { return m_EditorPos; }
 
 public:  // From CEventHandler
     void ProcessResize(rectangle<int> const& old, rectangle<int> const& now, bool invalidate) override;

@@ -1,0 +1,71 @@
+#include "vexel/controls/drop_button.h"
+
+#include "vexel/controls/detail/arrow_width.h"
+#include "vexel/controls/detail/keys.h"
+#include "vexel/controls/detail/scaled.h"
+
+namespace vexel
+{
+
+// Drop button -------------------------------------------------------------------------------------------------------------
+
+rectangle<int> CDropButton::GetInternalRect() const
+{
+    rectangle<int> rect = CButton::GetInternalRect();
+    rect.right = SubtractSaturated(rect.right, detail::GetArrowWidth());
+    return rect;
+}
+
+size<int> CDropButton::GetAutoSizeAdditionalExtent() const
+{
+    size<int> extent = GetDrawingAdditionalExtent();
+    extent.width = AddSaturated(extent.width, detail::GetArrowWidth());
+    return extent;
+}
+
+size<int> CDropButton::GetDrawingAdditionalExtent() const
+{
+    return CButton::GetAutoSizeAdditionalExtent();
+}
+
+void CDropButton::DrawContent(IPainter* painter)
+{
+    CAliveGuard const alive(this);
+    CButton::DrawContent(painter);
+    if (!alive)
+        return;
+    rectangle<int> const rect = CButton::GetInternalRect();
+    painter->DrawControlElement(IPainter::ceDropArrow, SubtractSaturated(rect.right, detail::GetArrowWidth()), rect.top,
+                                rect.right, rect.bottom, GetNativeState());
+}
+
+bool CDropButton::HandleKeyDown(int keys, int key)
+{
+    if (!detail::IsDropKey(keys, key))
+        return false;
+    m_SigDropDown(this);
+    return true;
+}
+
+// Combo button ------------------------------------------------------------------------------------------------------------
+
+CComboButton::CComboButton(CVisualElement* parent, size<int> const& extent, Alignment alignment)
+    : CButton(parent, extent, alignment)
+{
+    SetCanHaveFocus(false);
+}
+
+void CComboButton::DrawContent(IPainter* painter)
+{
+    painter->m_PenDirty = false;
+    rectangle<int> const bounds = GetBounds();
+    painter->DrawControlElement(IPainter::ceComboArrow, bounds.left, bounds.top, bounds.right, bounds.bottom,
+                                GetNativeState());
+}
+
+void CComboButton::RecalculateSize()
+{
+    SetWidth(detail::GetArrowWidth(), false);
+}
+
+}  // namespace vexel
