@@ -8,8 +8,10 @@
 #include "gallery/pages/buttons_page.h"
 #include "gallery/pages/captions_page.h"
 #include "gallery/pages/chart_page.h"
+#include "gallery/pages/choices_page.h"
 #include "gallery/pages/docking_page.h"
 #include "gallery/pages/drag_drop_page.h"
+#include "gallery/pages/dropdowns_page.h"
 #include "gallery/pages/edges_page.h"
 #include "gallery/pages/flashing_page.h"
 #include "gallery/pages/flow_grid_page.h"
@@ -18,6 +20,7 @@
 #include "gallery/pages/html_text_page.h"
 #include "gallery/pages/input_log_page.h"
 #include "gallery/pages/lines_page.h"
+#include "gallery/pages/list_boxes_page.h"
 #include "gallery/pages/lists_page.h"
 #include "gallery/pages/native_controls_page.h"
 #include "gallery/pages/overlap_page.h"
@@ -26,6 +29,7 @@
 #include "gallery/pages/partial_repaint_page.h"
 #include "gallery/pages/parts_page.h"
 #include "gallery/pages/pictures_page.h"
+#include "gallery/pages/round_buttons_page.h"
 #include "gallery/pages/scrolling_page.h"
 #include "gallery/pages/selection_page.h"
 #include "gallery/pages/strips_page.h"
@@ -83,12 +87,20 @@ SPage const g_Pages[] = {
     {"strips", "Title strips", "Titles with help buttons, and strips that light up and are clicked.",
      &Make<CStripsPage>},
     {"buttons", "Buttons", "Press them by mouse, space or return; one repeats while it is held.", &Make<CButtonsPage>},
+    {"round", "Round buttons", "Shaded pictures in a rounded frame; below they let a picture through.",
+     &Make<CRoundButtonsPage>},
+    {"choices", "Check boxes and radio buttons", "Click, or press Space. A radio button is only switched on.",
+     &Make<CChoicesPage>},
+    {"dropdowns", "Drop buttons, combo buttons, editors",
+     "A press opens, and so do Alt and Down. Click a field to edit it.", &Make<CDropdownsPage>},
     {"pictures", "Picture buttons and images", "Buttons that are an image for each state; images, one of them moving.",
      &Make<CPicturesPage>},
     {"scrolling", "Scrolling", "Drag the bars, turn the wheel, hold the arrows of the scroller.",
      &Make<CScrollingPage>},
     {"lists", "Lists", "None of them keeps anything for a row. Scroll to the end by the bar or the End key.",
      &Make<CListsPage>},
+    {"listboxes", "Lists and list boxes",
+     "Lines that are clicked; boxes in which the line under the pointer is chosen.", &Make<CListBoxesPage>},
     {"selection", "Selection", "Click, Shift and Control, Control+A, Space; drag past the edge.",
      &Make<CSelectionPage>},
     {"grid", "A grid of two billion rows",

@@ -22,9 +22,10 @@ CFrame::CFrame(CBaseControl& control, SHooks hooks, SState const& state) : m_Con
     CLog::Get().m_SigLine.connect(this, &CFrame::LineWritten);
 }
 
-// The elements go before the page that they report to.
+// The elements go before the page that they report to, and what they still tell has no place to stand in.
 CFrame::~CFrame()
 {
+    CLog::Get().m_SigLine.disconnect(this, &CFrame::LineWritten);
     m_Control.GetContent()->GetChildren()->Clear();
     m_Control.SetImageList(nullptr);
 }

@@ -4,6 +4,7 @@
 #include "gallery/frame/log.h"
 #include "gallery/options.h"
 #include "gallery/pages.h"
+#include "vexel/controls/round_bg_button.h"
 #include "vexel/testing/test_kit.h"
 
 #include <gtest/gtest.h>
@@ -21,6 +22,9 @@ namespace gallery
 
 namespace
 {
+
+// They stay for the whole process.
+CWarmUp const g_SharedPictures(&CRoundBgButton::InitStaticBgPictures);
 
 class CLines : public subscriber_base_t
 {

@@ -289,10 +289,10 @@ void CCaption::DrawContent(IPainter* painter)
     DrawBackground(painter);
     if (!alive)
         return;
-    DrawTextAndImage(painter, IsEnabled() ? m_TextAlign : m_TextAlign | IPainter::AlignDisabled);
+    DrawTextAndImage(painter, IsEnabled() ? m_TextAlign : m_TextAlign | IPainter::AlignDisabled, GetImages());
 }
 
-void CCaption::DrawTextAndImage(IPainter* painter, int flags)
+void CCaption::DrawTextAndImage(IPainter* painter, int flags, IImageList* images)
 {
     rectangle<int> rect = GetInternalRect();
     bool const hasMargin = (m_TextAlign & IPainter::AlignHCenter) == 0 && !m_Caption.empty();
@@ -307,7 +307,7 @@ void CCaption::DrawTextAndImage(IPainter* painter, int flags)
             rect.right = AddSaturated(rect.left, limit);
     }
     FollowDrawing(painter, [&] {
-        DrawLabel(painter, rect, m_Caption, flags, m_ImageSpace, GetImages(), m_ImageIndex, this, GetDelimiters(),
+        DrawLabel(painter, rect, m_Caption, flags, m_ImageSpace, images, m_ImageIndex, this, GetDelimiters(),
                   GetFormatter());
     });
 }

@@ -115,8 +115,9 @@ public:  // Overridable
     void OnDrawLink(char const* target, int length, rectangle<int> const& rect) override;
 
 protected:
-    /// Text and image as DrawContent draws them, without the ground.
-    void DrawTextAndImage(IPainter* painter, int flags);
+    IImageList* GetImages() const;  ///< The control's, or null.
+    /// Text and image as DrawContent draws them, without the ground. The image is that of `images`.
+    void DrawTextAndImage(IPainter* painter, int flags, IImageList* images);
     /// The text alone, where the subclass wants it; links, mark-up and the tooltip go by it as by DrawContent. Gives back
     /// its size.
     size<double> DrawText(IPainter* painter, rectangle<double> const& rect, int flags);
@@ -124,7 +125,6 @@ protected:
 private:
     char const* GetDelimiters() const { return m_UseHTML ? HTMLDelimiters : DefaultDelimiters; }
     IPainter::ITextFormatter* GetFormatter() { return m_UseHTML ? this : nullptr; }
-    IImageList* GetImages() const;
     size<double> MeasureText(IPainter* painter, size<int> const& image, size<int> const& extra);
     template <class Draw> void FollowDrawing(IPainter* painter, Draw const& draw);
     void FollowShortening(bool shortened);

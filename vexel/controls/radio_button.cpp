@@ -94,7 +94,7 @@ void CRadioGroup::ButtonDies(CVisualElement* element)
     if (index < m_Current)
         --m_Current;
     else if (index == m_Current)
-        ChangeCurrent(-1);
+        m_Current = -1;  // in silence: a tree may be going down
 }
 
 }  // namespace vexel

@@ -30,7 +30,7 @@ public:
 
     signal_t<CRadioGroup*, int> m_CurrentChanged;  ///< Once for each change; -1: none is current any more.
 
-    /// Not owned; one that dies leaves the group. The first that is on becomes the current one, any other is switched
+    /// Not owned; one that dies leaves the group, and m_CurrentChanged doesn't tell. The first that is on becomes the current one, any other is switched
     /// off. Null and one that is in the group already are ignored.
     void Add(CRadioButton* button);
     int GetCount() const { return static_cast<int>(m_Buttons.size()); }

@@ -54,6 +54,24 @@ vexel_ptr<IRasterPicture> Find(CRoundBgButton::Pictures const& pictures, Index i
     return place != pictures.end() ? place->second : nullptr;
 }
 
+// The images of a list in their disabled form.
+class CDisabledImages : public IImageList
+{
+public:
+    explicit CDisabledImages(IImageList* list) : m_List(list) {}
+
+    int GetCount() const override { return m_List->GetCount(); }
+    size<int> GetSize(int index) const override { return m_List->GetSize(index); }
+    void Draw(IPainter* painter, int index, double x, double y) override { DrawDisabled(painter, index, x, y); }
+    void DrawDisabled(IPainter* painter, int index, double x, double y) override
+    {
+        m_List->DrawDisabled(painter, index, x, y);
+    }
+
+private:
+    IImageList* const m_List;
+};
+
 }  // namespace
 
 double CRoundBgButton::m_BorderRadius = 4.0;
@@ -217,7 +235,7 @@ size<int> CRoundBgButton::GetOptimalSize(IPainter* painter, std::string const& t
     CMeasureBracket const bracket(painter, bold);
     size<double> const extent = painter->DrawString({0.0, 0.0, g_Unlimited, g_Unlimited}, measured,
                                                     GetTextAlign() | IPainter::AlignMeasureOnly, -1);
-    IImageList* const images = GetControl() ? GetControl()->GetImageList() : nullptr;
+    IImageList* const images = GetImages();
     size<int> const image = images && GetImageIndex() != -1 ? images->GetSize(GetImageIndex()) : size<int>();
     size<int> const extra = GetAutoSizeAdditionalExtent();
     int const along = ToInt(GetAlong(extra.width, extra.height));
@@ -304,8 +322,7 @@ void CRoundBgButton::DrawBkgContent(IPainter* painter, InternalBgImageIndex inde
 void CRoundBgButton::DrawSeeThrough(IPainter* painter, InternalBgImageIndex index)
 {
     rectangle<int> const bounds = GetBounds();
-    vexel_ptr<IRasterPicture> const picture =
-        GetCurrentSystem()->CreateRasterPicture({bounds.right, bounds.bottom});
+    vexel_ptr<IRasterPicture> const picture = GetCurrentSystem()->CreateRasterPicture({bounds.right, bounds.bottom});
     IPainter* const picturePainter = picture->GetPainter();
     picturePainter->BeginPaint(IPainter::ssPaint);
     DrawBkImage(picturePainter, bounds, {});
@@ -342,13 +359,14 @@ void CRoundBgButton::SetCurrentTextColor(IPainter* painter, InternalBgImageIndex
         painter->SetTextColor(color);
 }
 
-// The text has the colour of the state also where the button is disabled.
+// The text has the colour of the state also where the button is disabled; only the image is drawn so.
 void CRoundBgButton::DrawWithText(IPainter* painter, InternalBgImageIndex index)
 {
     DrawBkgContent(painter, index);
     SetCurrentTextColor(painter, index);
     DrawBackground(painter);
-    DrawTextAndImage(painter, GetTextAlign());
+    CDisabledImages disabled(GetImages());
+    DrawTextAndImage(painter, GetTextAlign(), IsEnabled() || !GetImages() ? GetImages() : &disabled);
 }
 
 void CRoundBgButton::DrawNormalContent(IPainter* painter)
@@ -374,8 +392,9 @@ void CRoundBgButton::DrawFocusRect(IPainter* painter)
     if (color.m_None)
         color = detail::GetPainterColor(*painter, ISysPalette::scControlText);
     rectangle<int> const bounds = GetBounds();
-    DrawRoundBorder(painter, color, {0, 0, bounds.right - 3, bounds.bottom - 3}, m_BorderRadius - 1.0,
-                    pen::psAlternate);
+    // Within the frame's two lines on all sides: outside of its corners nothing would wipe it off again.
+    DrawRoundBorder(painter, color, {bounds.left + 2, bounds.top + 2, bounds.right - 3, bounds.bottom - 3},
+                    m_BorderRadius - 1.0, pen::psAlternate);
 }
 
 }  // namespace vexel
