@@ -353,6 +353,45 @@ TEST_F(DragSelect, APendingNotificationGoesWithItsWindow)
     EXPECT_EQ(m_Host.RunPending(), 0);
 }
 
+TEST_F(DragSelect, ASelectionThatChangesWhileTheWindowDiesIsToldToNobody)
+{
+    for (int const delay : {0, 200})
+    {
+        SCOPED_TRACE(delay);
+        CTestHost dying(100, 51);
+        CTestHost other(100, 51);
+        SetSelectionChangeDelay(delay);
+        Handler().SetNotifySelection(true);
+        m_Rows->ReParent(dying.Root(), true);
+        dying.Paint();
+        m_Rows->HandleKeyDown(0, vkDown);
+        dying.RunPending();
+        dying.Clock().Advance(200);
+        CSignalLog log(Handler().m_SigSelectionChanged, "told");
+        auto const slot =
+            Listen(dying.Control().m_SigDestroyed, [&](CBaseControl*) { Selection().SelectItem(7, true); });
+        dying.DestroyWindow();
+        EXPECT_TRUE(Selection().IsItemSelected(7));
+        EXPECT_EQ(CTestHost::System().GetPostedCount(), 0);
+        EXPECT_FALSE(IsRepeating());  // nor does a delay begin
+        other.RunPending();
+        other.Clock().Advance(1000);
+        EXPECT_EQ(log.Take(), "");
+        Handler().NotifySelectionChanged();
+        EXPECT_EQ(log.Take(), "");
+
+        m_Rows->ReParent(other.Root(), true);
+        other.Paint();
+        Selection().SelectItem(7, false);
+        other.RunPending();
+        other.Clock().Advance(200);
+        EXPECT_EQ(log.Take(), "told()");
+        m_Rows->ReParent(m_Host.Root(), true);
+        Settle();
+    }
+    SetSelectionChangeDelay(0);
+}
+
 TEST_F(DragSelect, AListThatMovesToAnotherWindowStillNotifies)
 {
     CTestHost other(100, 51);

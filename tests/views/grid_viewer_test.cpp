@@ -290,6 +290,27 @@ TEST_F(GridViewer, NewColumnModelsGetTheViewAndArePainted)
     EXPECT_NE(&ColumnSelection(), &selection);
 }
 
+TEST_F(GridViewer, ANewColumnSelectionWithNothingToPaintPaintsAllCells)
+{
+    CDefaultSelectionModel selection;
+    selection.SetCurrent(1);
+    selection.OnEndDraw();
+    RowSelection().SetCurrent(0);
+    Settle();
+    Columns().AddDirtyItems(0, 0);
+    m_Grid->SetColumnSelectionModel(&selection);
+    EXPECT_EQ(Dirty(Rows(), 3), "0-3");
+    EXPECT_EQ(Cells(), "0/0 state 0 item, 0/1 state 2 item, 1/0 state 0 item, 1/1 state 0 item");
+    m_Grid->SetColumnSelectionModel(nullptr);
+}
+
+TEST_F(GridViewer, WithoutAPainterOfItsColumnsDrawsOnlyTheAreaBehindTheRows)
+{
+    m_Grid->GetColumnHandler().SetPainter(nullptr);
+    m_Host.FullPaint();
+    EXPECT_EQ(m_Grid->m_Draws.Take(), "row empty (0, 40, 99, 50)");
+}
+
 TEST_F(GridViewer, ColumnModelsThatDieAreReplacedByTheOwn)
 {
     {
@@ -334,6 +355,19 @@ TEST_F(GridViewer, AGridThatComesBackIsPaintedWhole)
     EXPECT_EQ(Dirty(Columns(), 2), "0-2");
     EXPECT_EQ(Dirty(Rows(), 2), "0-2");
     EXPECT_EQ(Cells(), "0/0 state 0 item, 0/1 state 0 item, 1/0 state 0 item, 1/1 state 0 item");
+}
+
+TEST_F(GridViewer, ToHideOrShowTheGridOrWhatItIsInMarksRowsAndColumnsAndWhatLiesBehindThem)
+{
+    for (CVisualElement* const hidden : {static_cast<CVisualElement*>(m_Grid), m_Host.Root()})
+        for (bool const visible : {false, true})
+        {
+            Rows().OnEndDraw();
+            Columns().OnEndDraw();
+            hidden->SetVisible(visible);
+            EXPECT_EQ(Dirty(Columns(), 4), "0-2");
+            EXPECT_EQ(Dirty(Rows(), 4), "0-2");
+        }
 }
 
 class CGlassGrid : public CTransparentFlavor<CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>>

@@ -112,6 +112,18 @@ TEST_F(RowViewer, ANewSelectionModelIsToldAndPainted)
     EXPECT_FALSE(m_Host.IsFramePending());
 }
 
+TEST_F(RowViewer, ANewSelectionWithNothingToPaintPaintsAllRows)
+{
+    CDefaultSelectionModel model;
+    model.SetCurrent(1);
+    model.OnEndDraw();
+    View().AddDirtyItems(4, 4);
+    m_Rows->SetRowSelectionModel(&model);
+    EXPECT_EQ(Paint(),
+              "0 state 0 item, 1 state 2 item, 2 state 0 item, 3 state 0 item, 4 state 0 item, 5 state 0 item");
+    m_Rows->SetRowSelectionModel(nullptr);
+}
+
 TEST_F(RowViewer, ModelsThatDieAreReplacedByTheOwn)
 {
     IDiscreteItemViewModel* const own = m_Rows->GetRowViewModel();
@@ -328,11 +340,32 @@ TEST_F(RowViewer, AListThatComesBackIsPaintedWhole)
 
 TEST_F(RowViewer, ToHideOrShowMarksTheRowsAndTheAreaBehindThem)
 {
-    m_Rows->SetVisible(false);
-    EXPECT_EQ(Dirty(View(), 12), "0-10");
-    View().OnEndDraw();
-    m_Rows->SetVisible(true);
-    EXPECT_EQ(Dirty(View(), 12), "0-10");
+    for (CVisualElement* const hidden : {static_cast<CVisualElement*>(m_Rows), m_Host.Root()})
+        for (bool const visible : {false, true})
+        {
+            View().OnEndDraw();
+            hidden->SetVisible(visible);
+            EXPECT_EQ(Dirty(View(), 12), "0-10");
+        }
+}
+
+TEST_F(RowViewer, WithoutAPainterOfItsRowsDrawsNothing)
+{
+    View().SetCount(2);
+    m_Rows->SetBkColor(color_table[13]);
+    m_Host.Name(*m_Rows, "rows");
+    Settle();
+    Handler().SetPainter(nullptr);
+    PaintLog const paint = m_Host.FullPaint().Of("rows");
+    EXPECT_EQ(m_Rows->m_Draws.Take(), "");
+    EXPECT_EQ(paint.Count("FillRect*"), 0);
+    EXPECT_EQ(Dirty(View(), 3), "none");
+    EXPECT_EQ(Dirty(Selection(), 3), "none");
+    Handler().SetPainter(static_cast<IRowPainter*>(m_Rows));
+    EXPECT_THAT(m_Host.FullPaint().Of("rows"), Draws("SetBrush green").Then("FillRect 0 20 99 50"));
+    EXPECT_EQ(m_Rows->m_Draws.Take(), "0 state 0 item, 1 state 0 item, empty (0, 20, 99, 50)");
+    Handler().ProcessDraw(nullptr, {0, 0, 99, 50});
+    EXPECT_EQ(m_Rows->m_Draws.Take(), "");
 }
 
 TEST_F(RowViewer, TheViewIsAsHighAsTheList)
