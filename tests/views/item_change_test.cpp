@@ -109,7 +109,6 @@ TEST_F(ItemChanges, AShiftClickRepaintsASelectionThatOneEndOfTheRangeWasNotIn)
         char const* selected;
         char const* painted;
     };
-    std::string const all = "item";
     for (SCase const& each :
          {SCase{3, 5, 3, 1, 4, "1 2 3 4", "5 state 0 item"}, SCase{3, 5, 1, 3, 2, "2 3", "5 state 0 item"},
           SCase{5, 5, 3, 1, 2, "1 2", "5 state 0 item"}})
