@@ -589,7 +589,11 @@ TEST_F(DiscreteRows, BeforeAnyViewEndStartsAtTheLastRow)
 // Scrolling to a row -------------------------------------------------------------------------------------------------------
 TEST_F(DiscreteRows, MakingTheCurrentVisiblePutsItFirstOrLast)
 {
-    EXPECT_FALSE(Handler().MakeCurrentVisible(true) && Current() >= 0);
+    EXPECT_TRUE(Handler().MakeCurrentVisible(true));  // none is current, and none is not in view
+    EXPECT_EQ(Start(), 0);
+    StartAt(3);
+    EXPECT_TRUE(Handler().MakeCurrentVisible(true));
+    EXPECT_EQ(Start(), 0);
     StartAt(3);
     Selection().SetCurrent(1);
     EXPECT_TRUE(Handler().MakeCurrentVisible(true));
@@ -607,6 +611,72 @@ TEST_F(DiscreteRows, MakingTheCurrentVisiblePutsItFirstOrLast)
     EXPECT_FALSE(Handler().MakeCurrentVisible(false));
     EXPECT_FALSE(Handler().MakeCurrentVisible(true));
     EXPECT_EQ(Start(), 0);
+}
+
+TEST_F(DiscreteRows, TheFirstAndTheLastRowInViewAreVisibleAndTheirNeighboursAreNot)
+{
+    View().SetCount(30);
+    for (bool const toStart : {false, true})
+    {
+        StartAt(2);
+        for (int const row : {2, 6})
+        {
+            Selection().SetCurrent(row);
+            EXPECT_FALSE(Handler().MakeCurrentVisible(toStart)) << row;
+            EXPECT_EQ(Start(), 2);
+        }
+    }
+    Selection().SetCurrent(7);
+    EXPECT_TRUE(Handler().MakeCurrentVisible(true));
+    EXPECT_EQ(Start(), 7);
+    Selection().SetCurrent(6);
+    EXPECT_TRUE(Handler().MakeCurrentVisible(false));
+    EXPECT_EQ(Start(), 3);  // four rows of ten and row 6: a fifth would just fill the view
+    Selection().SetCurrent(8);
+    EXPECT_TRUE(Handler().MakeCurrentVisible(false));
+    EXPECT_EQ(Start(), 5);
+    Selection().SetCurrent(4);
+    EXPECT_TRUE(Handler().MakeCurrentVisible(true));
+    EXPECT_EQ(Start(), 4);
+    View().SetItemSize(9, 45);  // row 8 would stick out
+    Selection().SetCurrent(9);
+    EXPECT_TRUE(Handler().MakeCurrentVisible(false));
+    EXPECT_EQ(Start(), 9);
+    Selection().SetCurrent(10);  // one pixel of it shows
+    EXPECT_TRUE(Handler().MakeCurrentVisible(true));
+    EXPECT_EQ(Start(), 10);
+}
+
+TEST_F(DiscreteRows, ARowJustBehindALowViewScrollsByAsMuchAsItNeeds)
+{
+    struct SCase
+    {
+        int view;
+        int current;
+        int start;
+    };
+    // Rows of 10. The last in view is row 1 in a view of 20 and row 0 in a lower one.
+    for (SCase const& each : {SCase{20, 1, 0}, SCase{20, 2, 1}, SCase{20, 3, 2}, SCase{20, 4, 0}, SCase{19, 1, 1},
+                              SCase{19, 2, 2}, SCase{19, 3, 0}, SCase{10, 1, 1}, SCase{10, 2, 2}, SCase{5, 1, 1},
+                              SCase{5, 2, 2}, SCase{1, 1, 1}, SCase{1, 2, 2}, SCase{0, 1, 1}, SCase{0, 2, 2}})
+    {
+        SCOPED_TRACE("row " + std::to_string(each.current) + " in a view of " + std::to_string(each.view));
+        View().SetViewSize(each.view, false);
+        View().SetStartItem(0);
+        Selection().SetCurrent(each.current);
+        Handler().CheckNewCurrent();
+        EXPECT_EQ(Start(), each.start);
+    }
+    View().SetItemSize(2, 4);
+    View().SetViewSize(14, false);
+    View().SetStartItem(0);
+    Selection().SetCurrent(2);
+    Handler().CheckNewCurrent();
+    EXPECT_EQ(Start(), 1);  // 4 and 10 fill the view
+    View().SetViewSize(13, false);
+    View().SetStartItem(0);
+    Handler().CheckNewCurrent();
+    EXPECT_EQ(Start(), 2);
 }
 
 TEST_F(DiscreteRows, ARowJustBehindTheViewScrollsByAsMuchAsItNeeds)

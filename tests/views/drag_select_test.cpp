@@ -35,6 +35,74 @@ TEST_F(DragSelect, BeginsOnlyWhereTheSensitivityIsPassed)
     m_Host.Mouse().Release();
 }
 
+TEST_F(DragSelect, BeginsByTheDistanceOfEachAxis)
+{
+    m_Host.Root()->GetControl()->SetDragStartSensitivity({2, 6});
+    for (point<int> const& near : {point<int>{51, 25}, point<int>{49, 25}, point<int>{50, 30}, point<int>{50, 20}})
+    {
+        m_Host.Mouse().Press(*m_Rows, 50, 25);
+        m_Host.Mouse().Move(*m_Rows, near.x, near.y);
+        EXPECT_EQ(Capture(), nullptr) << near.x << ' ' << near.y;
+        m_Host.Mouse().Release();
+    }
+    for (point<int> const& far : {point<int>{52, 25}, point<int>{48, 25}, point<int>{50, 31}, point<int>{50, 19}})
+    {
+        m_Host.Mouse().Press(*m_Rows, 50, 25);
+        m_Host.Mouse().Move(*m_Rows, far.x, far.y);
+        EXPECT_EQ(Capture(), m_Rows) << far.x << ' ' << far.y;
+        m_Host.Mouse().Release();
+    }
+}
+
+TEST_F(DragSelect, BeginsAlsoAtTheFirstPixels)
+{
+    for (point<int> const& from : {point<int>{0, 25}, point<int>{25, 0}, point<int>{0, 0}})
+    {
+        m_Host.Mouse().Press(*m_Rows, from.x, from.y);
+        m_Host.Mouse().Move(*m_Rows, from.x, from.y + 8);
+        EXPECT_EQ(Capture(), m_Rows) << from.x << ' ' << from.y;
+        m_Host.Mouse().Release();
+    }
+}
+
+TEST_F(DragSelect, GoesByTheKeysThatAreHeld)
+{
+    m_Rows->HandleMouseMove(5, 25, 0, mbNone);
+    m_Host.Mouse().Press(*m_Rows, 5, 25);
+    m_Rows->HandleMouseMove(5, 45, 1, mbNone);
+    EXPECT_EQ(Capture(), m_Rows);
+    m_Rows->HandleMouseMove(5, 60, 0, mbNone);  // the release was lost
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
+    m_Rows->HandleMouseMove(5, 60, 1, mbNone);
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssForward);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragSelect, APressIsForgottenWhileTheMouseIsElsewhere)
+{
+    auto* const other = new CVisualElement(m_Host.Root(), {10, 10}, alNone);
+    m_Host.Mouse().Press(*m_Rows, 5, 25);
+    m_Host.Root()->GetControl()->SetMouseElement(other);
+    m_Rows->HandleMouseMove(5, 45, 1, mbLeft);
+    EXPECT_EQ(Capture(), nullptr);
+    m_Host.Root()->GetControl()->SetMouseElement(m_Rows);
+    m_Rows->HandleMouseMove(5, 45, 1, mbLeft);
+    EXPECT_EQ(Capture(), nullptr);
+    m_Host.Mouse().Release();
+}
+
+TEST_F(DragSelect, ADragKeepsItsPressWhileTheMouseIsElsewhere)
+{
+    Begin(25, 35);
+    m_Host.Root()->GetControl()->SetMouseElement(nullptr);
+    m_Rows->HandleMouseMove(5, 60, 1, mbLeft);
+    m_Host.Root()->GetControl()->SetMouseElement(m_Rows);
+    m_Rows->ReleaseMouse();
+    m_Rows->HandleMouseMove(5, 45, 1, mbLeft);
+    EXPECT_EQ(Capture(), m_Rows);
+    m_Host.Mouse().Release();
+}
+
 TEST_F(DragSelect, InsideTheViewIsARowOfShiftClicks)
 {
     Begin(25, 35);
@@ -158,6 +226,10 @@ TEST_F(DragSelect, TheHelperStartsAndStopsByTheSameRule)
     Handler().ProcessScrolling(3, 10);
     EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
     EXPECT_FALSE(IsRepeating());
+    Handler().ProcessScrolling(-1, 70);
+    Handler().ProcessScrolling(3, 0);  // the first pixel is in the view
+    EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssIdle);
+    EXPECT_FALSE(IsRepeating());
     Handler().ProcessScrolling(3, -1);
     EXPECT_EQ(Handler().GetScrollState(), CEventHandlerBase::ssBackward);
     Handler().StopScrolling();
@@ -224,11 +296,17 @@ TEST_F(DragSelect, OnlyTheLeftButtonMarksWhereADragMayBegin)
     {
     public:
         using CEventHandlerBase::m_Down;
+        using CEventHandlerBase::m_FromKeyboard;
     };
     CBare bare;
     bool handled = false;
+    bare.m_FromKeyboard = true;
     EXPECT_FALSE(bare.ProcessButtonDown(5, 15, 1, mbLeft, &handled));
     EXPECT_EQ(bare.m_Down, (point<int>{5, 15}));
+    EXPECT_FALSE(bare.m_FromKeyboard);
+    EXPECT_FALSE(bare.ProcessButtonUp(5, 15, 0, mbLeft, &handled));
+    EXPECT_EQ(bare.m_Down, (point<int>{-1, -1}));
+    bare.ProcessButtonDown(5, 15, 1, mbLeft, &handled);
     EXPECT_FALSE(bare.ProcessButtonDown(5, 25, 0, mbRight, &handled));
     EXPECT_EQ(bare.m_Down, (point<int>{-1, -1}));
 }
@@ -276,7 +354,21 @@ TEST_F(DragSelect, NobodyIsToldOfASelectionUnlessItIsWanted)
     Click(25);
     m_Host.RunPending();
     EXPECT_EQ(log.Text(), "");
+    Handler().SetNotifySelection(true);
+    Handler().PostSelectionChanged();  // nothing has changed since
+    EXPECT_EQ(CTestHost::System().GetPostedCount(), 0);
     EXPECT_EQ(m_Host.Pending().find("posted"), std::string::npos);
+}
+
+TEST_F(DragSelect, WithoutADelayAKeyNotifiesAfterItsEvent)
+{
+    Handler().SetNotifySelection(true);
+    CSignalLog log(m_Rows->m_SigSelectionChanged, "told");
+    m_Host.Keyboard().Press(vkDown);
+    EXPECT_EQ(log.Text(), "");
+    m_Host.RunPending();
+    EXPECT_EQ(log.Take(), "told()");
+    EXPECT_FALSE(IsRepeating());
 }
 
 TEST_F(DragSelect, OneNotificationComesAfterTheEvent)
@@ -315,6 +407,8 @@ TEST_F(DragSelect, AHeldKeyNotifiesOnceAfterTheDelay)
     m_Host.RunPending();
     EXPECT_EQ(log.Text(), "");
     Click(5);
+    Click(25);
+    EXPECT_FALSE(IsRepeating());  // no delay for clicks
     m_Host.RunPending();
     EXPECT_EQ(log.Take(), "told()");
     SetSelectionChangeDelay(0);
@@ -353,6 +447,45 @@ TEST_F(DragSelect, APendingNotificationGoesWithItsWindow)
     EXPECT_EQ(m_Host.RunPending(), 0);
 }
 
+TEST_F(DragSelect, ASelectionThatChangesWhileTheWindowDiesIsToldToNobody)
+{
+    for (int const delay : {0, 200})
+    {
+        SCOPED_TRACE(delay);
+        CTestHost dying(100, 51);
+        CTestHost other(100, 51);
+        SetSelectionChangeDelay(delay);
+        Handler().SetNotifySelection(true);
+        m_Rows->ReParent(dying.Root(), true);
+        dying.Paint();
+        m_Rows->HandleKeyDown(0, vkDown);
+        dying.RunPending();
+        dying.Clock().Advance(200);
+        CSignalLog log(Handler().m_SigSelectionChanged, "told");
+        auto const slot =
+            Listen(dying.Control().m_SigDestroyed, [&](CBaseControl*) { Selection().SelectItem(7, true); });
+        dying.DestroyWindow();
+        EXPECT_TRUE(Selection().IsItemSelected(7));
+        EXPECT_EQ(CTestHost::System().GetPostedCount(), 0);
+        EXPECT_FALSE(IsRepeating());  // nor does a delay begin
+        other.RunPending();
+        other.Clock().Advance(1000);
+        EXPECT_EQ(log.Take(), "");
+        Handler().NotifySelectionChanged();
+        EXPECT_EQ(log.Take(), "");
+
+        m_Rows->ReParent(other.Root(), true);
+        other.Paint();
+        Selection().SelectItem(7, false);
+        other.RunPending();
+        other.Clock().Advance(200);
+        EXPECT_EQ(log.Take(), "told()");
+        m_Rows->ReParent(m_Host.Root(), true);
+        Settle();
+    }
+    SetSelectionChangeDelay(0);
+}
+
 TEST_F(DragSelect, AListThatMovesToAnotherWindowStillNotifies)
 {
     CTestHost other(100, 51);
@@ -376,6 +509,11 @@ TEST_F(DragSelect, AChangeOfFocusMarksTheSelectedRows)
     Handler().ProcessLostFocus(nullptr);
     EXPECT_EQ(Dirty(Selection(), 12), "1-3");
     EXPECT_TRUE(m_Host.IsFramePending());
+    Selection().SetCurrent(5);
+    Selection().OnEndDraw();
+    Handler().ProcessLostFocus(nullptr);
+    EXPECT_EQ(Dirty(Selection(), 12), "1-3 5");  // the current one may be marked
+    Selection().SetCurrent(2);
     Selection().OnEndDraw();
     bool handled = false;
     Handler().ProcessGetFocus(&handled);

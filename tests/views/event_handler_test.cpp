@@ -436,6 +436,67 @@ TEST_F(EventHandlers, TheNextHandlerMayDieInTheWalk)
     }
 }
 
+TEST_F(EventHandlers, AHandlerThatMovesToAnotherViewerInTheWalkLeavesTheRestOfItsOldChainToIt)
+{
+    for (bool const toFront : {false, true})
+        for (int way = 0; way < 4; ++way)
+        {
+            SCOPED_TRACE(std::to_string(way) + (toFront ? ", to the front" : ", to the end"));
+            auto* const other = new CViewerBase(m_Host.Root(), {10, 10}, alTop);
+            CMeddler meddler;
+            m_Viewer->AddEventHandler(&meddler);
+            m_Viewer->AddEventHandler(&m_B);
+            m_Viewer->AddEventHandler(&m_C);
+            other->AddEventHandler(&m_A);
+            m_Host.Paint();
+            meddler.m_Deed = [&] {
+                if (toFront)
+                    other->SetDefEventHandler(&meddler);
+                else
+                    other->AddEventHandler(&meddler);
+            };
+            m_Log.Take();
+            if (way == 0)
+                EXPECT_TRUE(m_Viewer->HandleKeyDown(0, 65));
+            else if (way == 1)
+                m_Viewer->HandleGetFocus(nullptr, true);
+            else if (way == 2)
+                m_Viewer->ScrollContent(1, 2);
+            else
+                m_Viewer->SetPos({0, 0, 50, 20 + way + (toFront ? 1 : 0)}, false);
+            std::string const heard = m_Log.Take();
+            EXPECT_EQ(heard.substr(0, 2), "b.");
+            EXPECT_NE(heard.find(", c."), std::string::npos) << heard;
+            EXPECT_EQ(heard.find("a."), std::string::npos) << heard;
+            EXPECT_EQ(meddler.GetChainOwner(), other);
+            EXPECT_EQ(m_Viewer->GetEventHandlers(), &m_B);
+            delete other;
+            m_Viewer->RemoveEventHandler(&m_B);
+            m_Viewer->RemoveEventHandler(&m_C);
+        }
+}
+
+TEST_F(EventHandlers, AHandlerThatLeavesItsChainInTheWalkIsFollowedByTheOneItStoodBefore)
+{
+    for (int way = 0; way < 3; ++way)
+    {
+        CMeddler meddler;
+        m_Viewer->AddEventHandler(&meddler);
+        m_Viewer->AddEventHandler(&m_B);
+        meddler.m_Deed = [&] { m_Viewer->RemoveEventHandler(&meddler); };
+        m_Log.Take();
+        if (way == 0)
+            m_Viewer->HandleKeyDown(0, 65);
+        else if (way == 1)
+            m_Viewer->HandleGetFocus(nullptr, true);
+        else
+            m_Viewer->ScrollContent(1, 1);
+        EXPECT_EQ(m_Log.Take().substr(0, 2), "b.");
+        EXPECT_EQ(meddler.GetChainOwner(), nullptr);
+        m_Viewer->RemoveEventHandler(&m_B);
+    }
+}
+
 TEST_F(EventHandlers, TheViewerMayDieInTheWalk)
 {
     for (int way = 0; way < 5; ++way)

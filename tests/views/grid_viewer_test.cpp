@@ -17,6 +17,8 @@ public:
     CDrawLog m_Draws;  ///< "1/2 state 3 item" for row 1, column 2
     CDrawLog m_Hooks;
     std::function<void(int, int)> m_OnDraw;
+    ISelectionModel* m_OldSelection = nullptr;
+    ISelectionModel* m_NewSelection = nullptr;
 
     void DrawCell(IPainter*, int row, int rowSkip, int column, int columnSkip, int state, rectangle<double> const& rect,
                   IDirtyItemSet::DirtyType dirty) override
@@ -42,6 +44,8 @@ public:
     void ColumnSelectionModelChanged(ISelectionModel* old, ISelectionModel* now) override
     {
         m_Hooks.Add(old != now ? "column selection" : "same column selection");
+        m_OldSelection = old;
+        m_NewSelection = now;
     }
     void CurrentColumnChanged(int old, int& now) override
     {
@@ -100,6 +104,7 @@ protected:
 
     CTestHost m_Host{100, 51};
     CTestGrid* m_Grid = new CTestGrid(m_Host.Root(), {10, 10}, alClient);
+    ISelectionModel* m_OwnColumnSelection = m_Grid->GetColumnSelectionModel();
 };
 
 TEST_F(GridViewer, StartsWithARowHandlerInTheChainAndAColumnHandlerBesideIt)
@@ -281,6 +286,8 @@ TEST_F(GridViewer, NewColumnModelsGetTheViewAndArePainted)
     CDefaultSelectionModel selection;
     m_Grid->SetColumnSelectionModel(&selection);
     EXPECT_EQ(m_Grid->m_Hooks.Take(), "column selection");
+    EXPECT_EQ(m_Grid->m_OldSelection, m_OwnColumnSelection);
+    EXPECT_EQ(m_Grid->m_NewSelection, &selection);
     EXPECT_TRUE(m_Host.IsFramePending());
     EXPECT_EQ(m_Grid->GetColumnHandler().GetSelectionModel(), &selection);
     m_Grid->SetColumnViewModel(nullptr);
@@ -288,6 +295,69 @@ TEST_F(GridViewer, NewColumnModelsGetTheViewAndArePainted)
     EXPECT_EQ(Columns().GetCount(), 2);
     EXPECT_EQ(Columns().GetDefaultItemSize(), 40);
     EXPECT_NE(&ColumnSelection(), &selection);
+}
+
+TEST_F(GridViewer, ANewColumnModelThatKnowsItsViewAlreadyIsPaintedAndToldToTheBar)
+{
+    class CCountedScroll : public CDiscreteItemScrollModel
+    {
+    public:
+        int m_Updates = 0;
+        void Update() override { ++m_Updates; }
+    };
+    CCountedScroll horizontal;
+    m_Grid->SetHorzScroll(&horizontal);
+    CDefaultDiscreteItemViewModel model;
+    model.SetDefaultItemSize(60);
+    model.SetCount(2);
+    model.SetViewSize(99, false);
+    model.OnEndDraw();
+    Settle();
+    EXPECT_FALSE(m_Host.IsFramePending());
+    horizontal.m_Updates = 0;
+    m_Grid->SetColumnViewModel(&model);
+    EXPECT_EQ(Dirty(model, 3), "0-2");
+    EXPECT_EQ(horizontal.m_Updates, 1);
+    EXPECT_TRUE(m_Host.IsFramePending());
+    model.SetCount(3);
+    EXPECT_EQ(horizontal.m_Updates, 2);
+    m_Grid->SetColumnViewModel(nullptr);
+    m_Grid->SetHorzScroll(nullptr);
+}
+
+TEST_F(GridViewer, AnAncestorThatIsPaintedPaintsAllWhereAColumnIsSelectedAnew)
+{
+    ColumnSelection().AddDirtyItems(1, 1);
+    m_Host.Root()->Update(utElement);
+    EXPECT_EQ(Cells(), "0/0 state 0 item, 0/1 state 0 item, 1/0 state 0 item, 1/1 state 0 item");
+}
+
+TEST_F(GridViewer, AFullPaintFillsTheEmptyAreasOfRowsThatAreClean)
+{
+    m_Host.Name(*m_Grid, "grid");
+    Rows().AddDirtyItems(1, 1);
+    EXPECT_THAT(m_Host.FullPaint().Of("grid"), Draws("FillRect 80 0 99 19").Then("FillRect 80 20 99 39"));
+}
+
+TEST_F(GridViewer, ANewColumnSelectionWithNothingToPaintPaintsAllCells)
+{
+    CDefaultSelectionModel selection;
+    selection.SetCurrent(1);
+    selection.OnEndDraw();
+    RowSelection().SetCurrent(0);
+    Settle();
+    Columns().AddDirtyItems(0, 0);
+    m_Grid->SetColumnSelectionModel(&selection);
+    EXPECT_EQ(Dirty(Rows(), 3), "0-3");
+    EXPECT_EQ(Cells(), "0/0 state 0 item, 0/1 state 2 item, 1/0 state 0 item, 1/1 state 0 item");
+    m_Grid->SetColumnSelectionModel(nullptr);
+}
+
+TEST_F(GridViewer, WithoutAPainterOfItsColumnsDrawsOnlyTheAreaBehindTheRows)
+{
+    m_Grid->GetColumnHandler().SetPainter(nullptr);
+    m_Host.FullPaint();
+    EXPECT_EQ(m_Grid->m_Draws.Take(), "row empty (0, 40, 99, 50)");
 }
 
 TEST_F(GridViewer, ColumnModelsThatDieAreReplacedByTheOwn)
@@ -324,6 +394,9 @@ TEST_F(GridViewer, TheAreaBehindTheRowsIsPaintedWithAnotherWidth)
     m_Host.Name(*m_Grid, "grid");
     m_Grid->Update(utElement);
     EXPECT_THAT(m_Host.Paint().Of("grid"), Draws("FillRect 0 40 80 50"));
+    m_Grid->SetPos({0, 0, 60, 50}, false);
+    EXPECT_EQ(Dirty(Rows(), 4), "2");
+    EXPECT_EQ(Dirty(Columns(), 4), "2");  // the area behind the columns
 }
 
 TEST_F(GridViewer, AGridThatComesBackIsPaintedWhole)
@@ -334,6 +407,58 @@ TEST_F(GridViewer, AGridThatComesBackIsPaintedWhole)
     EXPECT_EQ(Dirty(Columns(), 2), "0-2");
     EXPECT_EQ(Dirty(Rows(), 2), "0-2");
     EXPECT_EQ(Cells(), "0/0 state 0 item, 0/1 state 0 item, 1/0 state 0 item, 1/1 state 0 item");
+}
+
+TEST_F(GridViewer, ToHideOrShowTheGridOrWhatItIsInMarksRowsAndColumnsAndWhatLiesBehindThem)
+{
+    for (CVisualElement* const hidden : {static_cast<CVisualElement*>(m_Grid), m_Host.Root()})
+        for (bool const visible : {false, true})
+        {
+            Rows().OnEndDraw();
+            Columns().OnEndDraw();
+            hidden->SetVisible(visible);
+            EXPECT_EQ(Dirty(Columns(), 4), "0-2");
+            EXPECT_EQ(Dirty(Rows(), 4), "0-2");
+        }
+    for (bool const ofParent : {false, true})
+    {
+        Rows().OnEndDraw();
+        Columns().OnEndDraw();
+        if (ofParent)
+            m_Grid->ProcessSetParentVisible(true);
+        else
+            m_Grid->ProcessSetVisible(true);
+        EXPECT_EQ(Dirty(Columns(), 4), "0-2");
+        EXPECT_EQ(Dirty(Rows(), 4), "0-2");
+    }
+}
+
+class CCutRows : public CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>
+{
+public:
+    using CGridViewer::CGridViewer;
+    CDrawLog m_Draws;
+    void DrawRow(IPainter* painter, int row, int, int state, rectangle<double> const& rect,
+                 IDirtyItemSet::DirtyType dirty) override
+    {
+        CGridViewer::DrawRow(painter, row, row + 3, state, rect, dirty);
+    }
+    void DrawCell(IPainter*, int row, int rowSkip, int column, int columnSkip, int, rectangle<double> const&,
+                  IDirtyItemSet::DirtyType) override
+    {
+        m_Draws.Add(std::to_string(row) + " cut by " + std::to_string(rowSkip) + ", " + std::to_string(column) +
+                    " cut by " + std::to_string(columnSkip));
+    }
+};
+
+TEST_F(GridViewer, ACellHearsHowMuchOfItsRowLiesAboveTheView)
+{
+    delete m_Grid;
+    auto* const grid = new CCutRows(m_Host.Root(), {10, 10}, alClient);
+    grid->GetRowViewModel()->SetCount(2);
+    grid->GetColumnViewModel()->SetCount(1);
+    m_Host.Paint();
+    EXPECT_EQ(grid->m_Draws.Take(), "0 cut by 3, 0 cut by 0, 1 cut by 4, 0 cut by 0");
 }
 
 class CGlassGrid : public CTransparentFlavor<CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>>

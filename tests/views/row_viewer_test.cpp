@@ -112,6 +112,77 @@ TEST_F(RowViewer, ANewSelectionModelIsToldAndPainted)
     EXPECT_FALSE(m_Host.IsFramePending());
 }
 
+class CModelsOf : public CTestRows<IDiscreteItemViewModel>
+{
+public:
+    using CTestRows::CTestRows;
+    ISelectionModel* m_Old = nullptr;
+    ISelectionModel* m_Now = nullptr;
+    void RowSelectionModelChanged(ISelectionModel* old, ISelectionModel* now) override
+    {
+        m_Old = old;
+        m_Now = now;
+    }
+};
+
+TEST_F(RowViewer, ANewSelectionModelIsToldAfterTheOldOne)
+{
+    CModelsOf rows(nullptr, {10, 10}, alClient);
+    rows.SetDynamic(false);
+    ISelectionModel* const own = rows.GetRowSelectionModel();
+    CDefaultSelectionModel model;
+    rows.SetRowSelectionModel(&model);
+    EXPECT_EQ(rows.m_Old, own);
+    EXPECT_EQ(rows.m_Now, &model);
+    rows.SetRowSelectionModel(nullptr);
+    EXPECT_EQ(rows.m_Old, &model);
+    EXPECT_EQ(rows.m_Now, own);
+}
+
+class CCountedScroll : public CDiscreteItemScrollModel
+{
+public:
+    int m_Updates = 0;
+    void Update() override { ++m_Updates; }
+};
+
+TEST_F(RowViewer, EachChangeOfItsViewModelUpdatesTheScrollModelOfItsDirection)
+{
+    CCountedScroll vertical;
+    CCountedScroll horizontal;
+    m_Rows->SetVertScroll(&vertical);
+    m_Rows->SetHorzScroll(&horizontal);
+    vertical.m_Updates = horizontal.m_Updates = 0;
+    View().SetCount(20);
+    EXPECT_EQ(vertical.m_Updates, 1);
+    View().SetStartItem(3);
+    EXPECT_EQ(vertical.m_Updates, 2);
+    EXPECT_EQ(horizontal.m_Updates, 0);
+    m_Rows->SetVertScroll(nullptr);
+    m_Rows->SetHorzScroll(nullptr);
+}
+
+TEST_F(RowViewer, ANewViewModelThatIsReplacedAtOnceIsNotToldOf)
+{
+    CNonEqualItemsViewModel model;
+    auto const slot = Listen(model.m_SigChanged, [&] { m_Rows->SetRowViewModel(nullptr); });
+    m_Rows->SetRowViewModel(&model);
+    EXPECT_EQ(m_Rows->m_Hooks.Take(), "view model");
+    EXPECT_NE(m_Rows->GetRowViewModel(), &model);
+}
+
+TEST_F(RowViewer, ANewSelectionWithNothingToPaintPaintsAllRows)
+{
+    CDefaultSelectionModel model;
+    model.SetCurrent(1);
+    model.OnEndDraw();
+    View().AddDirtyItems(4, 4);
+    m_Rows->SetRowSelectionModel(&model);
+    EXPECT_EQ(Paint(),
+              "0 state 0 item, 1 state 2 item, 2 state 0 item, 3 state 0 item, 4 state 0 item, 5 state 0 item");
+    m_Rows->SetRowSelectionModel(nullptr);
+}
+
 TEST_F(RowViewer, ModelsThatDieAreReplacedByTheOwn)
 {
     IDiscreteItemViewModel* const own = m_Rows->GetRowViewModel();
@@ -147,7 +218,12 @@ TEST_F(RowViewer, RowsAreALineOfTextAndAPixelHigh)
 {
     EXPECT_EQ(m_Rows->CalculateDefaultRowHeight(), 9);  // ascent 6, descent 2
     m_Rows->SetAutoRowHeight(true);
-    m_Rows->AttributeChanged();
+    EXPECT_EQ(View().GetDefaultItemSize(), 9);
+    CSignalLog log(View().m_SigChanged, "changed");
+    m_Rows->SetAutoRowHeight(true);
+    EXPECT_EQ(log.Take(), "");  // they have that height
+    View().SetDefaultItemSize(30);
+    m_Rows->AfterSetControl();
     EXPECT_EQ(View().GetDefaultItemSize(), 9);
     m_Rows->m_Margin = 3;
     m_Rows->AttributeChanged();
@@ -191,6 +267,28 @@ TEST_F(RowViewer, WithoutATextHeightTheRowsKeepTheirs)
     EXPECT_EQ(rows->GetRowViewModel()->GetDefaultItemSize(), 13);
 }
 
+class CHeightOfItsOwn : public CTestRows<IDiscreteItemViewModel>
+{
+public:
+    using CTestRows::CTestRows;
+    int CalculateDefaultRowHeight() const override { return 33; }
+};
+
+TEST_F(RowViewer, WithoutAControlARowHeightIsAppliedOnlyForAChangeOfLook)
+{
+    CHeightOfItsOwn rows(nullptr, {10, 10}, alClient);
+    rows.SetDynamic(false);
+    CNonEqualItemsViewModel model;
+    CDefaultSelectionModel selection;
+    model.SetDefaultItemSize(13);
+    rows.SetRowViewModel(&model);
+    rows.SetRowSelectionModel(&selection);
+    rows.SetAutoRowHeight(true);
+    EXPECT_EQ(model.GetDefaultItemSize(), 13);
+    rows.AttributeChanged();
+    EXPECT_EQ(model.GetDefaultItemSize(), 33);
+}
+
 TEST_F(RowViewer, ARowHeightIsAppliedWhereAControlComes)
 {
     auto* const rows = new CTestRows<IDiscreteItemViewModel>(nullptr, {10, 20}, alTop);
@@ -212,6 +310,11 @@ TEST_F(RowViewer, AtADoubledScaleTheExtraPixelsAreTwo)
     auto* const rows = new CTestRows<IDiscreteItemViewModel>(host.Root(), {10, 10}, alClient);
     EXPECT_EQ(rows->CalculateDefaultRowHeight(), 18);  // 12 + 4 + 2
     EXPECT_EQ(rows->GetRowViewModel()->GetDefaultItemSize(), 18);
+    CTestRows<IDiscreteItemViewModel> alone(nullptr, {10, 10}, alClient);
+    alone.SetDynamic(false);
+    EXPECT_EQ(alone.CalculateDefaultRowHeight(), 0);  // nothing measures text
+    alone.AttributeChanged();
+    EXPECT_EQ(alone.GetRowViewModel()->GetDefaultItemSize(), 40);
     CTestHost::System().SetScale(1.0);
 }
 
@@ -283,11 +386,34 @@ TEST_F(RowViewer, AStretchedLastRowReachesToTheEndOfTheView)
     View().SetItemSize(1, 80);
     m_Host.FullPaint();
     EXPECT_EQ(m_Rows->m_Draws.Take(), "0 state 0 (0, 0, 99, 9) item, 1 state 0 (0, 10, 99, 89) item");
+    View().SetItemSize(1, 10);
+    View().SetViewSize(30, true);  // lower than what is painted
+    m_Host.FullPaint();
+    EXPECT_EQ(m_Rows->m_Draws.Take(), "0 state 0 (0, 0, 99, 9) item, 1 state 0 (0, 10, 99, 30) item");
+}
+
+TEST_F(RowViewer, AFullPaintFillsTheAreaBehindTheRowsAlsoWhereOnlyTheSelectionHasChanged)
+{
+    View().SetCount(2);
+    m_Host.Name(*m_Rows, "rows");
+    Settle();
+    Selection().SetCurrent(1);
+    EXPECT_THAT(m_Host.FullPaint().Of("rows"), Draws("FillRect 0 20 99 50"));
+}
+
+TEST_F(RowViewer, AnotherHeightMarksOnlyTheAreaBehindTheRows)
+{
+    m_Rows->SetAlignment(alNone);
+    m_Rows->SetPos({0, 0, 99, 50}, false);
+    Settle();
+    m_Rows->SetPos({0, 0, 99, 40}, false);
+    EXPECT_EQ(Dirty(View(), 12), "10");
 }
 
 TEST_F(RowViewer, AStretchedLastRowIsPaintedWithEveryChangeOfItsModel)
 {
     View().SetCount(4);
+    EXPECT_FALSE(Handler().IsLastItemExpanded());
     View().SetStretchLastItem(true);
     Settle();
     EXPECT_TRUE(Handler().IsLastItemExpanded());
@@ -328,11 +454,38 @@ TEST_F(RowViewer, AListThatComesBackIsPaintedWhole)
 
 TEST_F(RowViewer, ToHideOrShowMarksTheRowsAndTheAreaBehindThem)
 {
-    m_Rows->SetVisible(false);
+    for (CVisualElement* const hidden : {static_cast<CVisualElement*>(m_Rows), m_Host.Root()})
+        for (bool const visible : {false, true})
+        {
+            View().OnEndDraw();
+            hidden->SetVisible(visible);
+            EXPECT_EQ(Dirty(View(), 12), "0-10");
+        }
+    View().OnEndDraw();
+    m_Rows->ProcessSetVisible(true);
     EXPECT_EQ(Dirty(View(), 12), "0-10");
     View().OnEndDraw();
-    m_Rows->SetVisible(true);
+    m_Rows->ProcessSetParentVisible(true);
     EXPECT_EQ(Dirty(View(), 12), "0-10");
+}
+
+TEST_F(RowViewer, WithoutAPainterOfItsRowsDrawsNothing)
+{
+    View().SetCount(2);
+    m_Rows->SetBkColor(color_table[13]);
+    m_Host.Name(*m_Rows, "rows");
+    Settle();
+    Handler().SetPainter(nullptr);
+    PaintLog const paint = m_Host.FullPaint().Of("rows");
+    EXPECT_EQ(m_Rows->m_Draws.Take(), "");
+    EXPECT_EQ(paint.Count("FillRect*"), 0);
+    EXPECT_EQ(Dirty(View(), 3), "none");
+    EXPECT_EQ(Dirty(Selection(), 3), "none");
+    Handler().SetPainter(static_cast<IRowPainter*>(m_Rows));
+    EXPECT_THAT(m_Host.FullPaint().Of("rows"), Draws("SetBrush green").Then("FillRect 0 20 99 50"));
+    EXPECT_EQ(m_Rows->m_Draws.Take(), "0 state 0 item, 1 state 0 item, empty (0, 20, 99, 50)");
+    Handler().ProcessDraw(nullptr, {0, 0, 99, 50});
+    EXPECT_EQ(m_Rows->m_Draws.Take(), "");
 }
 
 TEST_F(RowViewer, TheViewIsAsHighAsTheList)

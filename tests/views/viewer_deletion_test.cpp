@@ -346,6 +346,67 @@ TYPED_TEST(ViewerDeletion, ByANotification)
     SetSelectionChangeDelay(0);
 }
 
+// What a list calls as it goes by its models --------------------------------------------------------------------------------
+class CDyingRows : public CTestRows<IDiscreteItemViewModel>
+{
+public:
+    using CTestRows::CTestRows;
+    bool m_Dies = false;
+    bool BeforeProcessChange(CVisualElement* element, UpdateType type) override
+    {
+        bool const goesOn = CTestRows::BeforeProcessChange(element, type);
+        if (m_Dies)
+            delete this;
+        return goesOn;
+    }
+};
+
+TEST(ListDeletion, ByTheUpdateOfItsScrollModel)
+{
+    class CDeadlyScroll : public CDiscreteItemScrollModel
+    {
+    public:
+        CElementPtr<CDyingRows> m_Victim;
+        void Update() override { delete m_Victim.get(); }
+    };
+    CNonEqualItemsViewModel model;
+    CDeadlyScroll scroll;
+    CTestHost host(100, 51);
+    auto* const rows = new CDyingRows(host.Root(), {10, 10}, alClient);
+    rows->SetRowViewModel(&model);
+    rows->SetVertScroll(&scroll);
+    CElementPtr<CDyingRows> const watched(rows);
+    scroll.m_Victim.Watch(rows);
+    model.SetCount(5);
+    EXPECT_FALSE(watched);
+    host.Paint();
+}
+
+TEST(ListDeletion, ByTheRepaintThatAChangeAsksFor)
+{
+    for (bool const ofSelection : {false, true})
+    {
+        CNonEqualItemsViewModel model;
+        CDefaultSelectionModel selection;
+        CTestHost host(100, 51);
+        auto* const rows = new CDyingRows(host.Root(), {10, 10}, alClient);
+        rows->SetRowViewModel(&model);
+        rows->SetRowSelectionModel(&selection);
+        rows->GetRowHandler().SetNotifySelection(true);
+        model.SetCount(5);
+        host.Paint();
+        CElementPtr<CDyingRows> const watched(rows);
+        rows->m_Dies = true;
+        if (ofSelection)
+            selection.SelectItem(2, true);
+        else
+            model.SetCount(7);
+        EXPECT_FALSE(watched);
+        EXPECT_EQ(CTestHost::System().GetPostedCount(), 0);  // nobody is left who would notify
+        host.Paint();
+    }
+}
+
 // Grids --------------------------------------------------------------------------------------------------------------------
 class CDyingGrid : public CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>
 {

@@ -39,6 +39,12 @@ CEventHandlerBase::CEventHandlerBase()
 
 CEventHandlerBase::~CEventHandlerBase() = default;
 
+// Not inline: what the library has connected, only its own copy of the slot's address disconnects.
+void CEventHandlerBase::SetViewer(CScrollableElement* viewer)
+{
+    m_Viewer.Watch(viewer);
+}
+
 void CEventHandlerBase::SetDirection(ItemsDirection direction)
 {
     m_Direction = direction;

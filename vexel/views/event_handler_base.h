@@ -68,7 +68,7 @@ public:
     signal_t<> m_SigSelectionChanged;          ///< Once after a change, if it is wanted (SetNotifySelection).
 
     // What it serves: not owned -------------------------------------------------------------------------------------------
-    void SetViewer(CScrollableElement* viewer) { m_Viewer.Watch(viewer); }
+    void SetViewer(CScrollableElement* viewer);
     CScrollableElement* GetViewer() const { return m_Viewer.get(); }
     void SetPainter(IItemPainter* painter) { m_Painter = painter; }
     void SetDirection(ItemsDirection direction);
