@@ -10,16 +10,16 @@ namespace
 {
 
 // A disc that is full when the mark is set, with a rim that lights up; one image for each state.
-char const* g_Off[] = {"16 16 3 1",        "  c None",         ". c #7F7F7F",      "o c #F4F4F4",      "                ",
-                       "     ......     ", "   ..oooooo..   ", "  .oooooooooo.  ", "  .oooooooooo.  ",
-                       " .oooooooooooo. ", " .oooooooooooo. ", " .oooooooooooo. ", " .oooooooooooo. ",
-                       " .oooooooooooo. ", " .oooooooooooo. ", "  .oooooooooo.  ", "  .oooooooooo.  ",
-                       "   ..oooooo..   ", "     ......     ", "                "};
-char const* g_On[] = {"16 16 3 1",        "  c None",         ". c #2E6B34",      "o c #57B560",      "                ",
-                      "     ......     ", "   ..oooooo..   ", "  .oooooooooo.  ", "  .oooooooooo.  ",
-                      " .oooooooooooo. ", " .oooooooooooo. ", " .oooooooooooo. ", " .oooooooooooo. ",
-                      " .oooooooooooo. ", " .oooooooooooo. ", "  .oooooooooo.  ", "  .oooooooooo.  ",
-                      "   ..oooooo..   ", "     ......     ", "                "};
+char const* g_Off[] = {"16 16 3 1",        "  c None",         ". c #7F7F7F",      "o c #F4F4F4",
+                       "                ", "     ......     ", "   ..oooooo..   ", "  .oooooooooo.  ",
+                       "  .oooooooooo.  ", " .oooooooooooo. ", " .oooooooooooo. ", " .oooooooooooo. ",
+                       " .oooooooooooo. ", " .oooooooooooo. ", " .oooooooooooo. ", "  .oooooooooo.  ",
+                       "  .oooooooooo.  ", "   ..oooooo..   ", "     ......     ", "                "};
+char const* g_On[] = {"16 16 3 1",        "  c None",         ". c #2E6B34",      "o c #57B560",
+                      "                ", "     ......     ", "   ..oooooo..   ", "  .oooooooooo.  ",
+                      "  .oooooooooo.  ", " .oooooooooooo. ", " .oooooooooooo. ", " .oooooooooooo. ",
+                      " .oooooooooooo. ", " .oooooooooooo. ", " .oooooooooooo. ", "  .oooooooooo.  ",
+                      "  .oooooooooo.  ", "   ..oooooo..   ", "     ......     ", "                "};
 
 // The page's answer to a custom check box that asks for an image.
 class CLamp : public CCustomCheckBox
@@ -38,7 +38,8 @@ private:
     }
 };
 
-template <class Box> Box* Add(CVisualElement* parent, std::string const& text, bool checked = false, bool enabled = true)
+template <class Box>
+Box* Add(CVisualElement* parent, std::string const& text, bool checked = false, bool enabled = true)
 {
     auto* const box = new Box(parent, {0, 0}, alNone);
     box->SetCaption(text);

@@ -83,7 +83,13 @@ public:
     using CField<CComboBox>::CField;
 
 private:
-    void GiveText(std::string const& text) override { GetComboBox()->SetText(text); }
+    void GiveText(std::string const& text) override
+    {
+        GetComboBox()->SetText(text);
+        for (int i = 0; i < GetComboBox()->GetItemCount(); ++i)
+            if (GetComboBox()->GetItemText(i) == text)
+                GetComboBox()->SetCurrentItem(i);
+    }
 };
 
 CPanel* AddRow(CVisualElement* parent, std::string const& caption)

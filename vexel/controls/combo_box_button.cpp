@@ -21,6 +21,14 @@ ISysWindow* WindowOf(CVisualElement const* element)
     return element && element->GetControl() ? element->GetControl()->GetWindow() : nullptr;
 }
 
+// What the frame of a list takes of a popup's height.
+double GetFrameHeight(CListBox const& list)
+{
+    rectangle<int> const& outer = list.GetOffset();
+    rectangle<int> const& inner = list.GetContentOffset();
+    return 1.0 + outer.top + outer.bottom + inner.top + inner.bottom;
+}
+
 }  // namespace
 
 // Popup ---------------------------------------------------------------------------------------------------------------------
@@ -41,7 +49,8 @@ void CPopup::Show()
     point<int> origin;
     m_Owner->ElementToControl(&origin);
     rectangle<int> const bounds = m_Owner->GetBounds();
-    PositionPopup(m_Popup, {origin.x, origin.y, AddSaturated(origin.x, bounds.right), AddSaturated(origin.y, bounds.bottom)});
+    PositionPopup(m_Popup,
+                  {origin.x, origin.y, AddSaturated(origin.x, bounds.right), AddSaturated(origin.y, bounds.bottom)});
 }
 
 // Button --------------------------------------------------------------------------------------------------------------------
@@ -121,7 +130,10 @@ void CComboBoxButton::UpdateDropSize()
     int const shown = std::min(m_VisibleDropItems, viewer.GetModel() ? viewer.GetModel()->GetItemCount() : 0);
     int const bar = m_List->GetScrollBox().GetHorzElement().IsScrollBarVisible() ? detail::GetArrowWidth() : 0;
     int const width = m_VisibleDropWidth >= 1 ? m_VisibleDropWidth : AddSaturated(GetBounds().right, 1);
-    popup->SetSize(width, AddSaturated(bar, ToInt(static_cast<double>(shown) * (static_cast<double>(item) + 1))));
+    double height = static_cast<double>(shown) * (static_cast<double>(item) + 1);
+    if (shown > 0)  // one pixel a row is less than the frame takes where there are few
+        height = std::max(height, static_cast<double>(shown) * item + GetFrameHeight(*m_List));
+    popup->SetSize(width, ToInt(bar + height));
 }
 
 void CComboBoxButton::UpdateCaption(int index)

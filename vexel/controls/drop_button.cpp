@@ -2,7 +2,8 @@
 
 #include "vexel/controls/detail/arrow_width.h"
 #include "vexel/controls/detail/keys.h"
-#include "vexel/controls/detail/scaled.h"
+
+#include <algorithm>
 
 namespace vexel
 {
@@ -34,9 +35,13 @@ void CDropButton::DrawContent(IPainter* painter)
     CButton::DrawContent(painter);
     if (!alive)
         return;
+    // A pressed one moves, but not out of the button: nobody would wipe it off there.
     rectangle<int> const rect = CButton::GetInternalRect();
+    rectangle<int> bounds = GetBounds();
+    bounds.Normalize();
     painter->DrawControlElement(IPainter::ceDropArrow, SubtractSaturated(rect.right, detail::GetArrowWidth()), rect.top,
-                                rect.right, rect.bottom, GetNativeState());
+                                std::min(rect.right, bounds.right), std::min(rect.bottom, bounds.bottom),
+                                GetNativeState());
 }
 
 bool CDropButton::HandleKeyDown(int keys, int key)

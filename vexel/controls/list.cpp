@@ -113,9 +113,8 @@ size<int> CList::GetItemSize(int item) const
     if (!painter || !m_Model)
         return {};
     CMeasureBracket const bracket(painter, GetFont());
-    size<double> const text =
-        painter->DrawString({0.0, 0.0, g_Unlimited, g_Unlimited}, m_Model->GetItemCaption(item),
-                            IPainter::AlignLeft | IPainter::AlignMeasureOnly, -1);
+    size<double> const text = painter->DrawString({0.0, 0.0, g_Unlimited, g_Unlimited}, m_Model->GetItemCaption(item),
+                                                  IPainter::AlignLeft | IPainter::AlignMeasureOnly, -1);
     return {AddSaturated(ToInt(text.width), AddSaturated(m_Offset.left, m_Offset.right)), ToInt(text.height)};
 }
 
@@ -227,8 +226,8 @@ bool CList::AsksDrawing(IPainter* painter, int item, rectangle<int> const& rect)
 void CList::DrawItem(IPainter* painter, int item, rectangle<int> const& rect)
 {
     if (AsksDrawing(painter, item, rect))
-        painter->DrawString(ToDouble(rect), m_Model->GetItemCaption(item),
-                            IPainter::AlignLeft | IPainter::AlignVCenter, -1);
+        painter->DrawString(ToDouble(rect), m_Model->GetItemCaption(item), IPainter::AlignLeft | IPainter::AlignVCenter,
+                            -1);
 }
 
 // Mouse -------------------------------------------------------------------------------------------------------------------

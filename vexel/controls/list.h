@@ -108,7 +108,7 @@ public:
     int GetImageSpace() const { return m_ImageSpace; }
     void SetImageSpace(int pixels);  ///< Between image and text; 6 at first.
 
-public:  // From CList
+public:                                                                               // From CList
     void DrawItem(IPainter* painter, int item, rectangle<int> const& rect) override;  ///< Nothing without a control.
 
 private:

@@ -14,8 +14,8 @@ size<int> const g_ListExtent{200, 100};
 double const g_TextIndent = 3.0;
 int const g_KeySpace = 32;
 int const g_KeyReturn = 13;
-int const g_ButtonHeld = 1;      // bit of the keys: the left button
-int const g_OtherHeld = 0xFE;    // the other bits of the low byte
+int const g_ButtonHeld = 1;    // bit of the keys: the left button
+int const g_OtherHeld = 0xFE;  // the other bits of the low byte
 
 }  // namespace
 
@@ -224,10 +224,8 @@ void CListBoxViewer::DrawRow(IPainter* painter, int row, int, int state, rectang
     rectangle<double> line = rect;
     line.left -= scrolled;  // the other end stays, so that the ground reaches it
     bool const highlighted = m_HotItem < 0 ? (state & 1) != 0 : m_HotItem == row;
-    _color const ground =
-        highlighted ? detail::GetPainterColor(*painter, ISysPalette::scHighlight) : GetBkColor();
-    painter->SetTextColor(highlighted ? detail::GetPainterColor(*painter, ISysPalette::scHighlightText)
-                                      : GetFgColor());
+    _color const ground = highlighted ? detail::GetPainterColor(*painter, ISysPalette::scHighlight) : GetBkColor();
+    painter->SetTextColor(highlighted ? detail::GetPainterColor(*painter, ISysPalette::scHighlightText) : GetFgColor());
     painter->SetBrush({ground, brush::bsSolid});
     painter->FillRect(line.left, line.top, line.right, line.bottom);
 

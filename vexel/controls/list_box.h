@@ -15,8 +15,7 @@ public:
     virtual ~IListBoxItemDrawing();
     /// `state`: bits, 1 selected and 2 current. The ground is drawn. `*drawDefault`, true at first: whether the list box
     /// draws the rest. The rectangle is in the viewer's pixels, and begins left of it where the list is scrolled.
-    virtual void DrawItem(IPainter* painter, int item, int state, rectangle<double> const& rect,
-                          bool* drawDefault) = 0;
+    virtual void DrawItem(IPainter* painter, int item, int state, rectangle<double> const& rect, bool* drawDefault) = 0;
 };
 
 /// Takes presses, keys and moves of the pointer before the viewer's own handlers do.
@@ -47,10 +46,11 @@ public:
     // What it shows: not owned; a model that dies is forgotten -------------------------------------------------------------
     void SetModel(IItemsModel* model);  ///< Null: no rows.
     IItemsModel* GetModel() const { return m_Model; }
-    void ModelChanged();                                        ///< Takes its number of rows. Connected to it.
-    void SetItemDrawing(IListBoxItemDrawing* drawing);          ///< Null: none.
+    void ModelChanged();                                               ///< Takes its number of rows. Connected to it.
+    void SetItemDrawing(IListBoxItemDrawing* drawing);                 ///< Null: none.
     COneItemViewModel& GetHorzViewModel() { return m_HorzViewModel; }  ///< Its item is as wide as the widest line.
-    void SetLineWidth(int pixels);                              ///< Of the widest line; what is wider than the view scrolls.
+    /// Of the widest line; what is wider than the view scrolls.
+    void SetLineWidth(int pixels);
 
     // Choice ------------------------------------------------------------------------------------------------------------------
     int GetCurrentItem() const { return GetRowSelectionModel()->GetCurrent(); }  ///< -1: none.

@@ -9,12 +9,14 @@
 #include "vexel/platform/qt/detail/qt_window.h"
 #include "vexel/signals/notify.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
@@ -250,6 +252,23 @@ public:
 
     QString m_ShownText;  // of a box that can only choose
 
+    // Where a button is down it opens as by a press of the box, so that the release neither closes nor chooses.
+    void OpenList()
+    {
+        if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        {
+            QStyleOptionComboBox option;
+            initStyleOption(&option);
+            QPointF const arrow =
+                style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this).center();
+            QMouseEvent press(QEvent::MouseButtonPress, arrow, mapToGlobal(arrow), Qt::LeftButton, Qt::LeftButton,
+                              Qt::NoModifier);
+            mousePressEvent(&press);
+        }
+        if (!view()->isVisible())
+            showPopup();
+    }
+
 protected:
     void initStyleOption(QStyleOptionComboBox* option) const override
     {
@@ -392,7 +411,7 @@ void CQtComboBox::ShowDropDown(bool show)
         return;
     vexel_ptr<CBase> const alive(this);
     if (show)
-        m_Box->showPopup();
+        m_Box->OpenList();
     else
         m_Box->hidePopup();
 }
@@ -406,7 +425,7 @@ void CQtComboBox::Shown()
             m_Box,
             [box = m_Box] {
                 if (box->owner && box->isVisible())
-                    box->showPopup();
+                    box->OpenList();
             },
             Qt::QueuedConnection);
     }
