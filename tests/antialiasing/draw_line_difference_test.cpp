@@ -128,11 +128,11 @@ std::string Compare(CPixelBuffer const& a, CPixelBuffer const& b)
     return {};
 }
 
-TEST(DrawLineDifference, EveryPixelIsThatOfTheContour)
+// Lines of a width between these; whether they come out the same.
+void CompareLines(int count, int narrowest, int widest)
 {
     CTestRandom random;
     CSurface fast, slow;
-    int const count = GetLineCount(10000);
     for (int i = 0; i < count; ++i)
     {
         if (i % 50 == 0)
@@ -141,11 +141,24 @@ TEST(DrawLineDifference, EveryPixelIsThatOfTheContour)
             fast.Fill(pixel);
             slow.Fill(pixel);
         }
-        SLine const line = RandomLine(random);
+        SLine line = RandomLine(random);
+        if (narrowest > 0)
+            line.ink.width = random.Int(narrowest, widest);
         fast.Draw(line, DrawLine);
         slow.Draw(line, DrawLineByContour);
         ASSERT_EQ(Compare(fast.Pixels(), slow.Pixels()), "") << "line " << i << ": " << line;
     }
+}
+
+TEST(DrawLineDifference, EveryPixelIsThatOfTheContour)
+{
+    CompareLines(GetLineCount(10000), 0, 0);
+}
+
+// Up to the widest that the band takes, and beyond. Their caps need more of it than lines of the usual widths.
+TEST(DrawLineDifference, EveryPixelOfAWideLineIsThatOfTheContour)
+{
+    CompareLines(GetLineCount(10000) / 25, 13, 34);
 }
 
 }  // namespace

@@ -81,6 +81,12 @@ TEST_P(BarSections, AreCutAtTheEndOfTheView)
     EXPECT_EQ(Told(), Section(0, 0, 199));
 }
 
+TEST_P(BarSections, WhoseEdgesAreAlmostWholeEndThere)
+{
+    m_Steps.m_Steps = {12.5 - 1e-10, 15, 10};  // a hair below 50 pixels
+    EXPECT_EQ(Told(), Section(0, 0, 50) + Section(1, 50, 110) + Section(2, 110, 150));
+}
+
 TEST_P(BarSections, SelectedInEitherWayAreToldSo)
 {
     m_Bar.SetSelectedSections({0});
