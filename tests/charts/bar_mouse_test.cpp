@@ -668,6 +668,18 @@ TEST_F(BarMouseOnLeft, TheBarIsNeverLessThanNothing)
     EXPECT_EQ(m_Bar.GetSize().width, 0);
 }
 
+TEST_F(BarMouseOnLeft, NoSectionIsDraggedWhileTheBarIsResized)
+{
+    DragInfo info;
+    EXPECT_TRUE(m_Bar.HandleStartDragging(10, 70, info));
+    m_Bar.HandleDragFinished(nullptr, info);
+    m_Host.Mouse().Press(m_Bar, 19, 70);
+    ASSERT_EQ(m_Bar.GetState(), CBar::stResizingBar);
+    EXPECT_FALSE(m_Bar.HandleStartDragging(10, 70, info));
+    EXPECT_EQ(m_Bar.GetDragSection(), -1);
+    Release();
+}
+
 TEST_F(BarMouseOnLeft, AResizeOfTheBarThatIsRefusedDoesNotBegin)
 {
     auto const no = Listen(m_Bar.m_SigBarResizeAllowed, [](bool* allow) { *allow = false; });

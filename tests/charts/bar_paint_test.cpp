@@ -262,6 +262,29 @@ TEST_F(BarPaint, ASectionIsDrawnByNumberWithoutAModel)
     EXPECT_THAT(m_Host.Paint(), Draws("DrawString \"7\" 10 20 40 59 0x164"));
 }
 
+TEST_F(BarPaint, PenAndBrushAreAsBefore)
+{
+    DragInfo info;
+    ASSERT_TRUE(m_Bar.HandleDragOver(&m_Bar, 70, 10, info));  // a place to drop, and nothing that is dragged
+    brush const ground{color_table[13], brush::bsSolid};
+    pen const ink{color_table[4], pen::psDot, 3};
+    int drawn = 0;
+    auto const slot = Listen(m_Pane.m_SigDraw, [&](CVisualElement*, IPainter* painter) {
+        painter->SetBrush(ground);
+        painter->SetPen(ink);
+        m_Bar.DrawSection(painter, {10, 20, 40, 60}, 0, true);
+        EXPECT_EQ(painter->GetBrush(), ground);
+        EXPECT_EQ(painter->GetPen(), ink);
+        m_Bar.HandleDrawDragItem(painter, info, true, nullptr);
+        EXPECT_EQ(painter->GetBrush(), ground);
+        EXPECT_EQ(painter->GetPen(), ink);
+        ++drawn;
+    });
+    m_Pane.Update(utElement);
+    EXPECT_THAT(m_Host.Paint(), Draws("FillRect 10 20 40 59").Then("Polygon *"));
+    EXPECT_EQ(drawn, 1);
+}
+
 TEST_F(BarPaint, ASpaceIsALineAtTheTop)
 {
     CBar bare(nullptr, {20, 20}, alTop);
