@@ -44,6 +44,19 @@ TEST_F(DrawLineTest, BlendsWith85HundredthsOfTheTopByte)
     EXPECT_EQ(Red(15, 4), 255u);
 }
 
+// Of the shares 0.47306 and 0.14148: red 94 and 28, green 47 and 14, blue 18 and 5, coverage 120 and 36.
+TEST_F(DrawLineTest, HasThePensColourFromEndToEnd)
+{
+    m_Canvas.Pen(_color::FromRgb(200, 100, 40));
+
+    DrawLine(&m_Canvas.Painter(), {14, 4}, {2, 4}, CapNone, CapNone);
+
+    auto const rgb = [this](int x) { return m_Canvas.Pixels().Row(4)[x] & 0xFFFFFFu; };
+    EXPECT_EQ(rgb(2), 229u << 16 | 182u << 8 | 153u);  // 135 of the white ground
+    for (int x = 3; x <= 13; ++x)
+        EXPECT_EQ(rgb(x), 221u << 16 | 160u << 8 | 122u) << x;  // 99 of it
+}
+
 TEST_F(DrawLineTest, RunsFromTheSecondEndToTheFirst)
 {
     m_Canvas.Pen(tests::Black);
