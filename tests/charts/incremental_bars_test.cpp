@@ -27,7 +27,8 @@ public:
         : m_Host(host), m_Random(random), m_Models(models),
           m_Bar(*new CBar(host.Root(), {random.Int(8, 30), random.Int(8, 30)},
                           static_cast<Alignment>(random.Int(alLeft, alBottom)))),
-          m_Margin(*new CBarPane(host.Root(), {10, 10}, alLeft)), m_Pane(*new CBarPane(host.Root(), {0, 0}, alClient))
+          m_Rest(*new CVisualElement(host.Root(), {0, 0}, alClient)),
+          m_Margin(*new CBarPane(&m_Rest, {10, 10}, alLeft)), m_Pane(*new CBarPane(&m_Rest, {0, 0}, alClient))
     {
         m_Margin.SetBkColor(color_table[12]);
         m_Margin.SetVisible(false);
@@ -92,7 +93,7 @@ public:
     bool IsNarrowed() const
     {
         bool const upright = m_Bar.GetAlignment() == alLeft || m_Bar.GetAlignment() == alRight;
-        rectangle<int> const bar = m_Bar.GetPos();
+        rectangle<int> const bar = m_Bar.GetPos();  // the rest is as long
         rectangle<int> const pane = m_Pane.GetPos();
         return upright ? pane.Height() < bar.Height() : pane.Width() < bar.Width();
     }
@@ -106,15 +107,19 @@ public:
     }
 
 private:
+    // Models tell of their changes; the rest asks for its repaint itself.
     void Own()
     {
-        switch (m_Random.Int(0, 10))
+        int const move = m_Random.Int(0, 10);
+        switch (move)
         {
         case 0:
             m_Models.steps.m_Start = m_Random.Int(0, 16) / 2.0;
+            m_Models.names.m_SigChanged();
             break;
         case 1:
             m_Models.names.m_Count = m_Random.Int(0, 8);
+            m_Models.names.m_SigChanged();
             break;
         case 2:
             m_Bar.SetStyle(static_cast<unsigned long>(m_Random.Int(0, 3)));
@@ -130,6 +135,7 @@ private:
             break;
         case 6:
             std::swap(m_Models.steps.m_From, m_Models.steps.m_To);
+            m_Models.names.m_SigChanged();
             break;
         case 7:
             m_Margin.SetVisible(!m_Margin.IsVisible());
@@ -151,8 +157,7 @@ private:
             break;
         }
         }
-        m_Models.names.m_SigChanged();
-        Note("own");
+        Note("own " + std::to_string(move));
     }
     void Note(std::string const& what)
     {
@@ -165,6 +170,7 @@ private:
     CTestRandom& m_Random;
     SModels& m_Models;
     CBar& m_Bar;
+    CVisualElement& m_Rest;  // is laid out alone
     CBarPane& m_Margin;
     CBarPane& m_Pane;
     std::unique_ptr<CSlot<int, double>> m_Resizing;
