@@ -193,7 +193,9 @@ TEST_P(IncrementalBars, LookAsIfPaintedAtOnce)
     for (int game = 0; game < 40; ++game)
     {
         SModels models;
-        CTestHost host(random.Int(90, 200), random.Int(90, 160), GetParam());
+        int const width = random.Int(90, 200);
+        int const height = random.Int(90, 160);
+        CTestHost host(width, height, GetParam());
         CBarGame bar(host, random, models);
         for (int round = 0; round < 60; ++round)
         {
@@ -209,7 +211,11 @@ TEST_P(IncrementalBars, LookAsIfPaintedAtOnce)
             reversed += bar.IsReversed() ? 1 : 0;
             ASSERT_EQ(host.CompareWithFullPaint(), "") << bar.History();
             if (random.Chance(3))
-                host.Resize(random.Int(90, 200), random.Int(90, 160));
+            {
+                int const newWidth = random.Int(90, 200);
+                int const newHeight = random.Int(90, 160);
+                host.Resize(newWidth, newHeight);
+            }
         }
     }
     EXPECT_GT(drags, 20);
