@@ -172,6 +172,18 @@ TEST(DoubleMap, ClearForgetsTheSavedIndex)
     EXPECT_EQ(owner.m_Primary.size(), 1u);
 }
 
+TEST(DoubleMap, ClearForgetsASavedIndexOfAMapThatDoesNotShareToo)
+{
+    IntMap map;
+    map.m_Primary = {{1, 10}};
+    map.m_Saved = std::make_unique<IntMap::secondary_map>();
+    (*map.m_Saved)[7] = &map.m_Primary.at(1);
+
+    map.clear();
+
+    EXPECT_EQ(map.m_Saved, nullptr);
+}
+
 TEST(DoubleMap, ClearDoesNotTellTheSharers)
 {
     IntMap owner, sharer;

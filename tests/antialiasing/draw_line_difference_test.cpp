@@ -12,6 +12,7 @@
 #include <ostream>
 #include <sstream>
 #include <string>
+#include <utility>
 
 // DrawLine against what it is measured by: two surfaces that get the same lines, one in each way, stay equal in every
 // pixel. VEXEL_LINES sets how many lines.
@@ -128,11 +129,11 @@ std::string Compare(CPixelBuffer const& a, CPixelBuffer const& b)
     return {};
 }
 
-TEST(DrawLineDifference, EveryPixelIsThatOfTheContour)
+// Whether lines come out the same. `change(line, random)` may make them special.
+template <class Change> void CompareLines(int count, Change const& change)
 {
     CTestRandom random;
     CSurface fast, slow;
-    int const count = GetLineCount(10000);
     for (int i = 0; i < count; ++i)
     {
         if (i % 50 == 0)
@@ -141,11 +142,44 @@ TEST(DrawLineDifference, EveryPixelIsThatOfTheContour)
             fast.Fill(pixel);
             slow.Fill(pixel);
         }
-        SLine const line = RandomLine(random);
+        SLine line = RandomLine(random);
+        change(line, random);
         fast.Draw(line, DrawLine);
         slow.Draw(line, DrawLineByContour);
         ASSERT_EQ(Compare(fast.Pixels(), slow.Pixels()), "") << "line " << i << ": " << line;
     }
+}
+
+TEST(DrawLineDifference, EveryPixelIsThatOfTheContour)
+{
+    CompareLines(GetLineCount(10000), [](SLine&, CTestRandom&) {});
+}
+
+// Up to the widest that the band takes, and beyond.
+TEST(DrawLineDifference, EveryPixelOfAWideLineIsThatOfTheContour)
+{
+    CompareLines(GetLineCount(10000) / 25,
+                 [](SLine& line, CTestRandom& random) { line.ink.width = random.Int(13, 34); });
+}
+
+// Long enough for caps that are not cut: up to 65 pixels wide.
+TEST(DrawLineDifference, EveryPixelOfALargeArrowIsThatOfTheContour)
+{
+    CompareLines(GetLineCount(10000) / 100, [](SLine& line, CTestRandom& random) {
+        double const angle = random.Real(0, 6.283185307179586);
+        double const length = random.Real(240, 320);
+        double const dx = length * std::cos(angle);
+        double const dy = length * std::sin(angle);
+        double const x = random.Real(20, Width - 20);
+        double const y = random.Real(20, Height - 20);
+        line.p1 = {x, y};
+        line.p2 = {x + dx, y + dy};
+        if (random.Bool())
+            std::swap(line.p1, line.p2);
+        line.cap1 = random.Bool() ? CapArrowWide : CapCircle;
+        line.cap2 = random.Bool() ? CapArrowWide : CapArrowNarrow;
+        line.ink.width = random.Int(24, 32);
+    });
 }
 
 }  // namespace

@@ -194,6 +194,13 @@ TEST_P(BarDrag, BesideTheStripItIsDroppedAtItsEnds)
     EXPECT_EQ(TargetAt(60), 1);
 }
 
+TEST_P(BarDrag, WithoutAScrollModelTheViewsStartIsBeforeAll)
+{
+    m_Bar.SetHorzScroll(nullptr);
+    m_Bar.SetVertScroll(nullptr);
+    EXPECT_EQ(TargetAt(0), 0);
+}
+
 TEST_P(BarDrag, TheFreeEdgeIsNoObstacle)
 {
     m_Bar.SetStyle(3);
@@ -325,6 +332,50 @@ TEST_P(BarDrag, NearTheEndsTheStripScrolls)
     EXPECT_EQ(ScrollsAt(100), "");
 }
 
+TEST_P(BarDrag, APlaceOnTheViewsEndIsStillInside)
+{
+    MakeLong();
+    m_Steps.m_Start = 0.5;          // sections begin at -25, 25, 75, 125, 175
+    EXPECT_EQ(ScrollsAt(199), "");  // before section 4
+    EXPECT_EQ(ScrollsAt(200), "forward");
+    m_Steps.m_Start = 0;
+    m_Steps.m_Steps[0] = 12.25;  // section 4 begins at 199
+    EXPECT_EQ(ScrollsAt(180), "");
+    EXPECT_EQ(m_Bar.GetDropTarget(), 4);
+    m_Steps.m_Steps[0] = 12.5;  // at 200
+    EXPECT_EQ(ScrollsAt(180), "forward");
+    EXPECT_EQ(m_Bar.GetDropTarget(), 4);
+}
+
+// Sections of 50 from 30 on.
+TEST_P(BarDrag, InAStripThatBeginsLaterItScrollsByWhereItIsDrawn)
+{
+    MakeLong();
+    NarrowPane();
+    m_Steps.m_Start = 2;
+    EXPECT_EQ(ScrollsAt(31), "");  // before section 2, at 30
+    EXPECT_EQ(ScrollsAt(29), "backward");
+    EXPECT_EQ(ScrollsAt(160), "");  // before section 5, at 180
+    EXPECT_EQ(ScrollsAt(190), "forward");
+    m_Steps.m_Start = 0;
+    TargetAt(1);
+    EXPECT_FALSE(IsTimerRunning());
+    TargetAt(0);  // not inside the view, though section 0 is
+    EXPECT_TRUE(IsTimerRunning());
+}
+
+// What the timer can reach: 301, where 199 pixels are left.
+TEST_P(BarDrag, InAStripThatBeginsLaterADragToItsEndDoesNotScrollBack)
+{
+    MakeLong();
+    NarrowPane();
+    m_Steps.m_Start = 5.9;
+    EXPECT_EQ(ScrollsAt(300), "forward");
+    m_Steps.m_Start = 6.1;
+    EXPECT_EQ(ScrollsAt(300), "");
+    EXPECT_EQ(m_Bar.GetDropTarget(), 10);
+}
+
 TEST_P(BarDrag, AStripThatShowsItsEndDoesNotScrollForward)
 {
     EXPECT_EQ(ScrollsAt(300), "");
@@ -352,6 +403,27 @@ TEST_P(BarDrag, ScrollingBecomesFaster)
     m_Host.Clock().Advance(50);
     EXPECT_NEAR(m_Steps.m_Start * 50, 301, 1e-9);
     EXPECT_FALSE(IsTimerRunning());
+    Release();
+}
+
+TEST_P(BarDrag, ScrollingBecomesNoFasterThan32PixelsATick)
+{
+    m_Names.m_Count = 30;
+    m_Steps.m_Steps.assign(30, 12.5);
+    m_Steps.m_To = 30;
+    Start(70);
+    Move(300);
+    m_Host.Clock().Advance(99);
+    EXPECT_EQ(m_Steps.m_Start, 0);
+    m_Host.Clock().Advance(1);
+    EXPECT_NEAR(m_Steps.m_Start * 50, 4, 1e-9);
+    m_Host.Clock().Advance(1300);  // two of 4, 8, 12, 16, 20, 24 and 28
+    EXPECT_NEAR(m_Steps.m_Start * 50, 224, 1e-9);
+    for (double const pixels : {256.0, 288.0, 320.0, 352.0, 384.0})
+    {
+        m_Host.Clock().Advance(100);
+        EXPECT_NEAR(m_Steps.m_Start * 50, pixels, 1e-9);
+    }
     Release();
 }
 
@@ -414,6 +486,14 @@ TEST_P(BarDrag, TheTargetOfATickGoesByThePointersPlace)
     TargetAt(-10);
     m_Bar.OnSigTimerTick(nullptr);
     EXPECT_EQ(m_Bar.GetDropTarget(), 2);
+    m_Steps.m_Start = 1.25;
+    TargetAt(0);
+    m_Bar.OnSigTimerTick(nullptr);
+    EXPECT_EQ(m_Bar.GetDropTarget(), 2);  // the view's start: rounded up
+    TargetAt(1);
+    m_Bar.OnSigTimerTick(nullptr);
+    EXPECT_EQ(m_Bar.GetDropTarget(), 1);  // 1.25 + 0.02 + 0.5
+    m_Steps.m_Start = 1.5;
     TargetAt(198);
     m_Bar.OnSigTimerTick(nullptr);
     EXPECT_EQ(m_Bar.GetDropTarget(), 5);  // 1.5 + 3.96 + 0.5
@@ -496,6 +576,14 @@ TEST_P(BarDrag, APointerStandsWhereItWouldBeDropped)
                                     .Then("Polygon " + at(110, 20) + " " + at(106, 28) + " " + at(114, 28)));
     Move(140);
     EXPECT_THAT(m_Host.Paint(), Draws("MoveTo " + at(150, 20)));
+}
+
+TEST_P(BarDrag, APointerStandsBeforeSectionZeroToo)
+{
+    Start(70);
+    Move(10);
+    point<int> const tip = At(0, 20);
+    EXPECT_THAT(m_Host.Paint(), Draws("MoveTo " + std::to_string(tip.x) + " " + std::to_string(tip.y)));
 }
 
 TEST_P(BarDrag, InAStripThatBeginsLaterThePointerDoesToo)

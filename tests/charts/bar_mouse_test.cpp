@@ -609,6 +609,33 @@ TEST_F(BarMouseOnLeft, ADraggedFreeEdgeMakesTheBarThicker)
     EXPECT_EQ(Captured(), nullptr);
 }
 
+TEST_F(BarMouseOnLeft, AResizeOfTheBarIsOverWhenItIsTold)
+{
+    int state = -1;
+    auto const slot = Listen(m_Bar.m_SigBarResized, [&](size<int>&) { state = m_Bar.GetState(); });
+    m_Host.Mouse().Press(m_Bar, 19, 70);
+    Release();
+    EXPECT_EQ(state, CBar::stIdle);
+}
+
+TEST_F(BarMouseOnLeft, OnALargerDisplayTheBarStillFollowsPixelByPixel)
+{
+    CTestHost host(200, 200, 2.0);
+    auto& bar = *new CBar(host.Root(), {20, 20}, alLeft);
+    auto& pane = *new CBarPane(host.Root(), {0, 0}, alClient);
+    host.Control().GetControl()->SetDragStartSensitivity({10000, 10000});
+    bar.SetCentralPane(&pane);
+    bar.SetCategoryModel(&m_Names);
+    bar.SetVertScroll(&m_Steps);
+    bar.SetStyle(CBar::bsResizeBar);
+    bar.SetSize({20, 20}, false);
+    host.Paint();
+    host.Mouse().Press(bar, 19, 70);
+    host.Mouse().Move(bar, 29, 70);
+    EXPECT_EQ(bar.GetSize(), (size<int>{30, 20}));
+    host.Mouse().Release();
+}
+
 TEST_F(BarMouseOnLeft, BeyondALimitThePointerIsWaitedFor)
 {
     m_Bar.SetMinBarSize(10);
@@ -639,6 +666,18 @@ TEST_F(BarMouseOnLeft, TheBarIsNeverLessThanNothing)
     EXPECT_EQ(m_Bar.GetSize().width, 20);
     m_Host.Mouse().Move(m_Bar, -1, 70);
     EXPECT_EQ(m_Bar.GetSize().width, 0);
+}
+
+TEST_F(BarMouseOnLeft, NoSectionIsDraggedWhileTheBarIsResized)
+{
+    DragInfo info;
+    EXPECT_TRUE(m_Bar.HandleStartDragging(10, 70, info));
+    m_Bar.HandleDragFinished(nullptr, info);
+    m_Host.Mouse().Press(m_Bar, 19, 70);
+    ASSERT_EQ(m_Bar.GetState(), CBar::stResizingBar);
+    EXPECT_FALSE(m_Bar.HandleStartDragging(10, 70, info));
+    EXPECT_EQ(m_Bar.GetDragSection(), -1);
+    Release();
 }
 
 TEST_F(BarMouseOnLeft, AResizeOfTheBarThatIsRefusedDoesNotBegin)

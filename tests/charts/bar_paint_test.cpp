@@ -81,6 +81,12 @@ TEST_P(BarSections, AreCutAtTheEndOfTheView)
     EXPECT_EQ(Told(), Section(0, 0, 199));
 }
 
+TEST_P(BarSections, WhoseEdgesAreAlmostWholeEndThere)
+{
+    m_Steps.m_Steps = {12.5 - 1e-10, 15, 10};  // a hair below 50 pixels
+    EXPECT_EQ(Told(), Section(0, 0, 50) + Section(1, 50, 110) + Section(2, 110, 150));
+}
+
 TEST_P(BarSections, SelectedInEitherWayAreToldSo)
 {
     m_Bar.SetSelectedSections({0});
@@ -254,6 +260,29 @@ TEST_F(BarPaint, ASectionIsDrawnByNumberWithoutAModel)
     });
     m_Pane.Update(utElement);
     EXPECT_THAT(m_Host.Paint(), Draws("DrawString \"7\" 10 20 40 59 0x164"));
+}
+
+TEST_F(BarPaint, PenAndBrushAreAsBefore)
+{
+    DragInfo info;
+    ASSERT_TRUE(m_Bar.HandleDragOver(&m_Bar, 70, 10, info));  // a place to drop, and nothing that is dragged
+    brush const ground{color_table[13], brush::bsSolid};
+    pen const ink{color_table[4], pen::psDot, 3};
+    int drawn = 0;
+    auto const slot = Listen(m_Pane.m_SigDraw, [&](CVisualElement*, IPainter* painter) {
+        painter->SetBrush(ground);
+        painter->SetPen(ink);
+        m_Bar.DrawSection(painter, {10, 20, 40, 60}, 0, true);
+        EXPECT_EQ(painter->GetBrush(), ground);
+        EXPECT_EQ(painter->GetPen(), ink);
+        m_Bar.HandleDrawDragItem(painter, info, true, nullptr);
+        EXPECT_EQ(painter->GetBrush(), ground);
+        EXPECT_EQ(painter->GetPen(), ink);
+        ++drawn;
+    });
+    m_Pane.Update(utElement);
+    EXPECT_THAT(m_Host.Paint(), Draws("FillRect 10 20 40 59").Then("Polygon *"));
+    EXPECT_EQ(drawn, 1);
 }
 
 TEST_F(BarPaint, ASpaceIsALineAtTheTop)

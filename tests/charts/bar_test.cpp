@@ -230,6 +230,41 @@ TEST_P(BarOnSide, APointLiesInASectionOrAtADivider)
     EXPECT_EQ(Hit(199), "4: 3 3 3");
 }
 
+TEST_P(BarOnSide, SectionZeroHasNoDividerOnItsLeft)
+{
+    m_Bar.SetStyle(CBar::bsResizeSections);
+    for (int const along : {0, 1, 2})
+    {
+        EXPECT_EQ(Hit(along), "1: 0 0 0 first") << along;
+        Press(along);
+        EXPECT_EQ(m_Bar.GetState(), CBar::stPressed) << along;
+        EXPECT_EQ(m_Bar.GetActiveSection(), 0) << along;
+        EXPECT_EQ(m_Bar.GetCursor(), 1) << along;
+        Release();
+    }
+    m_Steps.m_Start = 1;  // section 1 has one, there as anywhere else
+    EXPECT_EQ(Hit(0), "2: 0 1 1 first");
+    EXPECT_EQ(Hit(2), "2: 0 1 1 first");
+    EXPECT_EQ(Hit(3), "1: 1 1 1 first");
+}
+
+TEST_P(BarOnSide, SectionZeroHasNoDividerOnItsLeftWhereTheStripBeginsLaterEither)
+{
+    NarrowPane();  // to 30
+    EXPECT_EQ(Hit(29), "3: -1 -1 -1");
+    EXPECT_EQ(Hit(30), "1: 0 0 0 first");
+    EXPECT_EQ(Hit(32), "1: 0 0 0 first");
+    EXPECT_EQ(Hit(78), "2: 0 1 0");  // the one on its right
+}
+
+TEST_P(BarOnSide, ASectionZeroOfTwoPixelsIsAllItsRightDivider)
+{
+    m_Steps.m_Steps = {0.5, 15, 10};
+    EXPECT_EQ(Hit(0), "2: 0 1 0 first");
+    EXPECT_EQ(Hit(1), "2: 0 1 0 first");
+    EXPECT_EQ(Hit(2), "2: 0 1 1 first");
+}
+
 TEST_P(BarOnSide, APointOutsideTheElementLiesNowhere)
 {
     EXPECT_EQ(Hit(-1), "0: -1 -1 -1");

@@ -19,7 +19,7 @@ struct SModels
     CSteps steps{{12.5, 15, 10, 5, 20, 8, 30, 2}};
 };
 
-// A bar beside a pane, and its user and owner at random.
+// A bar beside a pane, which a margin may make narrower than the bar, and its user and owner at random.
 class CBarGame
 {
 public:
@@ -27,8 +27,12 @@ public:
         : m_Host(host), m_Random(random), m_Models(models),
           m_Bar(*new CBar(host.Root(), {random.Int(8, 30), random.Int(8, 30)},
                           static_cast<Alignment>(random.Int(alLeft, alBottom)))),
-          m_Pane(*new CBarPane(host.Root(), {0, 0}, alClient))
+          m_Rest(*new CVisualElement(host.Root(), {0, 0}, alClient)),
+          m_Margin(*new CBarPane(&m_Rest, {10, 10}, alLeft)), m_Pane(*new CBarPane(&m_Rest, {0, 0}, alClient))
     {
+        m_Margin.SetBkColor(color_table[12]);
+        m_Margin.SetVisible(false);
+        m_Bar.SetMaxBarSize(40);  // leaves room for margin and pane
         m_Bar.SetBkColor(color_table[3]);
         m_Pane.SetBkColor(color_table[9]);
         m_Bar.SetCentralPane(&m_Pane);
@@ -85,25 +89,37 @@ public:
     }
     bool IsDragged() const { return m_Bar.GetDragSection() >= 0; }
     bool IsSelected() const { return !m_Bar.GetSelection().IsEmpty(); }
+    bool IsReversed() const { return m_Models.steps.m_From > m_Models.steps.m_To; }
+    bool IsNarrowed() const
+    {
+        bool const upright = m_Bar.GetAlignment() == alLeft || m_Bar.GetAlignment() == alRight;
+        rectangle<int> const bar = m_Bar.GetPos();  // the rest is as long
+        rectangle<int> const pane = m_Pane.GetPos();
+        return upright ? pane.Height() < bar.Height() : pane.Width() < bar.Width();
+    }
     std::string History() const
     {
-        std::string text =
-            "bar at " + Describe(m_Bar.GetPos()) + ", docked " + std::to_string(m_Bar.GetAlignment()) + "\n";
+        std::string text = "bar at " + Describe(m_Bar.GetPos()) + ", docked " + std::to_string(m_Bar.GetAlignment()) +
+                           ", pane at " + Describe(m_Pane.GetPos()) + (IsReversed() ? ", reversed\n" : "\n");
         for (std::string const& note : m_Notes)
             text += note + "\n";
         return text;
     }
 
 private:
+    // Models tell of their changes; the rest asks for its repaint itself.
     void Own()
     {
-        switch (m_Random.Int(0, 6))
+        int const move = m_Random.Int(0, 10);
+        switch (move)
         {
         case 0:
             m_Models.steps.m_Start = m_Random.Int(0, 16) / 2.0;
+            m_Models.names.m_SigChanged();
             break;
         case 1:
             m_Models.names.m_Count = m_Random.Int(0, 8);
+            m_Models.names.m_SigChanged();
             break;
         case 2:
             m_Bar.SetStyle(static_cast<unsigned long>(m_Random.Int(0, 3)));
@@ -117,12 +133,31 @@ private:
         case 5:
             m_Bar.SetRotateText(m_Random.Bool());
             break;
-        default:
-            m_Bar.SetSize({m_Random.Int(4, 40), m_Random.Int(4, 40)}, false);
+        case 6:
+            std::swap(m_Models.steps.m_From, m_Models.steps.m_To);
+            m_Models.names.m_SigChanged();
+            break;
+        case 7:
+            m_Margin.SetVisible(!m_Margin.IsVisible());
+            break;
+        case 8:
+            m_Margin.SetAlignment(static_cast<Alignment>(m_Random.Int(alLeft, alBottom)));
+            break;
+        case 9:
+        {
+            int const thickness = m_Random.Int(1, 12);
+            m_Margin.SetSize({thickness, thickness}, false);
             break;
         }
-        m_Models.names.m_SigChanged();
-        Note("own");
+        default:
+        {
+            int const width = m_Random.Int(4, 40);
+            int const height = m_Random.Int(4, 40);
+            m_Bar.SetSize({width, height}, false);
+            break;
+        }
+        }
+        Note("own " + std::to_string(move));
     }
     void Note(std::string const& what)
     {
@@ -135,6 +170,8 @@ private:
     CTestRandom& m_Random;
     SModels& m_Models;
     CBar& m_Bar;
+    CVisualElement& m_Rest;  // is laid out alone
+    CBarPane& m_Margin;
     CBarPane& m_Pane;
     std::unique_ptr<CSlot<int, double>> m_Resizing;
     std::deque<std::string> m_Notes;
@@ -151,10 +188,14 @@ TEST_P(IncrementalBars, LookAsIfPaintedAtOnce)
     CTestRandom random;
     int drags = 0;
     int selections = 0;
+    int narrowed = 0;
+    int reversed = 0;
     for (int game = 0; game < 40; ++game)
     {
         SModels models;
-        CTestHost host(random.Int(90, 200), random.Int(90, 160), GetParam());
+        int const width = random.Int(90, 200);
+        int const height = random.Int(90, 160);
+        CTestHost host(width, height, GetParam());
         CBarGame bar(host, random, models);
         for (int round = 0; round < 60; ++round)
         {
@@ -166,11 +207,19 @@ TEST_P(IncrementalBars, LookAsIfPaintedAtOnce)
             }
             drags += bar.IsDragged() ? 1 : 0;
             selections += bar.IsSelected() ? 1 : 0;
+            narrowed += bar.IsNarrowed() ? 1 : 0;
+            reversed += bar.IsReversed() ? 1 : 0;
             ASSERT_EQ(host.CompareWithFullPaint(), "") << bar.History();
             if (random.Chance(3))
-                host.Resize(random.Int(90, 200), random.Int(90, 160));
+            {
+                int const newWidth = random.Int(90, 200);
+                int const newHeight = random.Int(90, 160);
+                host.Resize(newWidth, newHeight);
+            }
         }
     }
     EXPECT_GT(drags, 20);
     EXPECT_GT(selections, 500);
+    EXPECT_GT(narrowed, 200);
+    EXPECT_GT(reversed, 500);
 }

@@ -44,6 +44,19 @@ TEST_F(DrawLineTest, BlendsWith85HundredthsOfTheTopByte)
     EXPECT_EQ(Red(15, 4), 255u);
 }
 
+// Of the shares 0.47306 and 0.14148: red 94 and 28, green 47 and 14, blue 18 and 5, coverage 120 and 36.
+TEST_F(DrawLineTest, HasThePensColourFromEndToEnd)
+{
+    m_Canvas.Pen(_color::FromRgb(200, 100, 40));
+
+    DrawLine(&m_Canvas.Painter(), {14, 4}, {2, 4}, CapNone, CapNone);
+
+    auto const rgb = [this](int x) { return m_Canvas.Pixels().Row(4)[x] & 0xFFFFFFu; };
+    EXPECT_EQ(rgb(2), 229u << 16 | 182u << 8 | 153u);  // 135 of the white ground
+    for (int x = 3; x <= 13; ++x)
+        EXPECT_EQ(rgb(x), 221u << 16 | 160u << 8 | 122u) << x;  // 99 of it
+}
+
 TEST_F(DrawLineTest, RunsFromTheSecondEndToTheFirst)
 {
     m_Canvas.Pen(tests::Black);
@@ -74,6 +87,56 @@ TEST_F(DrawLineTest, EndsAreMappedAndThenTruncated)
     point<double> corner{1, 1};
     mapped.Painter().ConvertCoord1(&corner, false);
     EXPECT_EQ(corner, (point<double>{4, 6}));  // the mapping is back
+}
+
+// Towards 0, not down.
+TEST_F(DrawLineTest, EndsBelowZeroAreTruncatedToo)
+{
+    struct SEnds
+    {
+        point<double> first;
+        point<double> second;
+    };
+    auto const drawn = [](SEnds const& ends) {
+        tests::CCanvas canvas(24, 16);
+        canvas.Pen(tests::Black);
+        DrawLine(&canvas.Painter(), ends.first, ends.second, CapNone, CapNone);
+        std::vector<std::uint32_t> pixels;
+        for (int y = 0; y < 16; ++y)
+            pixels.insert(pixels.end(), canvas.Pixels().Row(y), canvas.Pixels().Row(y) + 24);
+        return pixels;
+    };
+    EXPECT_EQ(drawn({{14, 12}, {-2.9, -1.9}}), drawn({{14, 12}, {-2, -1}}));
+    EXPECT_NE(drawn({{14, 12}, {-2.9, -1.9}}), drawn({{14, 12}, {-3, -1}}));
+    EXPECT_NE(drawn({{14, 12}, {-2.9, -1.9}}), drawn({{14, 12}, {-2, -2}}));
+    EXPECT_EQ(drawn({{-2.9, -1.9}, {14, 12}}), drawn({{-2, -1}, {14, 12}}));
+    EXPECT_NE(drawn({{-2.9, -1.9}, {14, 12}}), drawn({{-3, -1}, {14, 12}}));
+    EXPECT_NE(drawn({{-2.9, -1.9}, {14, 12}}), drawn({{-2, -2}, {14, 12}}));
+}
+
+// The stamps of a dotted line of one pixel are every other one of 13: the places 1, 3, 5 ... of a solid one.
+TEST_F(DrawLineTest, ThePensStyleLeavesGaps)
+{
+    m_Canvas.Pen(tests::Black, pen::psDot);
+
+    DrawLine(&m_Canvas.Painter(), {14, 4}, {2, 4}, CapNone, CapNone);
+
+    EXPECT_EQ(Red(2, 4), 135u);  // the first alone: 255 - 120
+    EXPECT_EQ(Red(3, 4), 219u);  // the right share of the first: 255 - 36
+    EXPECT_EQ(Red(4, 4), 135u);
+    EXPECT_EQ(Red(5, 4), 219u);
+    EXPECT_EQ(Red(8, 4), 135u);
+    EXPECT_EQ(Red(8, 5), 219u);
+}
+
+TEST_F(DrawLineTest, ASolidPenWithoutWidthDrawsNothing)
+{
+    for (int const width : {0, -3})
+    {
+        m_Canvas.Pen(tests::Black, pen::psSolid, width);
+        DrawLine(&m_Canvas.Painter(), {14, 4}, {2, 4}, CapNone, CapNone);
+        EXPECT_EQ(m_Canvas.Text(), tests::CCanvas(24, 16).Text()) << width;
+    }
 }
 
 TEST_F(DrawLineTest, AColourWithoutTopByteDrawsNothing)
@@ -129,6 +192,10 @@ TEST_F(DrawLineTest, OnlyPlainLinesTakeTheBand)
     EXPECT_FALSE(draws([](auto& line) { line.m_Width = 33; }));
     EXPECT_FALSE(draws([](auto& line) { line.m_Density = 99; }));
     EXPECT_FALSE(draws([](auto& line) { line.m_EndColor.m_Blue = 1; }));
+    EXPECT_TRUE(draws([](auto& line) { line.m_StartColor.m_Red = line.m_EndColor.m_Red = 255; }));
+    EXPECT_FALSE(draws([](auto& line) { line.m_StartColor.m_Red = line.m_EndColor.m_Red = 256; }));
+    EXPECT_FALSE(draws([](auto& line) { line.m_StartColor.m_Green = line.m_EndColor.m_Green = 256; }));
+    EXPECT_FALSE(draws([](auto& line) { line.m_StartColor.m_Blue = line.m_EndColor.m_Blue = 256; }));
     EXPECT_FALSE(draws([](auto& line) { line.m_StartCapOffset = 1; }));
     EXPECT_FALSE(draws([](auto& line) { line.m_EndCapOffset = 1; }));
     EXPECT_FALSE(draws([](auto& line) { line.m_Start.x = 0.5; }));

@@ -398,7 +398,8 @@ void CBar::ScrollWhileDragging()
     }
     CScrollConverter const converter(model);
     bool const beyond = m_DragPos > m_ViewEnd || place > m_ViewEnd;
-    if (beyond && converter.L2P(model->GetTo()) > converter.L2P(model->GetStart()) + m_ViewEnd - GetStripOrigin())
+    // The timer keeps the whole element filled, also where the strip begins later.
+    if (beyond && converter.L2P(model->GetTo()) > converter.L2P(model->GetStart()) + m_ViewEnd)
         m_Timer.Start(true);
     else
         m_Timer.Stop();
