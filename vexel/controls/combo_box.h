@@ -23,7 +23,7 @@ public:
 
     void OnButtonDown(CVisualElement* element, int x, int y, int keys, MouseButton button);  ///< On the arrow.
 
-public:                                                         // From CEditor
+public:                                                          // From CEditor
     void GetEditorRect(rectangle<double>& rect) const override;  ///< Without arrow and edge.
     void ProcessEditorCommand(EditorCommand command) override;
 

@@ -304,8 +304,7 @@ void CRoundBgButton::DrawBkgContent(IPainter* painter, InternalBgImageIndex inde
 void CRoundBgButton::DrawSeeThrough(IPainter* painter, InternalBgImageIndex index)
 {
     rectangle<int> const bounds = GetBounds();
-    vexel_ptr<IRasterPicture> const picture =
-        GetCurrentSystem()->CreateRasterPicture({bounds.right, bounds.bottom});
+    vexel_ptr<IRasterPicture> const picture = GetCurrentSystem()->CreateRasterPicture({bounds.right, bounds.bottom});
     IPainter* const picturePainter = picture->GetPainter();
     picturePainter->BeginPaint(IPainter::ssPaint);
     DrawBkImage(picturePainter, bounds, {});

@@ -52,8 +52,8 @@ public:
     // Of the button -----------------------------------------------------------------------------------------------------
     vexel_ptr<IRasterPicture> GetCurrentPicture(InternalBgImageIndex index) const;  ///< Null: none.
     void SetCurrentPicture(InternalBgImageIndex index, vexel_ptr<IRasterPicture> picture);
-    void InitCurrentBgPictures();                      ///< Copies of the class's, in their own size.
-    void UpdateBgImgDimensions(CVisualElement*);       ///< Copies in the button's size.
+    void InitCurrentBgPictures();                 ///< Copies of the class's, in their own size.
+    void UpdateBgImgDimensions(CVisualElement*);  ///< Copies in the button's size.
     /// What it takes to show the text in bold; an empty one: the caption. Device pixels.
     size<int> GetOptimalSize(IPainter* painter, std::string const& text);
 
