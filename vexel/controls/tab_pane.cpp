@@ -68,7 +68,8 @@ CTabPane::CTabPane(CVisualElement* parent, size<int> const& extent, Alignment al
     SetDefEventHandler(static_cast<CDefTabHandler*>(this));
     font bold;
     bold.style = font::fsBold;
-    SetFont(bold);  // and with it scale and height
+    SetFont(bold);
+    AttributeChanged();  // scale and height, also where the parent's font is the same
 }
 
 // The models go before the handlers that use them, so the pane gets the handler's own back.

@@ -19,12 +19,11 @@ namespace vexel
 /// goes by what is in view; only Layout, CheckAnimation and a model that has changed walk all tabs.
 ///
 /// It draws its tabs itself, unless it is given another look. Not transparent at first. The tabs' font is bold.
-class VEXEL_API CTabPane
-    : public CTransparentFlavor<CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>>,
-      public CTooltipEventHandler,        // of each tab
-      public CDefTabHandler,              // in place of the row handler's selection
-      public ITabVisualisation,           // the look where no other is set
-      public IAnimationProcess::IUpdater  // one animation for all tabs
+class VEXEL_API CTabPane : public CTransparentFlavor<CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>>,
+                           public CTooltipEventHandler,        // of each tab
+                           public CDefTabHandler,              // in place of the row handler's selection
+                           public ITabVisualisation,           // the look where no other is set
+                           public IAnimationProcess::IUpdater  // one animation for all tabs
 {
 public:
     enum HitKind : int
@@ -83,11 +82,11 @@ public:
     /// The tabs become toggles, or no longer are. Only the current one is on then.
     void SetToggled(bool on);
     bool IsToggled() const { return m_Toggled; }
-    void ToggleTab(int tab, bool on);   ///< Nothing unless the tabs are toggles and there is this one.
-    bool IsTabToggled(int tab) const;   ///< False unless the tabs are toggles.
-    void SetStableTab(int tab);         ///< Stays in view when that gets another size. -1: the current one does.
-    int GetStableTab() const;           ///< Of the widths in use.
-    void SetFirstVisibleTab(int tab);   ///< Scrolls, as far as the last view full. Nothing if there is no such tab.
+    void ToggleTab(int tab, bool on);  ///< Nothing unless the tabs are toggles and there is this one.
+    bool IsTabToggled(int tab) const;  ///< False unless the tabs are toggles.
+    void SetStableTab(int tab);        ///< Stays in view when that gets another size. -1: the current one does.
+    int GetStableTab() const;          ///< Of the widths in use.
+    void SetFirstVisibleTab(int tab);  ///< Scrolls, as far as the last view full. Nothing if there is no such tab.
     int GetFirstVisibleTab() const { return GetColumnViewModel()->GetStartItem(); }
 
     // What stands where: the pane's pixels -------------------------------------------------------------------------------
@@ -190,12 +189,12 @@ private:
     vexel_ptr<IAnimationProcess> m_Animation;  // made when first used
     bool m_Toggled = false;
     bool m_AutoSize = false;
-    double m_Scale = 1.0;               // of the font times that of the display
-    vexel_ptr<IAnimation> m_Animated;   // what the process steps; null: it stands
-    int m_LastVisible = -1;             // the last tab wholly in view
-    bool m_DrawnOverPicture = false;    // when it was last drawn
-    bool m_LayingOut = false;           // a change of the view model is told afterwards
-    bool m_ViewModelChanged = false;    // meanwhile
+    double m_Scale = 1.0;              // of the font times that of the display
+    vexel_ptr<IAnimation> m_Animated;  // what the process steps; null: it stands
+    int m_LastVisible = -1;            // the last tab wholly in view
+    bool m_DrawnOverPicture = false;   // when it was last drawn
+    bool m_LayingOut = false;          // a change of the view model is told afterwards
+    bool m_ViewModelChanged = false;   // meanwhile
 };
 
 }  // namespace vexel

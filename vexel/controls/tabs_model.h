@@ -33,7 +33,8 @@ public:
     virtual int GetTabSpacerWidth(int tab) const = 0;
     virtual int GetTabSpacerImageIndex(int tab) const = 0;  ///< Stands in the gap behind the tab; below 0: none.
     virtual bool IsTabEnabled(int tab) const = 0;
-    virtual bool IsTabAnimated(int tab) const = 0;  ///< It shows the animation in place of an image, while it is enabled.
+    /// It shows the animation in place of an image, while it is enabled.
+    virtual bool IsTabAnimated(int tab) const = 0;
     virtual vexel_ptr<IAnimation> GetAnimation() const = 0;  ///< One for all tabs; null: none.
 
     signal_t<> m_SigChanged;        ///< Anything may be another, the number of tabs too. After the change.
