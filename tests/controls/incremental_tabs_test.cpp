@@ -61,7 +61,8 @@ public:
     }
     void DrawTab(IPainter* painter, int tab, rectangle<double> const& content, unsigned int state) override
     {
-        painter->SetPen({color_table[1 + (static_cast<unsigned int>(tab) + state) % 20], pen::psSolid, 3});  // sticks out
+        painter->SetPen(
+            {color_table[1 + (static_cast<unsigned int>(tab) + state) % 20], pen::psSolid, 3});  // sticks out
         painter->MoveTo(content.left, content.top);
         painter->LineTo(content.right, content.bottom);
     }

@@ -42,7 +42,10 @@ public:
     {
         m_Pane->DrawBackground(p, i, r, s);
     }
-    void DrawTab(IPainter* p, int i, rectangle<double> const& r, unsigned int s) override { m_Pane->DrawTab(p, i, r, s); }
+    void DrawTab(IPainter* p, int i, rectangle<double> const& r, unsigned int s) override
+    {
+        m_Pane->DrawTab(p, i, r, s);
+    }
     void DrawTabContent(IPainter* p, int i, rectangle<double> const& r, unsigned int s) override
     {
         m_Pane->DrawTabContent(p, i, r, s);

@@ -132,7 +132,7 @@ TEST_F(TabPaneLayout, ScaledDisplaysScaleFontAndSpaces)
     EXPECT_EQ(pane.GetColumnViewModel()->GetItemSize(0), 50);  // 15 + 26 + 6 + 3: a bold letter is 13 wide
     EXPECT_EQ(pane.GetColumnViewModel()->GetItemSize(1), 65);  // 15 + 26 + 6 + 18
     rectangle<double> const close = pane.GetCloseBtnRect({0, 0, 100, 40});
-    EXPECT_EQ(close, (rectangle<double>{76, 11, 94, 29}));  // 12 points times 1.5, 6 from the right
+    EXPECT_EQ(close, (rectangle<double>{76, 11, 94, 29}));              // 12 points times 1.5, 6 from the right
     EXPECT_EQ(Describe(pane.HitTest(55, 10)), "1 1 (50, 3, 108, 21)");  // 3 above, 6 on the right and below
     pane.SetEqualWidths(true);
     EXPECT_EQ(dynamic_cast<CEqualItemsViewModel*>(pane.GetColumnViewModel())->GetMinItemSize(), 75);

@@ -32,17 +32,19 @@ protected:
         m_Pane.SetSize({130, 25}, false);
         Settle();
     }
-    /// The calls of the one tab that a full paint draws at this pixel on, without those of clips.
+    /// The calls of the tab between these pixels in a full paint.
     std::string PaintTab(int from, int to)
     {
         std::string text;
         bool inside = false;
         for (std::string const& call : FullPaint().Calls())
         {
-            if (call.starts_with("SimpleSetClipRect "))
-                inside = call.starts_with("SimpleSetClipRect " + std::to_string(from) + " ") &&
-                         call.find(" " + std::to_string(to) + " ") != std::string::npos;
-            else if (inside && call != "ResetClip")
+            if (call.starts_with("SetClipRect "))
+                inside =
+                    MatchesPattern(call, "SetClipRect " + std::to_string(from) + " 0 " + std::to_string(to - 1) + " *");
+            else if (call == "ResetClip")
+                inside = false;
+            else if (inside)
                 text += call + "\n";
         }
         return text;
@@ -583,6 +585,16 @@ TEST_F(TabPanePaint, WhatATabDrawsIsCutToItsPlace)
     m_Host.Paint();
     EXPECT_EQ(m_Host.PixelText({43, 0, 86, 19}), next);
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(TabPanePaint, ATabOfWhichOneLineShowsIsCutToIt)
+{
+    CPlainLook look;
+    m_Pane.SetItemVisualisation(&look);
+    m_Host.Resize(62, 60);  // the view is 61 wide, as the first two tabs: pixel 61 is the third one's
+    PaintLog const paint = FullPaint();
+    EXPECT_THAT(paint, Draws("SetClipRect 30 0 60 11").Then("SetClipRect 61 0 92 11"));
+    m_Pane.SetItemVisualisation(nullptr);
 }
 
 TEST_F(TabPanePaint, WithoutAModelNothingButTheGroundIsDrawn)

@@ -2,7 +2,6 @@
 
 #include "vexel/controls/detail/focus_frame.h"
 #include "vexel/controls/tab_pane.h"
-#include "vexel/core/clip_holder.h"
 #include "vexel/platform/convert.h"
 #include "vexel/platform/native_controls.h"
 #include "vexel/platform/painter.h"
@@ -41,6 +40,29 @@ rectangle<int> ToInt(rectangle<double> const& rect)
     return {vexelbase::ToInt(rect.left), vexelbase::ToInt(rect.top), vexelbase::ToInt(rect.right),
             vexelbase::ToInt(rect.bottom)};
 }
+
+/// Cuts to a tab's place for a scope, also where only a line of pixels is left of it.
+class CCellClip
+{
+public:
+    CCellClip(IPainter* painter, rectangle<double> const& cell) : m_Painter(painter), m_Saved(painter->GetClipRect())
+    {
+        m_Painter->SetClipRect(cell.left, cell.top, cell.right, cell.bottom, false);
+    }
+    ~CCellClip()
+    {
+        m_Painter->ResetClip();
+        m_Painter->m_ClipCache = {};
+        if (!m_Saved.IsZero())
+            m_Painter->SimpleSetClipRect(m_Saved, false);
+    }
+    CCellClip(CCellClip const&) = delete;
+    CCellClip& operator=(CCellClip const&) = delete;
+
+private:
+    IPainter* const m_Painter;
+    rectangle<double> const m_Saved;
+};
 
 void FillRect(IPainter* painter, rectangle<double> const& rect, _color const& color)
 {
@@ -99,7 +121,7 @@ void CTabPane::DrawCell(IPainter* painter, int, int rowSkip, int column, int col
     cell.Normalize();
     cell.left -= columnSkip;
     cell.top -= rowSkip;
-    CClipHolder const clip(painter, cell);
+    CCellClip const clip(painter, cell);
     unsigned int const state = GetVisualisationState(column);
     if (IsRowFitting(cell))
         m_Visualisation->DrawBackground(painter, column, cell, state);
