@@ -76,8 +76,9 @@ protected:
     void StoreSelectionType(CEventHandlerBase::SelectionType type) { m_SelectionType = type; }
     static void RestartSelection(CEventHandlerBase& handler, bool selects, CEventHandlerBase::SelectionType type);
 
+    void ApplyAutoRowHeight();  ///< The height of rows follows font and margin, where it does by itself.
+
 private:
-    void ApplyAutoRowHeight();
     void CurrentChange(int old, int& now) { CurrentRowChanged(old, now); }
     void SelectionChange() { m_SigSelectionChanged(); }
     void RowViewModelDies(IBaseItemsModel* model);
