@@ -80,7 +80,10 @@ public:
         list->GetViewer().SetModel(&m_Categories);
         list->GetViewer().m_SigItemActivated.connect(this, &CSettingsWindow::ShowCategory);
         m_Pane = new CGround(root, {0, 0}, alClient);
+        new CGround(m_Pane, {16, 0}, alLeft);
+        new CGround(m_Pane, {0, 8}, alTop);
         auto* const tabs = new CTabPane(m_Pane, {0, 28}, alTop);
+        tabs->SetBkColor(ISysPalette::scFace);
         tabs->SetAutoSize(true);
         tabs->SetModel(&m_Tabs);
         tabs->m_SigCurrentTabChanged.connect(this, &CSettingsWindow::ShowTab);
@@ -88,6 +91,7 @@ public:
 
         Load();
         list->GetViewer().SetCurrentItemEx(0);
+        list->GetViewer().SetFocus(false);
     }
 
 private:

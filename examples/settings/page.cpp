@@ -143,11 +143,12 @@ CPage::CPage(CVisualElement* parent, ISysWindow& window, CValues& values, std::s
              std::string const& tab)
     : CGround(parent, {0, 0}, alClient)
 {
-    new CGround(this, {16, 0}, alLeft);
     for (SSetting const& setting : GetSettings())
         if (setting.category == category && setting.tab == tab)
             m_Rows.push_back(std::make_unique<CRow>(*this, window, values, setting));
     new CGround(this, {0, 0}, alClient);
 }
+
+CPage::~CPage() = default;
 
 }  // namespace settings

@@ -42,6 +42,7 @@ public:
     /// `values` must outlive the page.
     CPage(CVisualElement* parent, ISysWindow& window, CValues& values, std::string const& category,
           std::string const& tab);
+    ~CPage() override;
 
     signal_t<std::string const&> m_SigTold;  ///< A setting was changed, or why it was not.
 

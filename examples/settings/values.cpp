@@ -94,8 +94,7 @@ std::vector<std::string> CValues::Load(std::istream& file)
     for (std::string line; std::getline(file, line);)
     {
         std::size_t const sign = line.find('=');
-        SSetting const* const setting =
-            sign != std::string::npos ? FindSetting(Trim(line.substr(0, sign))) : nullptr;
+        SSetting const* const setting = sign != std::string::npos ? FindSetting(Trim(line.substr(0, sign))) : nullptr;
         if (!setting)
         {
             m_Others.push_back(line);

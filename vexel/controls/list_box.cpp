@@ -14,37 +14,12 @@ size<int> const g_ListExtent{200, 100};
 double const g_TextIndent = 3.0;
 int const g_KeySpace = 32;
 int const g_KeyReturn = 13;
-int const g_ButtonHeld = 1;    // bit of the keys: the left button
-int const g_OtherHeld = 0xFE;  // the other bits of the low byte
 
 }  // namespace
 
 IListBoxItemDrawing::~IListBoxItemDrawing() = default;
 
 // Default handler -----------------------------------------------------------------------------------------------------------
-
-bool CDefListBoxHandler::ProcessMouseMove(int x, int y, int keys, MouseButton button, bool* handled)
-{
-    if ((keys & g_ButtonHeld) != 0)
-    {
-        *handled = true;
-        return true;
-    }
-    return (keys & g_OtherHeld) == 0 && HighlightingMouseMove(x, y, keys, button, handled);
-}
-
-bool CDefListBoxHandler::ProcessButtonDown(int x, int y, int keys, MouseButton button, bool* handled)
-{
-    if ((keys & g_ButtonHeld) != 0)
-        return SetCurProcessButtonDown(x, y, keys, button, handled);
-    *handled = true;
-    return false;
-}
-
-void CDefListBoxHandler::ProcessMouseLeave(bool* handled)
-{
-    HighlightingMouseLeave(handled);
-}
 
 bool CDefListBoxHandler::ProcessKeyDown(int, int key, bool* handled)
 {

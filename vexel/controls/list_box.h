@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vexel/controls/border.h"
+#include "vexel/controls/highlighting_handler.h"
 #include "vexel/headers/items_model.h"
 #include "vexel/scroll/scroll_box.h"
 #include "vexel/views/row_viewer.h"
@@ -18,20 +19,11 @@ public:
     virtual void DrawItem(IPainter* painter, int item, int state, rectangle<double> const& rect, bool* drawDefault) = 0;
 };
 
-/// Takes presses, keys and moves of the pointer before the viewer's own handlers do.
-class VEXEL_API CDefListBoxHandler : public CEventHandler
+/// The handler of a list box: keys that it doesn't take go on.
+class VEXEL_API CDefListBoxHandler : public CHighlightingHandler
 {
 public:  // From CEventHandler
-    bool ProcessMouseMove(int x, int y, int keys, MouseButton button, bool* handled) override;
-    bool ProcessButtonDown(int x, int y, int keys, MouseButton button, bool* handled) override;
-    void ProcessMouseLeave(bool* handled) override;
     bool ProcessKeyDown(int keys, int key, bool* handled) override;
-
-public:  // Overridable
-    virtual bool SetCurProcessButtonDown(int x, int y, int keys, MouseButton button, bool* handled) = 0;
-    virtual bool HighlightingMouseMove(int x, int y, int keys, MouseButton button, bool* handled) = 0;
-    virtual void HighlightingMouseLeave(bool* handled) = 0;
-    virtual bool SetCurProcessKeyDown(int key) = 0;
 };
 
 /// The rows of a list box. The one under the pointer is highlighted, and a press chooses that; with no pointer over them
