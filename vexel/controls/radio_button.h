@@ -26,7 +26,7 @@ public:
     CRadioGroup() = default;
     CRadioGroup(CRadioGroup const&) = delete;
     CRadioGroup& operator=(CRadioGroup const&) = delete;
-    ~CRadioGroup();
+    ~CRadioGroup() override;
 
     signal_t<CRadioGroup*, int> m_CurrentChanged;  ///< Once for each change; -1: none is current any more.
 

@@ -82,6 +82,7 @@ vexelbase::XPMBuf MakeShadedPicture(int state)
         lines.emplace_back(g_Width, SymbolOf(y * shade.colors / g_Height));
 
     std::vector<char const*> pointers;
+    pointers.reserve(lines.size());
     for (std::string const& each : lines)
         pointers.push_back(each.c_str());
     return {pointers.data(), false};
