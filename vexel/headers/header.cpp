@@ -127,10 +127,12 @@ void CHeader::Sync()
     std::sort(kept.begin(), kept.end());
     std::vector<IHeaderItem const*> there;
     for (IHeaderItem const* item : index.GetItems())
-        if (std::binary_search(kept.begin(), kept.end(), item))
+        if (item && std::binary_search(kept.begin(), kept.end(), item))
             there.push_back(item);
     std::sort(there.begin(), there.end());
-    auto const isThere = [&](IHeaderItem const* item) { return std::binary_search(there.begin(), there.end(), item); };
+    auto const isThere = [&](CHeaderItemRef const& item) {
+        return std::binary_search(there.begin(), there.end(), static_cast<IHeaderItem const*>(item)) && item.Is(item);
+    };
 
     if (!isThere(m_Drag.m_Item))
         m_Drag.m_Item = nullptr;
@@ -220,9 +222,10 @@ void CHeader::SaveItemWidth(int index, int size)
     if (node < 0)
         return;
     unsigned long const version = m_Index->GetVersion();
+    CAliveGuard const alive(this);
     m_Index->GetItem(node)->SetWidth(size);
     // Unless the item has told of a change, whereupon all was read anew.
-    if (!m_IsStale && GetIndex().GetVersion() == version)
+    if (alive && !m_IsStale && GetIndex().GetVersion() == version)
         m_Index->UpdateWidth(node);
 }
 

@@ -53,17 +53,17 @@ public:
         };
 
         int m_State = stIdle;
-        IHeaderItem* m_Item = nullptr;  ///< Hot, resized, pressed or dragged.
-        int m_ItemIndex = -1;           ///< Its column; -1: it is none.
-        int m_Anchor = 0;               ///< Resizing: the column's left; pressed: where.
-        int m_HotState = 0;             ///< Of IHeaderItemVisualisation.
+        CHeaderItemRef m_Item;  ///< Hot, resized, pressed or dragged.
+        int m_ItemIndex = -1;   ///< Its column; -1: it is none.
+        int m_Anchor = 0;       ///< Resizing: the column's left; pressed: where.
+        int m_HotState = 0;     ///< Of IHeaderItemVisualisation.
 
         void Clear() { *this = {}; }
     };
     /// An element carried in a section.
     struct ElementAnchor
     {
-        IHeaderItem* m_Item = nullptr;  ///< Null: not in the tree at present.
+        CHeaderItemRef m_Item;  ///< Null: not in the tree at present.
         CElementPtr<> m_Element;
         Alignment m_Alignment = alLeft;  ///< alLeft, alRight, or alClient for the middle.
         int m_Pos = -1;                  ///< From the section's left; -1: by the alignment.
@@ -82,8 +82,8 @@ public:
     public:
         std::vector<IHeaderItem*> const& GetItems() const { return m_Items; }
         int GetFullWidth() const { return m_FullWidth; }
-        int GetItemIndex(IHeaderItem* item) const;    ///< -1: none.
-        int GetItemIndex(int modelIndex) const;       ///< The first one that has it; -1: none.
+        int GetItemIndex(IHeaderItem* item) const;  ///< -1: none.
+        int GetItemIndex(int modelIndex) const;     ///< The first one that has it; -1: none.
         bool Visit(IHeaderItem* item, int level) override;
 
     private:
@@ -104,8 +104,8 @@ public:
     signal_t<CHeader*, IHeaderItem*, int, int> m_SigDragOver;  ///< Its column or -1, the place among its siblings.
     /// Its column or -1. Where to, the last m_SigDragOver has told; the owner moves the item.
     signal_t<CHeader*, IHeaderItem*, int> m_SigDropped;
-    signal_t<CHeader*, IHeaderItem*, bool*> m_SigCanPress;  ///< The pointer comes over a section, or presses it.
-    signal_t<CHeader*, IHeaderItem*> m_SigClicked;          ///< Pressed and released.
+    signal_t<CHeader*, IHeaderItem*, bool*> m_SigCanPress;    ///< The pointer comes over a section, or presses it.
+    signal_t<CHeader*, IHeaderItem*> m_SigClicked;            ///< Pressed and released.
     signal_t<CHeader*, IHeaderItem*> m_SigGripDoubleClicked;  ///< The column's item.
     signal_t<CHeader*, IHeaderItem*, bool> m_SigExpanded;     ///< After the change, by code or by button.
 
@@ -158,13 +158,13 @@ public:
     void UpdateAfterChange();
 
     // Columns ------------------------------------------------------------------------------------------------------------
-    IHeaderItem* GetHeaderItem(int index) const;     ///< Null: there is no such column.
-    int VisibleIndex2ModelIndex(int index) const;    ///< -1: there is no such column.
-    int GetVisibleIndex(IHeaderItem* item) const;    ///< -1: it is no column.
-    int GetVisibleIndex(int modelIndex) const;       ///< The first column that has it, or -1. Searches.
-    void SetSingleWidth(int width);      ///< With one column: its width; 0, as at first, or below: the item's.
+    IHeaderItem* GetHeaderItem(int index) const;   ///< Null: there is no such column.
+    int VisibleIndex2ModelIndex(int index) const;  ///< -1: there is no such column.
+    int GetVisibleIndex(IHeaderItem* item) const;  ///< -1: it is no column.
+    int GetVisibleIndex(int modelIndex) const;     ///< The first column that has it, or -1. Searches.
+    void SetSingleWidth(int width);  ///< With one column: its width; 0, as at first, or below: the item's.
     int GetSingleWidth() const { return m_SingleWidth; }
-    void SetSingleColumnFit(bool fit);   ///< A single column's section is kept inside the element. Off at first.
+    void SetSingleColumnFit(bool fit);  ///< A single column's section is kept inside the element. Off at first.
     bool IsSingleColumnFit() const { return m_SingleColumnFit; }
 
     // Style --------------------------------------------------------------------------------------------------------------
@@ -172,7 +172,10 @@ public:
     unsigned GetStyle() const { return m_Style; }
     void SetMinWidth(int width) { m_MinWidth = width; }  ///< What a resize stops at; 30 pixels at first.
     int GetMinWidth() const { return m_MinWidth; }
-    void SetDragBounds(rectangle<int> const& rect) { m_DragBounds = rect; }  ///< Of top-level sections; empty: the bounds.
+    void SetDragBounds(rectangle<int> const& rect)
+    {
+        m_DragBounds = rect;
+    }  ///< Of top-level sections; empty: the bounds.
     /// Takes another look for the sections; null: the header's own. Not owned: it must outlive the header or be replaced.
     void SetItemVisualisation(IHeaderItemVisualisation* visualisation);
     IHeaderItemVisualisation* GetItemVisualisation() const { return m_Visualisation; }
@@ -185,7 +188,8 @@ public:
     rectangle<double> GetItemRect(IHeaderItem const* item) const;  ///< All zero for one that doesn't show.
     void CutRectByBounds(rectangle<double>& rect) const;  ///< Along x, if there is a single column that is to fit.
     /// The width of a section that has so much room for its content.
-    int ContentWidth2SectionWidth(IHeaderItem const* item, int width, IHeaderItemVisualisation const* visualisation) const;
+    int ContentWidth2SectionWidth(IHeaderItem const* item, int width,
+                                  IHeaderItemVisualisation const* visualisation) const;
     int GetItemOptimalWidth(IHeaderItem const* item) const;  ///< So that nothing of its content is cut off.
     Processing const& GetProcessing() const { return m_Processing; }
 
@@ -195,7 +199,7 @@ public:
     /// At the left; or where it stands in the section now, in that size of the section (`keepPlace`).
     void SetVisualElement(IHeaderItem* item, CVisualElement* element, bool keepPlace);
     void SetVisualElement(IHeaderItem* item, CVisualElement* element, Alignment alignment);
-    void RemoveVisualElement(int modelIndex);  ///< It leaves the header; the caller has it then.
+    void RemoveVisualElement(int modelIndex);                ///< It leaves the header; the caller has it then.
     CVisualElement* GetVisualElement(int modelIndex) const;  ///< Null: none.
     void RecreateElements();   ///< Finds the items of all carried elements in the tree, by their model indices.
     void UpdateElementsPos();  ///< Puts all of them into their places.
@@ -227,7 +231,7 @@ public:  // From IHeaderItemVisualisation
 private:
     struct DragRecord
     {
-        IHeaderItem* m_Item = nullptr;
+        CHeaderItemRef m_Item;
         int m_Anchor = 0;  // the pointer, from the section's left
         int m_Target = -1;
     };
@@ -282,9 +286,9 @@ private:
     int m_SingleWidth = 0;
     bool m_SingleColumnFit = false;
     std::unique_ptr<detail::CHeaderIndex> const m_Index;
-    mutable bool m_IsStale = false;                // the index
+    mutable bool m_IsStale = false;                 // the index
     mutable unsigned long m_KnownDestroyCount = 0;  // of items, when it was built
-    unsigned long m_SyncedVersion = 0;             // of the index, that the fields above know
+    unsigned long m_SyncedVersion = 0;              // of the index, that the fields above know
 };
 
 }  // namespace vexel

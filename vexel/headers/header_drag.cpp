@@ -44,8 +44,7 @@ bool CHeader::HandleStartDragging(int x, int y, DragInfo& info)
 {
     Sync();
     HitTestResult const hit = HitTest(x, y);
-    if (hit.m_Area != HitTestResult::haSection || m_Processing.m_State == Processing::stResizing ||
-        !(m_Style & hsDrag))
+    if (hit.m_Area != HitTestResult::haSection || m_Processing.m_State == Processing::stResizing || !(m_Style & hsDrag))
         return false;
     m_Processing.m_Item = hit.m_Item;
     m_Processing.m_ItemIndex = GetVisibleIndex(hit.m_Item);
@@ -54,6 +53,11 @@ bool CHeader::HandleStartDragging(int x, int y, DragInfo& info)
     rectangle<int> rect = hit.m_Rect;
     rect.bottom = GetBounds().bottom;  // with all that stands below it
     rectangle<int> limits = GetDraggingBounds(hit.m_Item, rect);
+    if (std::int64_t{rect.right} - rect.left > std::int64_t{limits.right} - limits.left)
+    {
+        rect.left = limits.left;  // longer than its bounds: it could not be kept inside
+        rect.right = limits.right;
+    }
     ElementToControl(&rect);
     ElementToControl(&limits);
     info.m_Rect = rect;
@@ -158,6 +162,7 @@ void CHeader::HandleDragFinished(CVisualElement*, DragInfo& info)
 
 void CHeader::HandleDrawDragItem(IPainter* painter, DragInfo& info, bool, CVisualElement*)
 {
+    Sync();
     rectangle<int> rect = info.m_Rect;
     ControlToElement(&rect);
     ISystem* const system = GetCurrentSystem();
@@ -179,16 +184,16 @@ void CHeader::HandleDrawDragItem(IPainter* painter, DragInfo& info, bool, CVisua
         canvas->FillRect(0, 0, width - 1, height - 1);
         canvas->SetFont(GetFont());
         canvas->SetTextColor(GetSectionTextColor());
-        rectangle<double> const strip{static_cast<double>(rect.left) - left, 0.0, static_cast<double>(rect.right) - left,
-                                      static_cast<double>(rect.Height())};
+        rectangle<double> const strip{static_cast<double>(rect.left) - left, 0.0,
+                                      static_cast<double>(rect.right) - left, static_cast<double>(rect.Height())};
         detail::CHeaderGeometry geometry(GetIndex(), strip, m_StretchLastItem);
         geometry.SetLevelHeight(GetHeaderRect().Height() / GetIndex().GetLevelCount());
         geometry.ForEachBelow(node, 0, width, [&](int section, rectangle<double> const& place) {
             DrawSection(canvas, m_Index->GetItem(section), place);
         });
         canvas->EndPaint();
-        painter->AlphaBlend(left, rect.top, left + (width - 1.0), rect.top + (height - 1.0),
-                            picture.get(), s_DragAlpha);
+        painter->AlphaBlend(left, rect.top, left + (width - 1.0), rect.top + (height - 1.0), picture.get(),
+                            s_DragAlpha);
     }
     if (m_Drag.m_Target < 0)
         return;

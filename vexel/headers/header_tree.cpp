@@ -18,6 +18,7 @@ constexpr int s_GripWidth = 8;  // pixels at any scale, from a section's right e
 // The tree ------------------------------------------------------------------------------------------------------------------
 
 unsigned long IHeaderItem::s_DestroyCount = 0;
+unsigned long IHeaderItem::s_LastSerialNumber = 0;
 
 IHeaderContainer::~IHeaderContainer() = default;
 
@@ -26,6 +27,8 @@ IHeaderModel::~IHeaderModel()
     CAliveLink::Forget(this);
     m_SigDestroy(this);
 }
+
+IHeaderItem::IHeaderItem() : m_SerialNumber(++s_LastSerialNumber) {}
 
 IHeaderItem::~IHeaderItem()
 {

@@ -55,7 +55,7 @@ public:
         esCollapsed = 2
     };
 
-    IHeaderItem() = default;
+    IHeaderItem();
     ~IHeaderItem() override;
 
     IHeaderContainer* GetParent() override = 0;  ///< Never null while it stands in a tree.
@@ -64,12 +64,12 @@ public:
     IHeaderItem* GetChild(int index) override = 0;
     IHeaderItem const* GetChild(int index) const override = 0;
     virtual std::string GetText() const = 0;
-    virtual int GetWidth() const = 0;             ///< Pixels; of a visual leaf. Below 0 counts as 0.
-    virtual void SetWidth(int width) = 0;         ///< Stores it.
-    virtual int GetImageIndex() const = 0;        ///< In the control's image list; -1: none.
-    virtual int GetTextAlign() const = 0;         ///< Flags of IPainter::DrawString.
-    virtual int GetModelIndex() const = 0;        ///< The number of the column in the application's data.
-    virtual int GetSortingDirection() const = 0;  ///< 0 none, 1 upwards, others downwards.
+    virtual int GetWidth() const = 0;                ///< Pixels; of a visual leaf. Below 0 counts as 0.
+    virtual void SetWidth(int width) = 0;            ///< Stores it.
+    virtual int GetImageIndex() const = 0;           ///< In the control's image list; -1: none.
+    virtual int GetTextAlign() const = 0;            ///< Flags of IPainter::DrawString.
+    virtual int GetModelIndex() const = 0;           ///< The number of the column in the application's data.
+    virtual int GetSortingDirection() const = 0;     ///< 0 none, 1 upwards, others downwards.
     virtual std::string GetDescription() const = 0;  ///< The tooltip; empty: the caption where it doesn't fit.
     /// Expands or collapses it. If other sections change with it, m_SigChanged of the model is to be fired.
     virtual void Expand(bool expand) = 0;
@@ -77,9 +77,31 @@ public:
 
     /// How many items have died so far: whoever keeps plain pointers sees by it whether all of these still live.
     static unsigned long GetDestroyCount() { return s_DestroyCount; }
+    /// No other item has had it, also none that stood at the same address.
+    unsigned long GetSerialNumber() const { return m_SerialNumber; }
 
 private:
     static unsigned long s_DestroyCount;
+    static unsigned long s_LastSerialNumber;
+
+    unsigned long const m_SerialNumber;
+};
+
+/// A plain pointer to an item, which it doesn't own, that tells another item at the same address from this one.
+class CHeaderItemRef
+{
+public:
+    CHeaderItemRef() = default;
+    CHeaderItemRef(IHeaderItem* item) : m_Item(item), m_SerialNumber(item ? item->GetSerialNumber() : 0) {}
+
+    operator IHeaderItem*() const { return m_Item; }
+    IHeaderItem* operator->() const { return m_Item; }
+    /// Whether an item that lives is the one.
+    bool Is(IHeaderItem const* item) const { return item == m_Item && item->GetSerialNumber() == m_SerialNumber; }
+
+private:
+    IHeaderItem* m_Item = nullptr;
+    unsigned long m_SerialNumber = 0;
 };
 
 /// Shown as one column: collapsed, or without children.
@@ -215,7 +237,8 @@ public:
     virtual rectangle<double> GetExpandBtnRect(rectangle<double> const& section, IHeaderItem const* item) const = 0;
     virtual rectangle<double> GetSectionContentRect(rectangle<double> const& section,
                                                     IHeaderItem const* item) const = 0;
-    virtual void DrawSectionBackground(IPainter* painter, rectangle<double> const& section, IHeaderItem const* item) = 0;
+    virtual void DrawSectionBackground(IPainter* painter, rectangle<double> const& section,
+                                       IHeaderItem const* item) = 0;
     virtual void DrawSectionContent(IPainter* painter, rectangle<double> const& content, IHeaderItem const* item) = 0;
     virtual void DrawExpandButton(IPainter* painter, rectangle<double> const& button, IHeaderItem const* item) = 0;
     virtual void DrawSortingMarker(IPainter* painter, bool up, point<double> const& position) = 0;
@@ -257,7 +280,8 @@ private:
 class VEXEL_API CHitTester : public CPositionProcessor
 {
 public:
-    static constexpr int s_GripShift = 4;  ///< Pixels at any scale: so far a grip reaches over its section's right edge.
+    static constexpr int s_GripShift =
+        4;  ///< Pixels at any scale: so far a grip reaches over its section's right edge.
 
     /// `x`: less s_GripShift where that isn't below 0. `result`: filled in when the section is found.
     CHitTester(rectangle<double> const& rect, int levels, bool stretchLast, HeaderHitTestResult* result, double x,
