@@ -253,6 +253,29 @@ TEST_F(HeaderDrag, ADragThatIsBrokenOffScrollsNoMore)
     Drop();
 }
 
+TEST_F(HeaderDrag, AHeaderThatLeavesItsControlForgetsTheDrag)
+{
+    Drag(120, 30, 205, 30);
+    m_Header.ReParent(nullptr, true);
+    EXPECT_EQ(Doing(), "0 - -1 0");
+    EXPECT_FALSE(m_Header.IsScrolling());
+    Drop();
+    delete &m_Header;
+}
+
+TEST_F(HeaderDrag, ASectionLongerThanItsBoundsIsCutToThem)
+{
+    m_Tree.Read("A(a:300 b:300) B:50");
+    m_Tree.m_SigChanged();
+    m_Scroll.m_Start = 20;
+    ASSERT_TRUE(m_Header.HandleStartDragging(50, 10, m_Info));
+    EXPECT_EQ(m_Info.m_Rect, (rectangle<int>{0, 0, 199, 60}));
+    m_Header.HandleDragFinished(nullptr, m_Info);
+    ASSERT_TRUE(m_Header.HandleStartDragging(50, 50, m_Info));  // a fits into A
+    EXPECT_EQ(m_Info.m_Rect, (rectangle<int>{-20, 30, 279, 60}));
+    m_Header.HandleDragFinished(nullptr, m_Info);
+}
+
 // What is drawn -------------------------------------------------------------------------------------------------------------
 
 TEST_F(HeaderDrag, TheSectionIsDrawnWithItsSubtreeHalfTransparent)

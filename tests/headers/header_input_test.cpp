@@ -146,6 +146,25 @@ TEST_F(HeaderInput, ADisabledHeaderIgnoresThePointer)
     EXPECT_EQ(Doing(), "0 - -1 0");
 }
 
+TEST_F(HeaderInput, DisablingEndsAPressAndAResize)
+{
+    Press(10, 30);
+    m_Header.SetEnabled(false);
+    EXPECT_EQ(Doing(), "0 - -1 0");
+    EXPECT_EQ(Captured(), nullptr);
+    m_Header.SetEnabled(true);
+    m_Log.Clear();
+    m_Host.Mouse().Release();
+    EXPECT_EQ(m_Log.Take(), "");
+    Press(36, 30);
+    EXPECT_EQ(m_Header.GetProcessing().m_State, 1);
+    m_Header.SetEnabled(false);
+    m_Header.SetEnabled(true);
+    Move(80, 30);
+    EXPECT_EQ(m_Tree["a"].m_Width, 40);
+    m_Host.Mouse().Release();
+}
+
 TEST_F(HeaderInput, OnlyWhatIsUnderThePointerIsHot)
 {
     m_Host.Mouse().Move(m_Pane, 10, 10);

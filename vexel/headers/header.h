@@ -206,6 +206,8 @@ public:
 
 public:  // From CVisualElement
     void SetPos(rectangle<int> const& rect, bool force) override;
+    void SetEnabled(bool enabled) override;  ///< What a user is doing ends; a drag is the control's to end.
+    void ProcessSetControl(IControl* control) override;
     bool ScrollContent(int dx, int dy) override;
     void DrawContent(IPainter* painter) override;
     bool HandleMouseMove(int x, int y, int keys, MouseButton button) override;

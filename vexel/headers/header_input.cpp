@@ -276,6 +276,25 @@ bool CHeader::HandleOnTooltip(CTooltipEvent* event)
     return true;
 }
 
+void CHeader::SetEnabled(bool enabled)
+{
+    CAliveGuard const alive(this);
+    CScrollableElementEx::SetEnabled(enabled);
+    if (!alive || enabled || m_Processing.m_State == Processing::stDragging)
+        return;
+    m_Processing.Clear();
+    if (GetControl() && GetControl()->GetCapture() == this)
+        ReleaseMouse();
+}
+
+void CHeader::ProcessSetControl(IControl* control)
+{
+    m_Processing.Clear();
+    m_Drag = {};
+    StopScrolling(ISysWindow::stHorizontal);
+    CScrollableElementEx::ProcessSetControl(control);
+}
+
 void CHeader::HandleControlChangeFocus(bool)
 {
     OnChange(this, utElement);  // texts are dimmed without the focus
