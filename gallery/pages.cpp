@@ -100,7 +100,7 @@ SPage const g_Pages[] = {
      "Expand groups, sort by a click, resize, drag a section among its siblings; double-click a grip for the best "
      "width.",
      &Make<CHeaderPage>},
-    {"grid-groups", "A grid under grouped columns",
+    {"grid_groups", "A grid under grouped columns",
      "The columns stand in groups of groups: expand, resize and drag them over two billion rows.",
      &Make<CGridGroupsPage>},
     {"axes", "Axes", "Their steps follow from the width of their labels. Drag the range, zoom by the wheel.",

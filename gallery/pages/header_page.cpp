@@ -139,8 +139,9 @@ CHeader* CHeaderPage::Add(CVisualElement* parent, std::string const& title, std:
 void CHeaderPage::Build(CVisualElement* parent)
 {
     CHeader* const header = Add(parent, "Three levels; a switch stands in the section Town", "header");
-    auto* const toggle = new CToggle(header, {22, 20}, alNone, "");
-    toggle->SetSize({22, 20}, true);
+    auto* const toggle = new CToggle(header, {28, 20}, alNone, "");
+    toggle->SetSize({28, 20}, true);
+    toggle->SetBkColor(_color::FromRgb(249, 249, 249));  // as the section
     toggle->SetOn(true);
     Report(toggle->m_SigToggled, "switch");
     header->SetVisualElement(header->GetHeaderItem(header->GetVisibleIndex(s_Checked)), toggle, alLeft);
