@@ -25,9 +25,9 @@ void DrawSortTriangle(IPainter* painter, bool up, int x, int y, int side, _color
     auto const corner = [](int cx, int cy) { return point<double>{static_cast<double>(cx), static_cast<double>(cy)}; };
     int const h = side / 2;
     if (up)
-        FillTriangle(
-            painter,
-            {corner(x + (side + 1) / 2, y + h), corner(x + side, y + side - 1), corner(x + 1, y + side - 1)}, color);
+        FillTriangle(painter,
+                     {corner(x + (side + 1) / 2, y + h), corner(x + side, y + side - 1), corner(x + 1, y + side - 1)},
+                     color);
     else
         FillTriangle(painter, {corner(x, y + h), corner(x + side - 1, y + h), corner(x + h, y + 2 * h)}, color);
 }

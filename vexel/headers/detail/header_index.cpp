@@ -140,8 +140,9 @@ int CHeaderIndex::Find(IHeaderItem const* item) const
     {
         auto const begin = m_Items.begin() + GetFirstChild(node);
         auto const end = begin + GetChildCount(node);
-        auto const found = std::find_if(
-            begin, end, [&](IHeaderItem const* child) { return static_cast<IHeaderContainer const*>(child) == *wanted; });
+        auto const found = std::find_if(begin, end, [&](IHeaderItem const* child) {
+            return static_cast<IHeaderContainer const*>(child) == *wanted;
+        });
         if (found == end)
             return -1;
         node = static_cast<int>(found - m_Items.begin());

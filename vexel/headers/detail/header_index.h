@@ -30,7 +30,7 @@ public:
     void Build(IHeaderModel* model);
     unsigned long GetVersion() const { return m_Version; }  ///< Another one after each Build.
 
-    int GetLevelCount() const { return m_Levels; }             ///< Hidden ones too; at least 1.
+    int GetLevelCount() const { return m_Levels; }              ///< Hidden ones too; at least 1.
     SSize const& GetTotal() const { return m_Nodes[0].below; }  ///< All columns.
     int GetNodeCount() const { return static_cast<int>(m_Nodes.size()); }
 
@@ -51,8 +51,8 @@ public:
     int GetLastLeaf(int node) const;  ///< The visual leaf that following last children leads to; itself if it is one.
 
     // Search: -1 for nothing ---------------------------------------------------------------------------------------------
-    int Find(IHeaderItem const* item) const;  ///< Also hidden ones. The item must live.
-    int FindLeaf(int column) const;           ///< By its place among the columns.
+    int Find(IHeaderItem const* item) const;      ///< Also hidden ones. The item must live.
+    int FindLeaf(int column) const;               ///< By its place among the columns.
     int FindLeafAt(std::int64_t position) const;  ///< The one that has this pixel, counted from the strip's beginning.
     /// The first child that doesn't end before this pixel, counted from the parent's beginning; the last one at most.
     int FindChildAt(int parent, std::int64_t position) const;
