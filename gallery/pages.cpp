@@ -16,7 +16,9 @@
 #include "gallery/pages/flashing_page.h"
 #include "gallery/pages/flow_grid_page.h"
 #include "gallery/pages/focus_page.h"
+#include "gallery/pages/grid_groups_page.h"
 #include "gallery/pages/grid_page.h"
+#include "gallery/pages/header_page.h"
 #include "gallery/pages/html_text_page.h"
 #include "gallery/pages/input_log_page.h"
 #include "gallery/pages/lines_page.h"
@@ -106,6 +108,13 @@ SPage const g_Pages[] = {
     {"grid", "A grid of two billion rows",
      "Scroll, click, shift-click, drag past the edge; resize, drag and click the sections of the header.",
      &Make<CGridPage>},
+    {"header", "Headers of several levels",
+     "Expand groups, sort by a click, resize, drag a section among its siblings; double-click a grip for the best "
+     "width.",
+     &Make<CHeaderPage>},
+    {"grid_groups", "A grid under grouped columns",
+     "The columns stand in groups of groups: expand, resize and drag them over two billion rows.",
+     &Make<CGridGroupsPage>},
     {"axes", "Axes", "Their steps follow from the width of their labels. Drag the range, zoom by the wheel.",
      &Make<CAxesPage>},
     {"chart", "A chart of millions of points",

@@ -27,6 +27,8 @@ template <class T> std::string Describe(T const& value)
         return value && *value ? "true" : "false";
     else if constexpr (std::is_convertible_v<T, vexel::CVisualElement const*>)
         return value ? "#" + std::to_string(static_cast<vexel::CVisualElement const*>(value)->GetId()) : "none";
+    else if constexpr (requires { std::string(value->GetText()); })
+        return value ? '"' + std::string(value->GetText()) + '"' : "none";
     else
         return "...";
 }

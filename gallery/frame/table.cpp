@@ -4,8 +4,6 @@
 #include "vexel/platform/palette.h"
 #include "vexel/platform/system.h"
 
-#include <limits>
-
 namespace gallery
 {
 
@@ -61,31 +59,6 @@ void CCellLook::Draw(IPainter* painter, rectangle<double> const& rect, SCell con
     if (!(cell.state & isCurrent) || !cell.focused)
         return;
     painter->FocusRect(rect.left, rect.top, rect.right - 1, rect.bottom - 1);
-}
-
-CTextGrid::CTextGrid(CVisualElement* parent, size<int> const& extent, Alignment alignment, Text text)
-    : CGridViewer(parent, extent, alignment), m_Text(std::move(text))
-{
-    AttributeChanged();  // with the own margin
-}
-
-void CTextGrid::SetHighlight(std::string const& highlight)
-{
-    if (highlight == m_Highlight)
-        return;
-    m_Highlight = highlight;
-    GetRowViewModel()->AddDirtyItems(0, std::numeric_limits<int>::max());
-    Update(utElement);
-}
-
-void CTextGrid::DrawCell(IPainter* painter, int row, int, int column, int, int state, rectangle<double> const& rect,
-                         IDirtyItemSet::DirtyType dirty)
-{
-    if (dirty == IDirtyItemSet::dirtyOther)
-        return;
-    m_Buffer.clear();
-    m_Text(row, column, m_Buffer);
-    m_Look.Draw(painter, rect, {row, state, IsFocused(), column == 0, false}, m_Buffer, m_Highlight);
 }
 
 void CTextHeaderModel::Sort(int index)

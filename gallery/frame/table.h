@@ -5,6 +5,7 @@
 #include "vexel/views/row_viewer.h"
 
 #include <functional>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -66,20 +67,40 @@ private:
     std::string m_Buffer;
 };
 
-/// A grid whose cells are texts.
-class CTextGrid : public CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>
+/// A grid whose cells are texts. `ColumnModel`: IDiscreteItemViewModel, columns that scroll whole, or
+/// IContinuousItemViewModel, by pixels.
+template <class ColumnModel> class CTextCells : public CGridViewer<IDiscreteItemViewModel, ColumnModel>
 {
 public:
     using Text = std::function<void(int row, int column, std::string& text)>;
 
-    CTextGrid(CVisualElement* parent, size<int> const& extent, Alignment alignment, Text text);
-
-    void SetHighlight(std::string const& highlight);
+    CTextCells(CVisualElement* parent, size<int> const& extent, Alignment alignment, Text text)
+        : CGridViewer<IDiscreteItemViewModel, ColumnModel>(parent, extent, alignment), m_Text(std::move(text))
+    {
+        this->AttributeChanged();  // with the own margin
+    }
+    void SetHighlight(std::string const& highlight)
+    {
+        if (highlight == m_Highlight)
+            return;
+        m_Highlight = highlight;
+        this->GetRowViewModel()->AddDirtyItems(0, std::numeric_limits<int>::max());
+        this->Update(utElement);
+    }
     int GetRowMargin() const override { return 6; }
 
 protected:
-    void DrawCell(IPainter* painter, int row, int rowSkip, int column, int columnSkip, int state,
-                  rectangle<double> const& rect, IDirtyItemSet::DirtyType dirty) override;
+    void DrawCell(IPainter* painter, int row, int, int column, int columnSkip, int state, rectangle<double> const& rect,
+                  IDirtyItemSet::DirtyType dirty) override
+    {
+        if (dirty == IDirtyItemSet::dirtyOther)
+            return;
+        m_Buffer.clear();
+        m_Text(row, column, m_Buffer);
+        rectangle<double> whole = rect;  // also what lies before the view, so that the text stands where it stood
+        whole.left -= columnSkip;
+        m_Look.Draw(painter, whole, {row, state, this->IsFocused(), column == 0, false}, m_Buffer, m_Highlight);
+    }
 
 private:
     Text const m_Text;
@@ -87,6 +108,7 @@ private:
     std::string m_Highlight;
     std::string m_Buffer;
 };
+using CTextGrid = CTextCells<IDiscreteItemViewModel>;
 
 /// Columns with captions, of which one may be sorted.
 class CTextHeaderModel : public CSimpleHeaderModel

@@ -3,6 +3,7 @@
 #include "vexel/controls/label.h"
 #include "vexel/core/clip_holder.h"
 #include "vexel/core/control.h"
+#include "vexel/headers/detail/header_drawing.h"
 #include "vexel/headers/simple_header.h"
 #include "vexel/platform/border.h"
 #include "vexel/platform/convert.h"
@@ -27,47 +28,11 @@ constexpr int s_PointerHalf = 6;
 constexpr int s_PointerHeight = 6;
 _color const g_PointerColor{0xFF0000FF};
 
-_color GetSystemColor(ISysPalette::SysColor number)
-{
-    ISysPalette const* const palette = GetSysPalette();
-    return palette ? palette->GetColor(number) : _color();
-}
-
-// Pen and brush of the painter, put back at the end.
-class CToolsHolder
-{
-public:
-    explicit CToolsHolder(IPainter* painter)
-        : m_Painter(painter), m_Pen(painter->GetPen()), m_Brush(painter->GetBrush())
-    {}
-    ~CToolsHolder()
-    {
-        m_Painter->SetPen(m_Pen);
-        m_Painter->SetBrush(m_Brush);
-    }
-    CToolsHolder(CToolsHolder const&) = delete;
-    CToolsHolder& operator=(CToolsHolder const&) = delete;
-
-private:
-    IPainter* const m_Painter;
-    pen const m_Pen;
-    brush const m_Brush;
-};
-
-void FillTriangle(IPainter* painter, point<double> const (&corners)[3], _color const& color)
-{
-    CToolsHolder const holder(painter);
-    painter->SetPen({color, pen::psSolid, 1});
-    painter->SetBrush({color, brush::bsSolid});
-    painter->Polygon(corners, 3);
-}
-
-rectangle<int> Truncate(rectangle<double> const& rect)
-{
-    return {ToInt(rect.left), ToInt(rect.top), ToInt(rect.right), ToInt(rect.bottom)};
-}
-
 }  // namespace
+
+using detail::FillTriangle;
+using detail::GetSystemColor;
+using detail::Truncate;
 
 bool CSimpleHeader::IsNativeLook() const
 {
@@ -189,17 +154,8 @@ void CSimpleHeader::DrawSortMark(IPainter* painter, rectangle<double> const& sec
     double const end = GetAlong(section.right, section.bottom);
     double const along = std::max(begin, std::min(GetAlong(label.right, label.bottom), end - room)) + gap;
     point<double> const place = MakePoint(along, GetAcross(label.left, label.top));
-    int const x = ToInt(place.x);
-    int const y = ToInt(place.y);
-    int const s = ToInt(room - 2 * gap);
-    auto const corner = [](int cx, int cy) { return point<double>{static_cast<double>(cx), static_cast<double>(cy)}; };
-    int const h = s / 2;
-    _color const color = GetSystemColor(ISysPalette::scDarkShadow);
-    if (direction == 1)
-        FillTriangle(painter, {corner(x + (s + 1) / 2, y + s / 2), corner(x + s, y + s - 1), corner(x + 1, y + s - 1)},
-                     color);
-    else
-        FillTriangle(painter, {corner(x, y + h), corner(x + s - 1, y + h), corner(x + h, y + 2 * h)}, color);
+    detail::DrawSortTriangle(painter, direction == 1, ToInt(place.x), ToInt(place.y), ToInt(room - 2 * gap),
+                             GetSystemColor(ISysPalette::scDarkShadow));
 }
 
 void CSimpleHeader::DrawEmptyArea(IPainter* painter, double left, double top, double right, double bottom)

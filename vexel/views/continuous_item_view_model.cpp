@@ -108,7 +108,10 @@ void CSimpleContinuousItemViewModel::SetItemSize(int index, int size)
         return;
     if (!AnnounceItemSize(*this, index, old, size))
         return;
-    SaveItemWidth(index, size);
+    CModelGuard const alive(this);
+    SaveItemWidth(index, size);  // in a place of the application's, which may do anything
+    if (!alive)
+        return;
     UpdateFullWidth(SubtractSaturated(size, old));
     m_SigChanged();
 }

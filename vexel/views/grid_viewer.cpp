@@ -188,5 +188,7 @@ void CGridViewer<RowModel, ColumnModel>::DrawColumnEmptyArea(IPainter* painter, 
 }
 
 template class CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>;
+template class CGridViewer<IDiscreteItemViewModel, IContinuousItemViewModel>;
+template class CGridViewer<IContinuousItemViewModel, IContinuousItemViewModel>;
 
 }  // namespace vexel

@@ -7,10 +7,17 @@ namespace vexel
 
 /// Rows and columns of cells. Both scroll on their own; a paint walks the columns in view once for each row in view. The
 /// column handler is not in the chain: mouse and keys are the row handler's.
+/// Each model is an IDiscreteItemViewModel, for items that scroll whole, or an IContinuousItemViewModel, by pixels; columns
+/// under a CHeader are of the latter kind.
 template <class RowModel, class ColumnModel>
 class VEXEL_API CGridViewer : public CRowViewerBase<RowModel>, public IColumnPainter, public ICellPainter
 {
 public:
+    static constexpr bool s_DiscreteColumns = std::is_same_v<ColumnModel, IDiscreteItemViewModel>;
+    using ColumnHandler = std::conditional_t<s_DiscreteColumns, CDiscreteItemEventHandler, CContinuousItemEventHandler>;
+    using ColumnScrollModel =
+        std::conditional_t<s_DiscreteColumns, CDiscreteItemScrollModel, CContinuousItemScrollModel>;
+
     enum SelectionAxis : int
     {
         saRows = 0,
@@ -27,8 +34,8 @@ public:
     void SetColumnViewModel(ColumnModel* model);
     ISelectionModel* GetColumnSelectionModel() const { return m_ColumnSelectionModel; }
     void SetColumnSelectionModel(ISelectionModel* model);
-    CDiscreteItemEventHandler& GetColumnHandler() { return m_ColumnHandler; }
-    CDiscreteItemEventHandler const& GetColumnHandler() const { return m_ColumnHandler; }
+    ColumnHandler& GetColumnHandler() { return m_ColumnHandler; }
+    ColumnHandler const& GetColumnHandler() const { return m_ColumnHandler; }
 
     /// What is selected is forgotten, but for the current item of the axis that selects.
     void SetSelectionType(CEventHandlerBase::SelectionType type);
@@ -71,8 +78,8 @@ private:
 
     ColumnModel* m_ColumnViewModel = nullptr;
     ISelectionModel* m_ColumnSelectionModel = nullptr;
-    CDiscreteItemEventHandler m_ColumnHandler;
-    CDiscreteItemScrollModel m_ColumnScrollModel;
+    ColumnHandler m_ColumnHandler;
+    ColumnScrollModel m_ColumnScrollModel;
     // Of the row that is being painted
     int m_PaintRow = 0;
     int m_PaintRowSkip = 0;
@@ -82,5 +89,7 @@ private:
 };
 
 extern template class CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>;
+extern template class CGridViewer<IDiscreteItemViewModel, IContinuousItemViewModel>;
+extern template class CGridViewer<IContinuousItemViewModel, IContinuousItemViewModel>;
 
 }  // namespace vexel

@@ -4,6 +4,7 @@
 #include "vexel/views/continuous_item_view_model.h"
 #include "vexel/views/discrete_item_view_model.h"
 
+#include <algorithm>
 #include <typeinfo>
 
 namespace vexel::detail
@@ -17,7 +18,10 @@ CItemRuns::CItemRuns(IBaseItemViewModel const& model) : m_Model(model)
     else if (type == typeid(CDefaultColumnViewModel))
         m_Sizes = &static_cast<CDefaultColumnViewModel const&>(model).GetItemSizes();
     else if (type != typeid(CSimpleDiscreteItemViewModel) && type != typeid(CEqualItemsViewModel))
+    {
+        m_Positions = dynamic_cast<IItemPositions const*>(&model);
         return;
+    }
     m_IsKnown = true;
     m_DefaultSize = model.GetDefaultItemSize();
     if (m_Sizes && m_Sizes->IsEmpty())
@@ -33,6 +37,8 @@ std::int64_t CItemRuns::Sum(int from, int to) const
         CItemSizeMap::SSum const exceptions = m_Sizes ? m_Sizes->Sum(from, to) : CItemSizeMap::SSum{};
         return (std::int64_t{to} - from - exceptions.count) * m_DefaultSize + exceptions.size;
     }
+    if (m_Positions)
+        return m_Positions->GetItemPosition(to) - m_Positions->GetItemPosition(from);
     std::int64_t sum = 0;
     for (int i = from; i < to; ++i)
         sum += m_Model.GetItemSize(i);
@@ -83,6 +89,12 @@ CItemRuns::SRun CItemRuns::Backward(int index)
 
 int CItemRuns::Skip(int limit, std::int64_t& room) const
 {
+    if (m_Positions && room > 0)
+    {
+        int const index = std::min(m_Positions->FindItemAt(room), limit - 1);
+        room -= m_Positions->GetItemPosition(index);
+        return index;
+    }
     if (!m_Sizes || m_DefaultSize < 0)  // below 0, more items may need less room
         return 0;
     int index = 0;

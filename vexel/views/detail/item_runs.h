@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexel/views/item_positions.h"
 #include "vexel/views/item_size_map.h"
 #include "vexel/views/item_view_model.h"
 
@@ -9,8 +10,8 @@ namespace vexel::detail
 {
 
 /// The sizes of a model's items as runs of equal ones, so that a walk over a default size takes one step, however many
-/// items have it. That is known of the models of this folder; of others, and of classes derived from them, each item
-/// is asked for.
+/// items have it. That is known of the models of this folder. Others are asked for sums if they know their positions
+/// (IItemPositions); the rest, classes derived from those of this folder among them, for each item.
 class CItemRuns
 {
 public:
@@ -37,8 +38,9 @@ private:
     using Nodes = CItemSizeMap::Nodes;
 
     IBaseItemViewModel const& m_Model;
-    bool m_IsKnown = false;                 // all but the exceptions have the default size
-    CItemSizeMap const* m_Sizes = nullptr;  // the exceptions; null: none
+    IItemPositions const* m_Positions = nullptr;  // of a model that isn't known otherwise
+    bool m_IsKnown = false;                       // all but the exceptions have the default size
+    CItemSizeMap const* m_Sizes = nullptr;        // the exceptions; null: none
     int m_DefaultSize = 0;
     bool m_HasPlace = false;  // a walk has begun
     Nodes::iterator m_Place;  // forward: the next exception; backward: the one behind the next
