@@ -113,7 +113,7 @@ SPage const g_Pages[] = {
      "width.",
      &Make<CHeaderPage>},
     {"grid_groups", "A grid under grouped columns",
-     "The columns stand in groups of groups: expand, resize and drag them over two billion rows.",
+     "Expand, resize and drag groups of columns over two billion rows; double-click a cell, or press F2, to edit.",
      &Make<CGridGroupsPage>},
     {"axes", "Axes", "Their steps follow from the width of their labels. Drag the range, zoom by the wheel.",
      &Make<CAxesPage>},

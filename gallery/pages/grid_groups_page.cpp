@@ -44,11 +44,8 @@ void CGridGroupsPage::Build(CVisualElement* parent)
     Fill(m_Groups);
     auto* const box = new CScrollBox(parent, {0, 0}, alClient);
     m_Header = new CHeader(box, {0, 60}, alTop);
-    m_Grid =
-        new CTextCells<IContinuousItemViewModel>(box, {0, 0}, alClient, [this](int row, int column, std::string& text) {
-            int const number = m_Header->VisibleIndex2ModelIndex(column);
-            text = std::to_string((row + 1LL) * 1000 + number);
-        });
+    m_Grid = new CTextCells<IContinuousItemViewModel>(
+        box, {0, 0}, alClient, [this](int row, int column, std::string& text) { text = GetText(row, column); });
     m_Grid->GetRowViewModel()->SetCount(s_Rows);
     m_Header->SetModel(&m_Groups);
     m_Header->RecalculateHeight();
@@ -64,6 +61,26 @@ void CGridGroupsPage::Build(CVisualElement* parent)
     Report(m_Header->m_SigDragOver, "dragOver");
     Report(m_Header->m_SigDropped, "dropped");
     Report(m_Grid->GetRowSelectionModel()->m_SigCurrentChanged, "current row");
+
+    CCellEditing::SCells cells;
+    cells.get = [this](int row, int column) { return GetText(row, column); };
+    cells.set = [this](int row, int column, std::string const& text) {
+        m_Edited[{row, m_Header->VisibleIndex2ModelIndex(column)}] = text;
+    };
+    cells.choices = [this](int column) -> std::vector<std::string> {
+        bool const chooses = m_Header->VisibleIndex2ModelIndex(column) % s_Columns == 3;
+        return chooses ? std::vector<std::string>{"none", "some", "all"} : std::vector<std::string>();
+    };
+    m_Editing = std::make_unique<CCellEditing>(*m_Grid, cells);
+    Report(m_Editing->m_SigEdited, "edited");
+    Report(m_Editing->m_SigHidden, "editor hidden");
+}
+
+std::string CGridGroupsPage::GetText(int row, int column) const
+{
+    int const number = m_Header->VisibleIndex2ModelIndex(column);
+    auto const edited = m_Edited.find({row, number});
+    return edited != m_Edited.end() ? edited->second : std::to_string((row + 1LL) * 1000 + number);
 }
 
 void CGridGroupsPage::RepaintAll()
