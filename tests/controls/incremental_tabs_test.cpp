@@ -116,7 +116,8 @@ public:
                 Fill(tabs.Add(""));
         }
         m_Base = new CLeaf(host.Root(), {10, 10}, alClient, 3);
-        m_Side = new CLeaf(m_Base, {m_Random.Int(3, 60), 10}, m_Random.Bool() ? alLeft : alRight, 5);
+        Alignment const side = m_Random.Bool() ? alLeft : alRight;
+        m_Side = new CLeaf(m_Base, {m_Random.Int(3, 60), 10}, side, 5);
         m_Top = new CLeaf(m_Base, {10, m_Random.Int(3, 20)}, alTop, 8);
         for (CTestTabs& tabs : m_Models)
         {
