@@ -2,6 +2,7 @@
 
 #include "gallery/frame/panel.h"
 #include "vexel/controls/arrow_button.h"
+#include "vexel/core/clip_holder.h"
 #include "vexel/core/control.h"
 #include "vexel/platform/convert.h"
 #include "vexel/platform/system.h"
@@ -88,13 +89,11 @@ protected:
         CPanel::DrawContent(painter);
         int const step = ToInt(12 * GetSystemScale());
         painter->SetPen({color_table[27], pen::psSolid, ToInt(4 * GetSystemScale())});
+        CClipHolder const clip(painter, ToDouble(rect));  // lines are thicker than their ends
         for (int x = -rect.bottom; x < rect.right; x += step)
         {
-            // From edge to edge, so that no line ends outside.
-            int const from = std::max(x, 0);
-            int const to = std::min(x + rect.bottom, rect.right);
-            painter->MoveTo(from, rect.bottom - (from - x));
-            painter->LineTo(to, rect.bottom - (to - x));
+            painter->MoveTo(x, rect.bottom);
+            painter->LineTo(x + rect.bottom, 0);
         }
     }
 };
