@@ -574,6 +574,18 @@ TEST_F(TabPanePaint, APaneThatIsNoLongerTransparentIsPaintedAnewEvenWhereOneTabW
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+TEST_F(TabPanePaint, TheSameHoldsOverAPicture)
+{
+    SetPicture(true);
+    m_Pane.SetTransparent(true);
+    m_Host.FullPaint();
+    Settle();
+    m_Host.Mouse().Move(m_Pane, 5, 5);
+    m_Pane.SetTransparent(false);
+    EXPECT_EQ(DrawnTabs(), "0 1 2");
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
 TEST_F(TabPanePaint, WhatATabDrawsIsCutToItsPlace)
 {
     m_Tabs[0].flags = 33 | IPainter::AlignSingleLine;  // would run on
