@@ -35,6 +35,7 @@
 #include "gallery/pages/scrolling_page.h"
 #include "gallery/pages/selection_page.h"
 #include "gallery/pages/strips_page.h"
+#include "gallery/pages/tab_pane_page.h"
 #include "gallery/pages/tooltip_page.h"
 #include "gallery/pages/zoomer_roll_page.h"
 
@@ -97,6 +98,8 @@ SPage const g_Pages[] = {
      "A press opens, and so do Alt and Down. Click a field to edit it.", &Make<CDropdownsPage>},
     {"pictures", "Picture buttons and images", "Buttons that are an image for each state; images, one of them moving.",
      &Make<CPicturesPage>},
+    {"tabs", "Tab panes", "Click tabs, move by Left and Right, close some, scroll the long one by its arrows.",
+     &Make<CTabPanePage>},
     {"scrolling", "Scrolling", "Drag the bars, turn the wheel, hold the arrows of the scroller.",
      &Make<CScrollingPage>},
     {"lists", "Lists", "None of them keeps anything for a row. Scroll to the end by the bar or the End key.",

@@ -27,8 +27,8 @@ private:
     }
 };
 
-/// Draws a pattern below the tabs, which does not move along when they scroll.
-class CPatternPane : public CTestPane
+/// Counts the tabs that it leaves out.
+class CGamePane : public CTestPane
 {
 public:
     using CTestPane::CTestPane;
@@ -109,16 +109,20 @@ public:
     {
         m_Host.Control().SetImageList(&m_Images);
         m_Host.Control().GetContent()->GetControl()->SetDragStartSensitivity({3, 3});
-        m_Tabs.m_Frames = vexel_ptr<IAnimation>(new CTestFrames);
-        for (int i = m_Random.Int(0, 9); i > 0; --i)
-            Fill(m_Tabs.Add(""));
-        m_Base = new CLeaf(host.Root(), {10, 10}, alClient, 3);
-        m_Side = new CLeaf(m_Base, {m_Random.Int(3, 60), 10}, m_Random.Bool() ? alLeft : alRight, 5);
-        m_Top = new CLeaf(m_Base, {10, m_Random.Int(3, 20)}, alTop, 8);
-        for (int i = 0; i < 2; ++i)
+        for (CTestTabs& tabs : m_Models)
         {
-            auto* const pane = new CPatternPane(m_Base, {10, m_Random.Int(15, 40)}, alTop);
-            pane->SetModel(&m_Tabs);
+            tabs.m_Frames = vexel_ptr<IAnimation>(new CTestFrames);  // one of them stepped by two panes would show late
+            for (int i = m_Random.Int(0, 9); i > 0; --i)
+                Fill(tabs.Add(""));
+        }
+        m_Base = new CLeaf(host.Root(), {10, 10}, alClient, 3);
+        Alignment const side = m_Random.Bool() ? alLeft : alRight;
+        m_Side = new CLeaf(m_Base, {m_Random.Int(3, 60), 10}, side, 5);
+        m_Top = new CLeaf(m_Base, {10, m_Random.Int(3, 20)}, alTop, 8);
+        for (CTestTabs& tabs : m_Models)
+        {
+            auto* const pane = new CGamePane(m_Base, {10, m_Random.Int(15, 40)}, alTop);
+            pane->SetModel(&tabs);
             if (m_Random.Chance(70))
                 pane->SetAutoSize(true);
             if (m_Random.Chance(30))
@@ -202,14 +206,15 @@ public:
     int CountSkipped() const
     {
         int count = 0;
-        for (CPatternPane const* const pane : m_Panes)
+        for (CGamePane const* const pane : m_Panes)
             count += pane->m_Skipped;
         return count;
     }
 
 private:
     void Note(std::string const& what) { m_Log.Note(what + (m_Pane == m_Panes[0] ? " (first)" : "")); }
-    int RandomTab() { return m_Random.Int(0, std::max(m_Tabs.GetTabCount() - 1, 0)); }
+    CTestTabs& Tabs() { return m_Models[m_Pane == m_Panes[0] ? 0 : 1]; }
+    int RandomTab() { return m_Random.Int(0, std::max(Tabs().GetTabCount() - 1, 0)); }
     void Fill(STab& tab)
     {
         tab.text = std::string(static_cast<std::size_t>(m_Random.Int(0, 6)), 'x');
@@ -241,10 +246,11 @@ private:
         int const x = m_Random.Int(0, m_Pane->GetBounds().right);
         int const y = m_Random.Int(0, m_Pane->GetBounds().bottom);
         auto const closing = Listen(m_Pane->m_SigCloseClicked, [this](CTabPane*, int tab) {
-            m_Tabs.m_Tabs.erase(m_Tabs.m_Tabs.begin() + tab);
-            m_Tabs.m_SigChanged();
+            Tabs().m_Tabs.erase(Tabs().m_Tabs.begin() + tab);
+            Tabs().m_SigChanged();
         });
-        m_Host.Mouse().Click(*m_Pane, x, y, m_Random.Chance(85) ? mbLeft : mbRight);
+        MouseButton const button = m_Random.Chance(85) ? mbLeft : mbRight;
+        m_Host.Mouse().Click(*m_Pane, x, y, button);
         Note("click " + std::to_string(x) + " " + std::to_string(y));
     }
     void Key()
@@ -259,27 +265,27 @@ private:
     }
     void ChangeTab()
     {
-        if (m_Tabs.GetTabCount() == 0)
+        if (Tabs().GetTabCount() == 0)
             return;
         int const tab = RandomTab();
-        bool const last = tab == m_Tabs.GetTabCount() - 1;
-        Fill(m_Tabs[tab]);
-        m_Tabs.m_SigTabChanged(tab);
+        bool const last = tab == Tabs().GetTabCount() - 1;
+        Fill(Tabs()[tab]);
+        Tabs().m_SigTabChanged(tab);
         Note("tab " + std::to_string(tab) + (last ? ", the last" : ""));
     }
     void ChangeTabs()
     {
-        int const count = m_Tabs.GetTabCount();
+        int const count = Tabs().GetTabCount();
         if (count > 0 && m_Random.Chance(45))
-            m_Tabs.m_Tabs.erase(m_Tabs.m_Tabs.begin() + m_Random.Index(count));
+            Tabs().m_Tabs.erase(Tabs().m_Tabs.begin() + m_Random.Index(count));
         else
         {
             STab tab;
             Fill(tab);
-            m_Tabs.m_Tabs.insert(m_Tabs.m_Tabs.begin() + m_Random.Int(0, count), tab);
+            Tabs().m_Tabs.insert(Tabs().m_Tabs.begin() + m_Random.Int(0, count), tab);
         }
-        m_Tabs.m_SigChanged();
-        Note("tabs, now " + std::to_string(m_Tabs.GetTabCount()));
+        Tabs().m_SigChanged();
+        Note("tabs, now " + std::to_string(Tabs().GetTabCount()));
     }
     void Scroll()
     {
@@ -427,14 +433,14 @@ private:
 
     CTestHost& m_Host;
     CTestRandom& m_Random;
-    CTestTabs m_Tabs;
+    CTestTabs m_Models[2];
     CGameImages m_Images;
     CGameLook m_Look;
     CVisualElement* m_Base = nullptr;
     CVisualElement* m_Side = nullptr;
     CVisualElement* m_Top = nullptr;
-    std::vector<CPatternPane*> m_Panes;
-    CPatternPane* m_Pane = nullptr;
+    std::vector<CGamePane*> m_Panes;
+    CGamePane* m_Pane = nullptr;
     CGameLog m_Log;
 };
 

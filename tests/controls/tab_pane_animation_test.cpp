@@ -4,8 +4,6 @@
 #include "tests/support/leaf.h"
 
 using namespace tab_test;
-using testing::HasSubstr;
-using testing::Not;
 
 namespace
 {

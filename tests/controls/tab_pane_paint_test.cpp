@@ -508,6 +508,23 @@ TEST_F(TabPanePaint, AChangedTabIsRepaintedAlone)
     EXPECT_EQ(DrawnTabs(), "");
 }
 
+TEST_F(TabPanePaint, AChangedTabOutOfViewRepaintsNothing)
+{
+    for (int i = 0; i < 20; ++i)
+        m_Tabs.Add("xyz");
+    m_Tabs.m_SigChanged();
+    m_Pane.SetFirstVisibleTab(10);
+    Settle();
+    m_Tabs[4].text = "wxyz";  // all together are as wide as before, or the parent would lay out and paint
+    m_Tabs[5].text = "xy";
+    m_Tabs.m_SigTabChanged(4);
+    EXPECT_EQ(DrawnTabs(), "");
+    m_Tabs[20].text = "zyx";
+    m_Tabs.m_SigTabChanged(20);
+    EXPECT_EQ(DrawnTabs(), "");
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
 TEST_F(TabPanePaint, AChangedModelRepaintsAll)
 {
     m_Tabs[1].text = "xyz";
@@ -567,6 +584,18 @@ TEST_F(TabPanePaint, OverAPictureAPaneThatMovesIsPaintedAnew)
 TEST_F(TabPanePaint, APaneThatIsNoLongerTransparentIsPaintedAnewEvenWhereOneTabWaits)
 {
     m_Pane.SetTransparent(true);
+    Settle();
+    m_Host.Mouse().Move(m_Pane, 5, 5);
+    m_Pane.SetTransparent(false);
+    EXPECT_EQ(DrawnTabs(), "0 1 2");
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(TabPanePaint, TheSameHoldsOverAPicture)
+{
+    SetPicture(true);
+    m_Pane.SetTransparent(true);
+    m_Host.FullPaint();
     Settle();
     m_Host.Mouse().Move(m_Pane, 5, 5);
     m_Pane.SetTransparent(false);

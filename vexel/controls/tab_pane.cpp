@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <limits>
 #include <vector>
 
 namespace vexel
@@ -294,10 +293,8 @@ void CTabPane::ViewModelChanged()
     int const count = view->GetCount();
     int const last = Utils::GetLastVisibleItem(view);
     if (IsOverPicture())
-        MarkAllDirty();  // what shows through the tabs doesn't move with them
-    else if (view->GetItemType(0) == IDirtyItemSet::dirtyNone)
-        view->AddDirtyItems(0, std::numeric_limits<int>::max());
-    else
+        MarkAllDirty();                                         // what shows through the tabs doesn't move with them
+    else if (view->GetItemType(0) != IDirtyItemSet::dirtyNone)  // a tab before the view changes nothing in it
     {
         if (last != m_LastVisible)
             view->AddDirtyItems(std::min(last, m_LastVisible), std::max(last, m_LastVisible) - 1);

@@ -192,7 +192,8 @@ private:
     double m_Scale = 1.0;              // of the font times that of the display
     vexel_ptr<IAnimation> m_Animated;  // what the process steps; null: it stands
     int m_LastVisible = -1;            // the last tab wholly in view
-    bool m_DrawnOverPicture = false;   // when it was last drawn
+    bool m_DrawnTransparent = false;   // when it was last drawn,
+    bool m_DrawnPicture = false;       // with a background picture
     bool m_LayingOut = false;          // a change of the view model is told afterwards
     bool m_ViewModelChanged = false;   // meanwhile
 };

@@ -76,10 +76,12 @@ void FillRect(IPainter* painter, rectangle<double> const& rect, _color const& co
 
 void CTabPane::OnDraw(IPainter* painter)
 {
-    bool const overPicture = IsOverPicture();
-    if (overPicture != m_DrawnOverPicture)
+    bool const transparent = IsTransparent();
+    bool const picture = IsBkImagePresented();
+    if (transparent != m_DrawnTransparent || picture != m_DrawnPicture)
         MarkAllDirty();
-    m_DrawnOverPicture = overPicture;
+    m_DrawnTransparent = transparent;
+    m_DrawnPicture = picture;
     Base::OnDraw(painter);
 }
 
