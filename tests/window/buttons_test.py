@@ -13,25 +13,14 @@ programs = pathlib.Path(sys.argv[1])
 NATIVE, HOLD, BUTTON_LINK, CAPTION_LINK, CAPTION_TEXT = (292, 113), (603, 196), (793, 196), (524, 315), (300, 315)
 
 
-def signals(program, after=0):
-    return [line for line in program.output()[after:] if line.startswith("signal ")]
-
-
-def expect(display, program, act, part):
-    before = len(program.output())
-    act()
-    program.wait_for_line(part, before)
-    return signals(program, before)
-
-
 def check_press(display, program, window):
-    click = expect(display, program, lambda: display.click(window, *NATIVE), "signal Native.clicked()")
+    click = program.expect(lambda: display.click(window, *NATIVE), "signal Native.clicked()")
     assert click.count("signal Native.clicked()") == 1, click
     for key in ("space", "Return"):
         before = len(program.output())
-        expect(display, program, lambda: display.key(key), "signal Native.clicked()")
+        program.expect(lambda: display.key(key), "signal Native.clicked()")
         time.sleep(0.3)  # for a second click, which there must not be
-        assert signals(program, before).count("signal Native.clicked()") == 1, signals(program, before)
+        assert program.signals(before).count("signal Native.clicked()") == 1, program.signals(before)
     # A press that leaves the button before its release is no click.
     before = len(program.output())
     display.move(window, *NATIVE)
@@ -39,32 +28,32 @@ def check_press(display, program, window):
     display.move(window, 600, 500)
     display.tool("xdotool", "mouseup", "1")
     program.wait_for_line("native up", before)
-    assert "signal Native.clicked()" not in signals(program, before), signals(program, before)
+    assert "signal Native.clicked()" not in program.signals(before), program.signals(before)
 
 
 def check_hold(display, program, window):
     before = len(program.output())
     display.move(window, *HOLD)
     display.tool("xdotool", "mousedown", "1")
-    eventually(lambda: signals(program, before).count("signal repeating.clicked()") >= 4, "four clicks of the held button")
+    eventually(lambda: program.signals(before).count("signal repeating.clicked()") >= 4, "four clicks of the held button")
     display.tool("xdotool", "mouseup", "1")
     program.wait_for_line("native up", before)
     after = len(program.output())
     time.sleep(0.8)  # for clicks of a button that was let go, which there must not be
-    late = [line for line in signals(program, after) if "repeating.clicked" in line]
+    late = [line for line in program.signals(after) if "repeating.clicked" in line]
     assert len(late) <= 1, late  # the release itself is one more
 
 
 def check_links(display, program, window):
-    expect(display, program, lambda: display.click(window, *BUTTON_LINK), 'signal link("there"')
+    program.expect(lambda: display.click(window, *BUTTON_LINK), 'signal link("there"')
 
 
 def check_caption(display, program, window):
-    expect(display, program, lambda: display.click(window, *CAPTION_LINK), 'signal link("first"')
+    program.expect(lambda: display.click(window, *CAPTION_LINK), 'signal link("first"')
     before = len(program.output())
     display.click(window, *CAPTION_TEXT)
     program.wait_for_line("native up", before)
-    assert not any(line.startswith("signal link(") for line in signals(program, before)), signals(program, before)
+    assert not any(line.startswith("signal link(") for line in program.signals(before)), program.signals(before)
 
 
 with Display() as display:

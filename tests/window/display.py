@@ -85,6 +85,16 @@ class Display:
     def click(self, window, x, y, button=1):
         self.tool("xdotool", "mousemove", "--window", window, x, y, "click", button)
 
+    def double_click(self, window, x, y):
+        self.tool("xdotool", "mousemove", "--window", window, x, y, "click", "--repeat", "2", "--delay", "60", "1")
+
+    def drag(self, window, start, end, steps=8):
+        self.move(window, *start)
+        self.tool("xdotool", "mousedown", "1")
+        for i in range(1, steps + 1):
+            self.move(window, *(int(a + (b - a) * i / steps) for a, b in zip(start, end)))
+        self.tool("xdotool", "mouseup", "1")
+
     def key(self, name):
         self.tool("xdotool", "key", name)
 
@@ -138,3 +148,14 @@ class Program:
                 raise AssertionError(f"{self.command[0]} ended with {self.process.returncode}: {self.seen}")
             return found[0] if found else None
         return eventually(find, f"the line {part!r} in {self.seen}")
+
+    def signals(self, after=0):
+        """The lines of signals, from the number `after` on."""
+        return [line for line in self.output()[after:] if line.startswith("signal ")]
+
+    def expect(self, act, part):
+        """Does what it is given, waits for a line that contains the text, and returns the signals since."""
+        before = len(self.output())
+        act()
+        self.wait_for_line(part, before)
+        return self.signals(before)

@@ -14,15 +14,9 @@ BOX_ARROW, LINE_BOX_ARROW, FREE = (634, 255), (634, 291), (700, 600)
 POPUP = (420, 178)  # on the popup of the first combo button, over the second one
 
 
-def signals(program, after=0):
-    return [line for line in program.output()[after:] if line.startswith("signal ")]
-
-
-def expect(program, act, line):
-    before = len(program.output())
-    act()
-    program.wait_for_line(line, before)
-    assert signals(program, before).count(line) == 1, signals(program, before)
+def once(program, act, line):
+    lines = program.expect(act, line)
+    assert lines.count(line) == 1, lines
 
 
 class Shown:
@@ -47,7 +41,7 @@ def check_combo_button(display, program, window):
     popup = Shown(display, window, POPUP)
     display.click(window, *SEASON)
     popup.wait_open()
-    expect(program, lambda: [display.key("Down"), display.key("Return")], "signal season(2)")
+    once(program, lambda: [display.key("Down"), display.key("Return")], "signal season(2)")
     popup.wait_closed()
     for close in (lambda: display.key("Escape"), lambda: display.click(window, *FREE)):
         before = len(program.output())
@@ -56,11 +50,11 @@ def check_combo_button(display, program, window):
         close()
         popup.wait_closed()
         program.wait_for_line("native focus", before)  # the window has the keyboard again
-        assert not signals(program, before), signals(program, before)
+        assert not program.signals(before), program.signals(before)
     # The button has the focus now: keys open it, and the pointer chooses.
     display.key("alt+Down")
     popup.wait_open()
-    expect(program, lambda: display.click(window, 440, 170), "signal season(0)")
+    once(program, lambda: display.click(window, 440, 170), "signal season(0)")
     display.move(window, *FREE)  # or the button below would light up
     popup.wait_closed()
 
@@ -68,12 +62,12 @@ def check_combo_button(display, program, window):
 def check_line(display, program, window):
     finished = "signal line.finished(%s)"
     display.click(window, *LINE)
-    expect(program, lambda: [display.tool("xdotool", "type", "kept"), display.key("Return")], finished % "true")
+    once(program, lambda: [display.tool("xdotool", "type", "kept"), display.key("Return")], finished % "true")
     display.click(window, *LINE)
-    expect(program, lambda: [display.tool("xdotool", "type", "dropped"), display.key("Escape")], finished % "false")
+    once(program, lambda: [display.tool("xdotool", "type", "dropped"), display.key("Escape")], finished % "false")
     display.click(window, *LINE)
     display.tool("xdotool", "type", "left")
-    expect(program, lambda: display.click(window, *DROP), finished % "true")
+    once(program, lambda: display.click(window, *DROP), finished % "true")
 
 
 def check_boxes(display, program, window):
@@ -83,13 +77,13 @@ def check_boxes(display, program, window):
     display.key("Down")
     display.key("Return")
     popup.wait_closed()
-    expect(program, lambda: display.key("Return"), "signal box.finished(true)")
+    once(program, lambda: display.key("Return"), "signal box.finished(true)")
     popup = Shown(display, window, (600, 325))
     display.click(window, *LINE_BOX_ARROW)
     popup.wait_open()
     display.key("Escape")
     popup.wait_closed()
-    expect(program, lambda: [display.tool("xdotool", "type", "own"), display.key("Return")],
+    once(program, lambda: [display.tool("xdotool", "type", "own"), display.key("Return")],
            "signal editable box.finished(true)")
 
 

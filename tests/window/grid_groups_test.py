@@ -14,65 +14,41 @@ COLUMN_1, COLUMN_1_GRIP = (250, 134), (307, 134)
 CELL, CHOICE_CELL, OTHER = (350, 215), (550, 215), (450, 300)
 
 
-def signals(program, after=0):
-    return [line for line in program.output()[after:] if line.startswith("signal ")]
-
-
-def expect(program, act, line):
-    before = len(program.output())
-    act()
-    program.wait_for_line(line, before)
-    return signals(program, before)
-
-
-def double_click(display, window, place):
-    display.tool("xdotool", "mousemove", "--window", window, *place, "click", "--repeat", "2", "--delay", "60", "1")
-
-
-def drag(display, window, start, end):
-    display.move(window, *start)
-    display.tool("xdotool", "mousedown", "1")
-    steps = 8
-    for i in range(1, steps + 1):
-        display.move(window, *(int(a + (b - a) * i / steps) for a, b in zip(start, end)))
-    display.tool("xdotool", "mouseup", "1")
-
-
 def check_header(display, program, window):
-    expect(program, lambda: display.click(window, *EXPAND_BLOCK_2), 'signal expanded("Block 2", true)')
-    expect(program, lambda: display.click(window, *COLUMN_1), 'signal clicked("Column 1")')
-    lines = expect(program, lambda: drag(display, window, COLUMN_1_GRIP, (347, 134)), 'signal resized("Column 1", 136)')
+    program.expect(lambda: display.click(window, *EXPAND_BLOCK_2), 'signal expanded("Block 2", true)')
+    program.expect(lambda: display.click(window, *COLUMN_1), 'signal clicked("Column 1")')
+    lines = program.expect(lambda: display.drag(window, COLUMN_1_GRIP, (347, 134)), 'signal resized("Column 1", 136)')
     widths = [int(line.rstrip(")").split(", ")[-1]) for line in lines if "resized" in line]
     assert widths[-1] == 136 and widths == sorted(widths) and len(widths) > 2, lines
-    lines = expect(program, lambda: drag(display, window, COLUMN_1, (620, 134)), 'signal dropped("Column 1"')
+    lines = program.expect(lambda: display.drag(window, COLUMN_1, (620, 134)), 'signal dropped("Column 1"')
     assert any("dragOver" in line for line in lines), lines
-    drag(display, window, (347, 134), (307, 134))  # whichever column stands there
+    display.drag(window, (347, 134), (307, 134))  # whichever column stands there
 
 
 def check_editing(display, program, window):
     def type_text(text):
         display.tool("xdotool", "type", text)
-    double_click(display, window, CELL)
+    display.double_click(window, *CELL)
     type_text("kept")
-    expect(program, lambda: display.key("Return"), '"kept")')
+    program.expect(lambda: display.key("Return"), '"kept")')
     before = len(program.output())
-    double_click(display, window, CELL)
+    display.double_click(window, *CELL)
     type_text("dropped")
     display.key("Escape")
-    double_click(display, window, CELL)
+    display.double_click(window, *CELL)
     type_text("far")
-    expect(program, lambda: [display.tool("xdotool", "click", "5") for _ in range(8)], "signal editor hidden()")
+    program.expect(lambda: [display.tool("xdotool", "click", "5") for _ in range(8)], "signal editor hidden()")
     for _ in range(8):
         display.tool("xdotool", "click", "4")
     type_text("away")  # it has the keyboard again
-    lines = expect(program, lambda: display.click(window, *OTHER), '"faraway")')
-    assert not any("dropped" in line for line in signals(program, before)), lines
-    double_click(display, window, CHOICE_CELL)
+    lines = program.expect(lambda: display.click(window, *OTHER), '"faraway")')
+    assert not any("dropped" in line for line in program.signals(before)), lines
+    display.double_click(window, *CHOICE_CELL)
     popup = display.pixel("root", 560, 235)
     display.key("Down")
     display.key("Return")
     eventually(lambda: display.pixel("root", 560, 235) != popup, "the list to close")
-    lines = expect(program, lambda: display.key("Return"), "signal edited(")
+    lines = program.expect(lambda: display.key("Return"), "signal edited(")
     assert any(choice in line for line in lines for choice in ('"none")', '"some")', '"all")')), lines
 
 

@@ -12,40 +12,29 @@ programs = pathlib.Path(sys.argv[1])
 GENERAL, NETWORK, CLOSE, ITALIC, FORWARD, EMPTY = (254, 132), (490, 132), (426, 248), (290, 364), (978, 540), (900, 132)
 
 
-def signals(program, after=0):
-    return [line for line in program.output()[after:] if line.startswith("signal ")]
-
-
-def expect(program, act, part):
-    before = len(program.output())
-    act()
-    program.wait_for_line(part, before)
-    return signals(program, before)
-
-
 def check_choice(display, program, window):
-    expect(program, lambda: display.click(window, *GENERAL), "signal plain.currentTabChanged(0, 1, true)")
-    expect(program, lambda: display.key("Right"), "signal plain.currentTabChanged(1, 0, true)")
-    expect(program, lambda: display.key("Right"), "signal plain.currentTabChanged(2, 1, true)")
+    program.expect(lambda: display.click(window, *GENERAL), "signal plain.currentTabChanged(0, 1, true)")
+    program.expect(lambda: display.key("Right"), "signal plain.currentTabChanged(1, 0, true)")
+    program.expect(lambda: display.key("Right"), "signal plain.currentTabChanged(2, 1, true)")
     # The next one is disabled, so the one behind it follows.
-    expect(program, lambda: display.key("Right"), "signal plain.currentTabChanged(4, 2, true)")
+    program.expect(lambda: display.key("Right"), "signal plain.currentTabChanged(4, 2, true)")
     for place in (NETWORK, EMPTY):
         before = len(program.output())
         display.click(window, *place)
         program.wait_for_line("native up", before)
-        assert not signals(program, before), signals(program, before)
+        assert not program.signals(before), program.signals(before)
 
 
 def check_toggles(display, program, window):
-    expect(program, lambda: display.click(window, *ITALIC), "signal toggles.currentTabChanged(1, 1, true)")
-    expect(program, lambda: display.key("space"), "signal toggles.currentTabChanged(1, 1, false)")
-    expect(program, lambda: display.key("Return"), "signal toggles.currentTabChanged(1, 1, true)")
+    program.expect(lambda: display.click(window, *ITALIC), "signal toggles.currentTabChanged(1, 1, true)")
+    program.expect(lambda: display.key("space"), "signal toggles.currentTabChanged(1, 1, false)")
+    program.expect(lambda: display.key("Return"), "signal toggles.currentTabChanged(1, 1, true)")
 
 
 def check_closing(display, program, window):
     display.move(window, CLOSE[0] - 30, CLOSE[1])
     display.move(window, *CLOSE)
-    closed = expect(program, lambda: display.click(window, *CLOSE), "signal closing.closeClicked(1)")
+    closed = program.expect(lambda: display.click(window, *CLOSE), "signal closing.closeClicked(1)")
     assert len(closed) == 1, closed
 
 
