@@ -48,10 +48,10 @@ protected:
     {
         NameElement(m_Rows, "rows");
         auto& palette = CTestHost::System().GetMemoryPalette();
-        palette.SetColor(ISysPalette::scHighlight, color_table[13]);      // green
-        palette.SetColor(ISysPalette::scHighlightText, color_table[4]);   // blue
-        m_Rows.SetBkColor(color_table[3]);                                // yellow
-        m_Rows.SetFgColor(color_table[6]);                                // red
+        palette.SetColor(ISysPalette::scHighlight, color_table[13]);     // green
+        palette.SetColor(ISysPalette::scHighlightText, color_table[4]);  // blue
+        m_Rows.SetBkColor(color_table[3]);                               // yellow
+        m_Rows.SetFgColor(color_table[6]);                               // red
         m_Rows.SetAutoRowHeight(false);
         m_Rows.GetRowViewModel()->SetDefaultItemSize(10);
         m_Rows.SetModel(&m_Model);
@@ -513,9 +513,8 @@ TEST_F(ListBoxViewer, AScrolledRowBeginsLeftOfTheViewAndEndsAtItsRightEdge)
     m_Rows.GetHorzScroll()->SetStart(40);
     m_Rows.GetRowSelectionModel()->SetCurrent(0);
     PaintLog const log = Draw();
-    EXPECT_THAT(log, Draws("FillRect -40 0 99 9")
-                         .Then("DrawString \"0\" -37 0 99 9 0x20*")
-                         .Then("FocusRect -40 0 99 9"));
+    EXPECT_THAT(log,
+                Draws("FillRect -40 0 99 9").Then("DrawString \"0\" -37 0 99 9 0x20*").Then("FocusRect -40 0 99 9"));
 }
 
 TEST_F(ListBoxViewer, AScrolledListRepaintsAllItsRows)

@@ -56,8 +56,8 @@ class CDrawing : public IItemDrawing
 public:
     void DrawItem(IPainter* painter, int item, Rect const& rect, bool* drawDefault) override
     {
-        m_Log += (m_Log.empty() ? "" : "; ") + std::to_string(item) + " " + Describe(rect) + " " +
-                 Describe(*drawDefault);
+        m_Log +=
+            (m_Log.empty() ? "" : "; ") + std::to_string(item) + " " + Describe(rect) + " " + Describe(*drawDefault);
         painter->MoveTo(item, 77);
         *drawDefault = m_Default;
     }
@@ -349,10 +349,9 @@ TEST_F(List, TheColourOfTheHotLineEndsWithIt)
     m_List.SetFgColor(color_table[6]);
     m_List.SetHotTrack(true);
     m_Host.Mouse().Move(m_List, 10, 10);
-    EXPECT_THAT(Draw(), Draws("SetTextColor #3060C0")
-                            .Then("DrawString \"one\"*")
-                            .Then("SetTextColor red")
-                            .Then("DrawString \"two\"*"));
+    EXPECT_THAT(
+        Draw(),
+        Draws("SetTextColor #3060C0").Then("DrawString \"one\"*").Then("SetTextColor red").Then("DrawString \"two\"*"));
 }
 
 TEST_F(List, AnOwnDrawingComesFirstAndMayKeepTheTextAway)

@@ -88,8 +88,8 @@ TEST_F(RadioButton, AClickOnlySwitchesItOn)
 TEST_F(RadioButton, ItHasTheRoundMark)
 {
     m_Buttons[0]->Update(utElement);
-    EXPECT_THAT(m_Host.Paint().Of("button"), Draws("DrawControlElement 11 0 2 16 18 0x0")
-                                                  .Then("DrawStringEx \"abc\" 21 0 199 20 0x121"));
+    EXPECT_THAT(m_Host.Paint().Of("button"),
+                Draws("DrawControlElement 11 0 2 16 18 0x0").Then("DrawStringEx \"abc\" 21 0 199 20 0x121"));
     m_Buttons[0]->SetChecked(true);
     EXPECT_THAT(m_Host.Paint().Of("button"), Draws("DrawControlElement 10 0 2 16 18 0x0"));
     EXPECT_EQ(m_Buttons[0]->GetImageSize(), (Size{16, 16}));
