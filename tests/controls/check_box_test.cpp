@@ -311,6 +311,18 @@ TEST_F(CheckBox, OneThatIsNarrowerThanItsMarkHasNoTextAndNoFocusMark)
     EXPECT_THAT(DrawAs(21, 40), Draws("DrawStringEx \"abc\" 21 0 21 40 0x121").Then("FocusRect*"));
 }
 
+TEST_F(CheckBox, TheFocusMarkStaysInTheBox)
+{
+    m_Host.Focus();
+    m_Box.SetFocus(true);
+    EXPECT_THAT(DrawAs(40, 40), Draws("FocusRect 19 16 40 24"));
+    EXPECT_THAT(DrawAs(40, 4), Draws("FocusRect 19 0 40 4"));
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+    m_Box.SetCaption("");
+    EXPECT_THAT(DrawAs(16, 10), Draws("FocusRect 0 0 16 10"));
+    EXPECT_THAT(DrawAs(15, 40), Not(Draws("FocusRect*")));
+}
+
 TEST_F(CheckBox, ACaptionMayHaveMarkUp)
 {
     m_Box.UseHTML(true);

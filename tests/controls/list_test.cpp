@@ -273,6 +273,38 @@ TEST_F(List, NewMarginsRepaintIt)
     EXPECT_EQ(m_Host.Paint().Elements(), "list");
 }
 
+TEST_F(List, LinesThatMoveAreRepaintedWhereTheyWereAndAre)
+{
+    m_List.RecalcSize();
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+    m_List.SetLineSpacing(9);
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+    m_List.SetMinLineHeight(15);
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+    m_List.SetAlignment(alLeft);
+    m_List.SetWidth(80, false);
+    m_Host.Paint();
+    m_List.SetLineSpacing(2);
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "") << "the height of one that is docked there stays";
+    m_Model.Set({});
+    m_List.SetModel(nullptr);
+    CLinesModel other({"x"});
+    m_List.SetLineHeight(30);
+    m_List.SetModel(&other);
+    m_Host.Paint();
+    m_List.RecalcSize();
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(List, AModelThatDiesIsNotSeenAnyMore)
+{
+    auto other = std::make_unique<CLinesModel>(NumberedLines(3));
+    m_List.SetModel(other.get());
+    m_Host.Paint();
+    other.reset();
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
 TEST_F(List, WithoutAWindowTheHeightIsMadeUpForWhenThereIsOne)
 {
     CList& list = *new CList(nullptr, {50, 20}, alLeft);

@@ -266,13 +266,11 @@ TEST_F(ScrolledEditor, EachWayOfScrollingTakesItOutAndBack)
         std::function<void(int)> go;  // by rows
     };
     SWay const ways[] = {
-        {"scroll model", [this](int rows) {
-             m_Rows.GetVertScroll()->SetStart(m_Rows.GetVertScroll()->GetStart() + rows);
-         }},
+        {"scroll model",
+         [this](int rows) { m_Rows.GetVertScroll()->SetStart(m_Rows.GetVertScroll()->GetStart() + rows); }},
         {"wheel", [this](int rows) { m_Host.Mouse().Wheel(m_Rows, 150, 90, -rows); }},
-        {"bar", [this](int rows) {
-             m_Box.VertScroll(CScrollEvent::saSetValue, m_Rows.GetVertScroll()->GetStart() + rows);
-         }},
+        {"bar",
+         [this](int rows) { m_Box.VertScroll(CScrollEvent::saSetValue, m_Rows.GetVertScroll()->GetStart() + rows); }},
         {"content", [this](int rows) { m_Rows.ScrollContent(0, -20 * rows); }},
     };
     for (SWay const& way : ways)
