@@ -286,6 +286,9 @@ private:
     {
         m_Deed += " of " + ElementName(&caption);
         auto* const button = dynamic_cast<CButton*>(&caption);
+        // A round button does not paint over what a text leaves around its corners, so its text keeps away from them.
+        if (deed <= 4 && dynamic_cast<CRoundBgButton*>(&caption))
+            return caption.SetCaption(m_Random.Bool() ? "a" : "");
         switch (deed)
         {
         case 0:
