@@ -229,10 +229,20 @@ TEST_F(ComboBox, ReturnAndEscapeEndTheEditAndGiveTheFocusBack)
 
 // What dies -----------------------------------------------------------------------------------------------------------------
 
-TEST_F(ComboBox, ItMayLoseItsArrow)
+TEST_F(ComboBox, ItMayLoseItsArrowOrItsEdge)
 {
     delete m_Editable.GetButton();
-    EXPECT_EQ(m_Editable.GetChildren()->GetCount(), 2);
+    EXPECT_EQ(m_Editable.GetButton(), nullptr);
+    delete m_Choice.GetBevel();
+    EXPECT_EQ(m_Choice.GetBevel(), nullptr);
+    for (CComboBox* const box : {&m_Editable, &m_Choice})
+    {
+        Command(*box, CBaseEditor::ecStart);
+        Command(*box, CBaseEditor::ecAccept);
+        rectangle<double> rect{0, 0, 100, 20};
+        box->GetEditorRect(rect);
+        EXPECT_EQ(rect.right, 100);
+    }
 }
 
 TEST_F(ComboBox, BoxControlAndWindowMayDieInEachSignal)

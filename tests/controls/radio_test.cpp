@@ -290,6 +290,17 @@ TEST_F(RadioGroup, AButtonThatDiesLeavesInSilence)
     EXPECT_EQ(m_Log.Text(), "");
 }
 
+TEST_F(RadioGroup, OneThatDiesWhenItGoesOffDoesNotKeepTheOtherFromBecomingTheCurrentOne)
+{
+    Group();
+    Click(0);
+    auto const slot = Listen(m_Buttons[0]->m_CheckChanged, [](CCheckBox* box) { delete box; });
+    m_Log.Clear();
+    Click(1);
+    EXPECT_EQ(On(), "x- 0");
+    EXPECT_EQ(m_Log.Count("current"), 1);
+}
+
 TEST_F(RadioGroup, AGroupThatDiesLeavesItsButtonsAsTheyAre)
 {
     Group();
