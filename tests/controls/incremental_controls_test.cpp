@@ -1,10 +1,16 @@
 // Random controls, docked at random, set and used at random: what is painted bit by bit looks as if painted at once, and
 // nothing breaks when a click deletes something.
 
+#include "tests/support/lines_model.h"
 #include "tests/support/test_images.h"
 #include "vexel/controls/button_set.h"
+#include "vexel/controls/combo_box_button.h"
 #include "vexel/controls/control_caption.h"
+#include "vexel/controls/list.h"
+#include "vexel/controls/list_box.h"
 #include "vexel/controls/picture_button.h"
+#include "vexel/controls/radio_button.h"
+#include "vexel/controls/round_bg_button.h"
 #include "vexel/core/base_control.h"
 #include "vexel/platform/painter.h"
 #include "vexel/testing/test_kit.h"
@@ -56,6 +62,7 @@ public:
     }
 
     int m_Clicks = 0;
+    int m_Chosen = 0;  // in check boxes and lists
 
 private:
     std::string Describe() const
@@ -76,10 +83,26 @@ private:
         if (m_Random.Chance(20))
             Forget(button);
     }
+    void Checked(CCheckBox* box)
+    {
+        ++m_Chosen;
+        if (m_Random.Chance(10))
+            Forget(box);
+    }
+    void ItemClicked(CList* list, int)
+    {
+        ++m_Chosen;
+        if (m_Random.Chance(10))
+            Forget(list);
+    }
+    void Activated(int) { ++m_Chosen; }
+    void NeedImage(CCustomCheckBox*, int, CImageHolder& holder) { holder.m_Index = m_Random.Int(-1, 1); }
     void Deleted(CVisualElement* element)
     {
         std::erase(m_Captions, element);
         std::erase(m_Tops, element);
+        std::erase(m_Lists, element);
+        std::erase(m_ListBoxes, element);
     }
     // Deletes a button, or the element at the top that it belongs to. Pixels of what is deleted stay, so all is laid out.
     void Forget(CVisualElement* element)
@@ -110,7 +133,10 @@ private:
     }
     void Add()
     {
-        switch (m_Random.Index(7))
+        int const kind = m_Random.Index(15);
+        if (kind >= 7)
+            return AddChoice(kind);
+        switch (kind)
         {
         case 0:
             m_Captions.push_back(New<CCaption>());
@@ -152,10 +178,103 @@ private:
         }
         }
     }
+    void AddChoice(int kind)
+    {
+        switch (kind)
+        {
+        case 7:
+            NewButton<CCheckBox>()->m_CheckChanged.connect(this, &CGame::Checked);
+            break;
+        case 8:
+        {
+            auto* const box = NewButton<CCustomCheckBox>();
+            box->m_NeedImage.connect(this, &CGame::NeedImage);
+            break;
+        }
+        case 9:
+        {
+            auto* const radio = NewButton<CRadioButton>();
+            m_Group.Add(radio);
+            radio->m_CheckChanged.connect(this, &CGame::Checked);
+            break;
+        }
+        case 10:
+            NewButton<CDropButton>();
+            break;
+        case 11:
+        {
+            auto* const button = NewButton<CComboBoxButton>();
+            button->GetList()->GetViewer().SetModel(&m_Lines);
+            button->GetList()->GetViewer().m_SigItemActivated.connect(this, &CGame::Activated);
+            break;
+        }
+        case 12:
+            NewButton<CRoundBgButton>();
+            break;
+        case 13:
+        {
+            CList* const list = m_Random.Bool() ? New<CList>() : nullptr;
+            if (list)
+                list->SetModel(&m_Lines);
+            auto* const pictured = list ? nullptr : New<CPicturedList>();
+            if (pictured)
+                pictured->SetModel(&m_PicturedLines);
+            CList* const made = list ? list : pictured;
+            made->SetHotTrack(true);
+            made->m_SigItemClicked.connect(this, &CGame::ItemClicked);
+            m_Lists.push_back(made);
+            break;
+        }
+        default:
+        {
+            auto* const box = New<CListBox>();
+            box->GetViewer().SetModel(&m_Lines);
+            box->GetViewer().m_SigItemActivated.connect(this, &CGame::Activated);
+            m_ListBoxes.push_back(box);
+            break;
+        }
+        }
+    }
+    void ChangeLists()
+    {
+        int const deed = m_Random.Index(8);
+        m_Deed += " list " + std::to_string(deed);
+        if (deed == 0)
+            m_Lines.Set(NumberedLines(m_Random.Index(20)));
+        else if (deed == 1)
+            m_Group.SetCurrent(m_Random.Int(-1, 3));
+        // A list paints anew when it is told that its lines are others.
+        for (CList* const list : m_Lists)
+        {
+            if (deed == 0)
+                list->Update(utElement);
+            else if (deed == 2)
+                list->SetLineSpacing(m_Random.Int(0, 8));
+            else if (deed == 3)
+                list->SetOffset({m_Random.Index(8), 2, 3, 4});
+        }
+        for (CListBox* const box : m_ListBoxes)
+        {
+            CListBoxViewer& rows = box->GetViewer();
+            if (deed == 4)
+                rows.SetLineWidth(m_Random.Int(0, 200));
+            else if (deed == 5)
+                rows.SetCurrentItem(m_Random.Int(-1, 10));
+            else if (deed == 6)
+                rows.GetVertScroll()->SetStart(m_Random.Index(10));
+            else if (deed == 7)
+                rows.GetHorzScroll()->SetStart(m_Random.Index(60));
+        }
+    }
     void Step()
     {
         if (m_Tops.size() < 4)
             Add();
+        if (m_Random.Chance(15))
+        {
+            m_Deed.clear();
+            return ChangeLists();
+        }
         int const deed = m_Captions.empty() ? m_Random.Int(20, 29) : m_Random.Index(30);
         m_Deed = std::to_string(deed);
         if (deed < 20)
@@ -167,6 +286,9 @@ private:
     {
         m_Deed += " of " + ElementName(&caption);
         auto* const button = dynamic_cast<CButton*>(&caption);
+        // A round button does not paint over what a text leaves around its corners, so its text keeps away from them.
+        if (deed <= 4 && dynamic_cast<CRoundBgButton*>(&caption))
+            return caption.SetCaption(m_Random.Bool() ? "a" : "");
         switch (deed)
         {
         case 0:
@@ -221,7 +343,7 @@ private:
     }
     void Use(int deed)
     {
-        int const keys[] = {vkSpace, vkReturn};
+        int const keys[] = {vkSpace, vkReturn, vkDown, vkUp, vkEscape};
         switch (deed)
         {
         case 20:
@@ -241,6 +363,7 @@ private:
             break;
         case 26:
             m_Host.Clock().Advance(150);
+            m_Host.RunPending();
             break;
         case 27:
             m_Host.Focus();
@@ -257,8 +380,13 @@ private:
 
     CTestRandom m_Random;
     CTestImages m_Images{{{16, 12}, {7, 9}}};
+    CLinesModel m_Lines{NumberedLines(9)};
+    CPicturedLinesModel m_PicturedLines{NumberedLines(4)};
+    CRadioGroup m_Group;
     std::vector<CCaption*> m_Captions;
     std::vector<CVisualElement*> m_Tops;
+    std::vector<CList*> m_Lists;
+    std::vector<CListBox*> m_ListBoxes;
     CTestHost m_Host{400, 400};  // room for all: what finds none may stick out
     CSheet& m_Sheet = *new CSheet(m_Host.Root(), {0, 0}, alClient);
     std::string m_Deed;
@@ -271,11 +399,14 @@ private:
 TEST(IncrementalControls, LookAsIfPaintedAtOnce)
 {
     int clicks = 0;
+    int chosen = 0;
     for (int game = 0; game < 40 && !testing::Test::HasFailure(); ++game)
     {
         CGame play(static_cast<std::uint64_t>(game));
         play.Play(60);
         clicks += play.m_Clicks;
+        chosen += play.m_Chosen;
     }
     EXPECT_GT(clicks, 20);
+    EXPECT_GT(chosen, 20);
 }

@@ -3,6 +3,8 @@
 #include "vexel/controls/detail/scaled.h"
 #include "vexel/core/control.h"
 
+#include <algorithm>
+
 namespace vexel
 {
 
@@ -101,7 +103,7 @@ void CCheckBox::DrawContent(IPainter* painter)
         DrawFocusMark(painter, markWidth, text);
 }
 
-// Around the text; without one around the mark.
+// Around the text; without one around the mark. What sticks out would be inverted again by the next drawing, so it is cut.
 void CCheckBox::DrawFocusMark(IPainter* painter, int markWidth, size<double> const& text)
 {
     rectangle<int> const bounds = GetBounds();
@@ -109,12 +111,17 @@ void CCheckBox::DrawFocusMark(IPainter* painter, int markWidth, size<double> con
     {
         int const height = GetImageSize().height;
         int const top = GetCenteredTop(height);
-        painter->FocusRect(bounds.left, top, AddSaturated(bounds.left, markWidth), AddSaturated(top, height));
+        int const right = AddSaturated(bounds.left, markWidth);
+        if (right <= bounds.right)
+            painter->FocusRect(bounds.left, std::max(top, bounds.top), right,
+                               std::min(AddSaturated(top, height), bounds.bottom));
         return;
     }
     double const left = static_cast<double>(bounds.left) + markWidth + g_TextGap;
     double const top = ToInt((bounds.top + bounds.bottom - text.height) * 0.5 + 0.5);
-    painter->FocusRect(left - g_FocusGap, top, left + text.width + 3, top + text.height);
+    painter->FocusRect(left - g_FocusGap, std::max<double>(top, bounds.top),
+                       std::min<double>(left + text.width + 3, bounds.right),
+                       std::min<double>(top + text.height, bounds.bottom));
 }
 
 // Custom images -----------------------------------------------------------------------------------------------------------

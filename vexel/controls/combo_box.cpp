@@ -18,9 +18,9 @@ void CComboBox::Init(ISysWindow* window, bool editable)
     TakeNativeEdit(box, box.get(), {-1, -1, 0, 1});
     if (m_Bevel)
         return;
-    m_Bevel = new CBevel(this, {1, 1}, alRight);
+    m_Bevel.Watch(new CBevel(this, {1, 1}, alRight));
     int const side = std::max(detail::GetArrowWidth() - 1, 0);
-    m_Button = new CComboButton(this, {}, alRight);
+    m_Button.Watch(new CComboButton(this, {}, alRight));
     m_Button->SetSize({side, side}, false);
     m_Button->m_SigButtonDown.connect(this, &CComboBox::OnButtonDown);
 }

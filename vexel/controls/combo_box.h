@@ -3,6 +3,7 @@
 #include "vexel/controls/bevel.h"
 #include "vexel/controls/drop_button.h"
 #include "vexel/controls/editor.h"
+#include "vexel/core/element_ptr.h"
 
 namespace vexel
 {
@@ -18,8 +19,8 @@ public:
     /// nothing.
     void Init(ISysWindow* window, bool editable);
     IComboBox* GetComboBox() const { return static_cast<IComboBox*>(GetNativeEdit()); }  ///< Null before Init.
-    CComboButton* GetButton() const { return m_Button; }                                 ///< Null before Init.
-    CBevel* GetBevel() const { return m_Bevel; }                                         ///< Null before Init.
+    CComboButton* GetButton() const { return m_Button.get(); }                           ///< Null before Init.
+    CBevel* GetBevel() const { return m_Bevel.get(); }                                   ///< Null before Init.
 
     void OnButtonDown(CVisualElement* element, int x, int y, int keys, MouseButton button);  ///< On the arrow.
 
@@ -33,8 +34,8 @@ public:  // From CVisualElement
 private:
     void ShowDropDown();
 
-    CComboButton* m_Button = nullptr;  // children of this element
-    CBevel* m_Bevel = nullptr;
+    CElementPtr<CComboButton> m_Button;  // children of this element
+    CElementPtr<CBevel> m_Bevel;
 };
 
 }  // namespace vexel

@@ -53,6 +53,7 @@ void CList::SetModel(IItemsModel* model)
 void CList::ModelDies(IItemsModel*)
 {
     m_Model = nullptr;
+    Update(utElement);
 }
 
 void CList::AfterSetModel(IItemsModel*)
@@ -72,7 +73,10 @@ void CList::SetMetric(int& metric, int value)
     if (value == metric)
         return;
     metric = value;
+    CAliveGuard const alive(this);
     RecalcSize();
+    if (alive)
+        Update(utElement);  // the lines have moved, whether the height is another or not
 }
 
 void CList::SetLineSpacing(int spacing)
@@ -126,7 +130,12 @@ void CList::RecalcSize()
     m_RecalcPending = !GetWindow();
     if (m_RecalcPending)
         return;
-    m_LineHeight = std::max(GetItemSize(0).height, m_MinLineHeight);
+    int const lineHeight = std::max(GetItemSize(0).height, m_MinLineHeight);
+    if (lineHeight != m_LineHeight)
+    {
+        m_LineHeight = lineHeight;
+        Update(utElement);
+    }
     double const lines = static_cast<double>(GetLinePitch()) * count;
     SetHeight(ToInt(lines + m_Offset.top + m_Offset.bottom), false);
 }

@@ -49,12 +49,18 @@ void CRadioGroup::HandleChecked(CCheckBox* box)
         return;
     CAlivePtr<CRadioGroup> const alive(this);
     CAliveGuard const chosen(box);
-    for (int i = 0; alive && chosen && box->IsChecked() && i < GetCount(); ++i)
+    std::vector<CRadioButton*> const buttons = m_Buttons;
+    for (CRadioButton* const button : buttons)
     {
-        if (GetButton(i) == box)
-            ChangeCurrent(i);
+        if (!alive || !chosen || !box->IsChecked())
+            return;
+        auto const place = std::find(m_Buttons.begin(), m_Buttons.end(), button);
+        if (place == m_Buttons.end())
+            continue;  // died in the walk
+        if (button == box)
+            ChangeCurrent(static_cast<int>(place - m_Buttons.begin()));
         else
-            GetButton(i)->SetChecked(false);
+            button->SetChecked(false);
     }
 }
 

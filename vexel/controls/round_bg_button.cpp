@@ -255,10 +255,10 @@ void CRoundBgButton::DrawBkgImage(IPainter* painter, InternalBgImageIndex index)
     vexel_ptr<IRasterPicture> const picture = GetCurrentPicture(index);
     if (!painter || !picture || !IsLargeEnough())
         return;
-    rectangle<int> const bounds = GetBounds();
+    rectangle<int> const bounds = GetBounds();  // as many pixels from the picture, so that nothing is stretched
     painter->DrawRasterPictureEx(picture.get(), bounds.left, bounds.top, bounds.right, bounds.bottom, m_BgOffsetX,
-                                 m_BgOffsetY, AddSaturated(m_BgOffsetX, bounds.right - 1),
-                                 AddSaturated(m_BgOffsetY, bounds.bottom - 1), IPainter::roXor);
+                                 m_BgOffsetY, AddSaturated(m_BgOffsetX, bounds.right),
+                                 AddSaturated(m_BgOffsetY, bounds.bottom), IPainter::roXor);
 }
 
 void CRoundBgButton::ApplyRoundRectMask(IPainter* painter)

@@ -24,7 +24,7 @@ namespace vexel::test
 ///     DrawControlElement 7 0 0 79 23 0x8              DrawXPM 16x16 2 2
 ///     DrawRasterPicture 16x16 0 0 15 15               DrawRasterPicture 16x16 0 0 15 15 xor
 ///     DrawRasterPictureEx 16x16 0 0 31 31 from 0 0 15 15
-///     AlphaBlend 0 0 15 15 16x16 127                  ExtractRasterPicture 16x16 0 0 15 15
+///     AlphaBlend 16x16 0 0 15 15 127                  ExtractRasterPicture 16x16 0 0 15 15
 ///     SetClipRect 0 0 9 9                 SetClipRect 2 2 7 7 exclude   SimpleSetClipRect 0 0 10 10
 ///     ResetClip                           SetDrawMode xor               SetPixel 3 4 red
 ///     SetCoordSystem 3 0 0 20 40 10 5 20 40    (mode, logical origin and extent, device origin and extent)
