@@ -31,7 +31,7 @@ public:
     CCellEditing(Grid& grid, SCells cells);
 
     signal_t<int, int, std::string const&> m_SigEdited;  ///< Row, column and what was kept.
-    signal_t<> m_SigHidden;                               ///< The editor was scrolled away.
+    signal_t<> m_SigHidden;                              ///< The editor was scrolled away.
 
 private:
     void GridDoubleClicked(CVisualElement*, int x, int y, int, MouseButton button);
@@ -50,7 +50,7 @@ private:
     CLineEditor* const m_Line;  // children of the grid
     CComboBox* const m_Box;
     CControlEditor* m_Editor = nullptr;  // that is at work
-    bool m_Away = false;  // it was scrolled out of the view
+    bool m_Away = false;                 // it was scrolled out of the view
     int m_Row = -1;
     int m_Column = -1;
 };

@@ -1,7 +1,7 @@
 // Whatever a slot does away with while a user works at a header, the header touches nothing that is dead.
 
 #include "tests/headers/header_grid.h"
-#include "tests/support/deed_scene.h"
+#include "tests/support/deed_play.h"
 #include "tests/support/slot.h"
 #include "vexel/signals/cancel_processing.h"
 #include "vexel/views/discrete_item_view_model.h"
@@ -18,10 +18,10 @@ namespace
 {
 
 // A header over a grid in a scroll box, 200 x 100; columns of 50 pixels.
-class CScene : public CDeedScene
+class CScene : public CDeedPlay<CSimpleHeader>
 {
 public:
-    CScene()
+    CScene() : CDeedPlay<CSimpleHeader>({200, 100})
     {
         m_Host->Focus();
         m_Header->SetBkColor(color_table[3]);
@@ -40,12 +40,10 @@ public:
         m_Host->Paint();
         m_Sorter->SetFocus(true);
     }
-    ~CScene() { StopWatching(); }
-    CScene(CScene const&) = delete;
-    CScene& operator=(CScene const&) = delete;
+    ~CScene() { End(); }
 
     // Everything that a user can do, each step on its own.
-    static std::vector<std::function<void(CTestHost&)>> Steps()
+    static std::vector<Step> Steps()
     {
         using H = CTestHost;
         return {[](H& host) { host.Mouse().Press(10, 10, mbRight); },
@@ -82,37 +80,12 @@ public:
     }
     void Run(int misdeedAt = -1, std::function<void(CScene&)> const& misdeed = {})
     {
-        int step = 0;
-        for (auto const& act : Steps())
-        {
-            if (step++ == misdeedAt)
-                misdeed(*this);
-            if (m_Host->HasControl())
-                act(*m_Host);
-        }
+        Play(Steps(), misdeedAt, [&] { misdeed(*this); });
     }
 
     // Misdeeds
-    void DeleteHeader()
-    {
-        if (IsThere(m_Header))
-            delete m_Header;
-    }
-    void DeleteGrid()
-    {
-        if (IsThere(m_Grid))
-            delete m_Grid;
-    }
-    void DeleteBox()
-    {
-        if (IsThere(m_Box))
-            delete m_Box;
-    }
-    void DeleteControl()
-    {
-        if (m_Host->HasControl())
-            m_Host->DestroyControl();
-    }
+    void DeleteGrid() { Delete(m_Grid); }
+    void DeleteBox() { Delete(m_Box); }
     void DeleteSections()
     {
         if (IsThere(m_Grid))
@@ -144,39 +117,11 @@ public:
         if (m_Columns)
             m_Columns->SetCount(0);
     }
-    void Detach()
-    {
-        if (IsThere(m_Header) && m_Header->GetParent())
-        {
-            m_Header->ReParent(nullptr, true);
-            m_Detached.reset(m_Header);
-        }
-    }
-    void Hide()
-    {
-        if (IsThere(m_Header))
-            m_Header->SetVisible(false);
-    }
-    void Disable()
-    {
-        if (IsThere(m_Header))
-            m_Header->SetEnabled(false);
-    }
-
-    bool IsThere(CVisualElement* element) const
-    {
-        if (element == m_Header && m_Detached)
-            return true;
-        return m_Host->HasControl() && IsAlive(element);
-    }
 
 private:
     void Watch(CSimpleHeader& header)
     {
-        WatchElements({m_Header, m_Grid, m_Box, m_Sorter}, [this](CVisualElement* dead) {
-            if (dead == m_Header)
-                static_cast<void>(m_Detached.release());
-        });
+        WatchWidget(m_Header, {m_Grid, m_Box, m_Sorter});
         On<CSimpleHeader*, int, bool*>("canResize", header.m_SigCanResize);
         On<CSimpleHeader*, int, int, bool*>("resizing", header.m_SigResizing);
         On<CSimpleHeader*, int, int>("resized", header.m_SigResized);
@@ -196,96 +141,50 @@ public:
     CSections m_Others{{30, 40}};
     std::unique_ptr<CSections> m_Sections = std::make_unique<CSections>(std::vector<int>{50, 50, 50, 50, 50, 50});
     std::unique_ptr<CDefaultDiscreteItemViewModel> m_Columns = std::make_unique<CDefaultDiscreteItemViewModel>();
-    std::unique_ptr<CTestHost> m_Host = std::make_unique<CTestHost>(200, 100);
     CScrollBox* const m_Box = new CScrollBox(m_Host->Root(), {0, 0}, alClient);
     CSimpleHeader* const m_Header = new CSimpleHeader(m_Box, {20, 20}, alTop);
     CViewPane* const m_Sorter = new CViewPane(m_Box, {10, 10}, alBottom);
     CSectionGrid* const m_Grid = new CSectionGrid(m_Box, m_Sections.get());
-
-private:
-    std::unique_ptr<CSimpleHeader> m_Detached;
 };
 
-struct SMisdeed
-{
-    char const* name;
-    std::function<void(CScene&)> deed;
-};
-SMisdeed const g_Misdeeds[] = {{"DeleteHeader", &CScene::DeleteHeader},
-                               {"DeleteGrid", &CScene::DeleteGrid},
-                               {"DeleteBox", &CScene::DeleteBox},
-                               {"DeleteControl", &CScene::DeleteControl},
-                               {"DeleteSections", &CScene::DeleteSections},
-                               {"DeleteColumns", &CScene::DeleteColumns},
-                               {"DeleteModels", &CScene::DeleteModels},
-                               {"SwapModels", &CScene::SwapModels},
-                               {"DropModels", &CScene::DropModels},
-                               {"Empty", &CScene::Empty},
-                               {"Detach", &CScene::Detach},
-                               {"Hide", &CScene::Hide},
-                               {"Disable", &CScene::Disable},
-                               {"Cancel", [](CScene&) { throw vexel::cancel_processing(); }}};
+SMisdeed<CScene> const g_Misdeeds[] = {{"DeleteHeader", &CScene::DeleteWidget},
+                                       {"DeleteGrid", &CScene::DeleteGrid},
+                                       {"DeleteBox", &CScene::DeleteBox},
+                                       {"DeleteControl", &CScene::DeleteControl},
+                                       {"DeleteSections", &CScene::DeleteSections},
+                                       {"DeleteColumns", &CScene::DeleteColumns},
+                                       {"DeleteModels", &CScene::DeleteModels},
+                                       {"SwapModels", &CScene::SwapModels},
+                                       {"DropModels", &CScene::DropModels},
+                                       {"Empty", &CScene::Empty},
+                                       {"Detach", &CScene::Detach},
+                                       {"Hide", &CScene::Hide},
+                                       {"Disable", &CScene::Disable},
+                                       {"Cancel", [](CScene&) { throw vexel::cancel_processing(); }}};
 char const* const g_Signals[] = {"canResize", "resizing", "resized",  "canDrag",   "dragOver",   "moved",  "canPress",
                                  "clicked",   "double",   "getFocus", "lostFocus", "columnSize", "columns"};
 
-class SimpleHeaderDeletion : public testing::TestWithParam<int>
-{
-protected:
-    SMisdeed const& Misdeed() const { return g_Misdeeds[GetParam()]; }
-};
-INSTANTIATE_TEST_SUITE_P(ByDeed, SimpleHeaderDeletion, testing::Range(0, static_cast<int>(std::size(g_Misdeeds))),
-                         [](testing::TestParamInfo<int> const& param) {
-                             return std::string(g_Misdeeds[param.param].name);
-                         });
+class SimpleHeaderDeletion : public CDeedTest<CScene>
+{};
+INSTANTIATE_TEST_SUITE_P(ByDeed, SimpleHeaderDeletion, testing::ValuesIn(g_Misdeeds), NameOfDeed());
 
 }  // namespace
 
 TEST_P(SimpleHeaderDeletion, InASlotIsSurvived)
 {
-    for (char const* const signal : g_Signals)
-    {
-        int fired = 0;
-        {
-            CScene scene;
-            auto const ear = scene.m_Connect.at(signal)([&] { ++fired; });
-            scene.Run();
-        }
-        EXPECT_GT(fired, 0) << signal;
+    DoInEachSlot(g_Signals, [this](std::string const& signal) {
         // Amid its change a view model must not die.
-        if (signal == std::string("columnSize") && std::string(Misdeed().name).find("Columns") != std::string::npos)
-            continue;
-        if (signal == std::string("columnSize") && Misdeed().name == std::string("DeleteModels"))
-            continue;
-        for (int turn = 1; turn <= fired && turn <= 6; ++turn)
-        {
-            SCOPED_TRACE(std::string(signal) + " " + std::to_string(turn));
-            CScene scene;
-            int count = 0;
-            auto const ear = scene.m_Connect.at(signal)([&] {
-                if (++count == turn)
-                    Misdeed().deed(scene);
-            });
-            scene.Run();
-            EXPECT_GE(count, turn);
-        }
-    }
+        return signal == "columnSize" && (Is("DeleteColumns") || Is("DeleteModels"));
+    });
 }
 
 TEST_P(SimpleHeaderDeletion, BetweenTwoEventsIsSurvived)
 {
-    if (Misdeed().name == std::string("Cancel"))
-        return;  // nobody would catch it
-    int const steps = static_cast<int>(CScene::Steps().size());
-    for (int step = 0; step < steps; ++step)
-    {
-        SCOPED_TRACE(step);
-        CScene scene;
-        scene.Run(step, Misdeed().deed);
-        if (scene.IsThere(scene.m_Header))
-        {
-            if (!scene.m_Header->GetControl())
-                scene.m_Header->HandleMouseMove(0, 0, 0, mbNone);
-            EXPECT_EQ(scene.m_Header->GetState(), CSimpleHeader::stIdle);
-        }
-    }
+    DoBeforeEachStep([](CScene& scene) {
+        if (!scene.IsThere(scene.m_Header))
+            return;
+        if (!scene.m_Header->GetControl())
+            scene.m_Header->HandleMouseMove(0, 0, 0, mbNone);
+        EXPECT_EQ(scene.m_Header->GetState(), CSimpleHeader::stIdle);
+    });
 }
