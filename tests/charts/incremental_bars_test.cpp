@@ -1,10 +1,9 @@
 // A bar painted bit by bit looks as if painted at once: played with random users.
 
 #include "tests/charts/bar_bench.h"
+#include "tests/support/game.h"
 #include "tests/support/slot.h"
 #include "vexel/testing/random.h"
-
-#include <deque>
 
 using namespace vexel;
 using namespace vexel::test;
@@ -55,7 +54,7 @@ public:
             break;
         case 1:
             m_Host.Clock().Advance(100);
-            Note("time");
+            m_Log.Note("time");
             break;
         case 2:
         case 3:
@@ -64,27 +63,20 @@ public:
             m_Host.Keyboard().Hold(m_Random.Chance(30) ? ksShift : m_Random.Chance(30) ? ksControl : 0);
             mouse.Press();
             m_Host.Keyboard().Hold(0);
-            Note("press");
+            m_Log.Note("press");
             break;
         case 4:
         case 5:
             mouse.Release();
-            Note("release");
+            m_Log.Note("release");
             break;
         case 6:
             mouse.Leave();
-            Note("leave");
+            m_Log.Note("leave");
             break;
         default:
-        {
-            rectangle<int> const bounds = m_Bar.GetBounds();
-            int const margin = m_Random.Chance(20) ? 40 : 2;
-            int const x = m_Random.Int(-margin, bounds.right + margin);
-            int const y = m_Random.Int(-margin, bounds.bottom + margin);
-            mouse.Move(m_Bar, x, y);
-            Note("move " + std::to_string(x) + " " + std::to_string(y));
+            MoveAbout(m_Host, m_Bar, m_Random, m_Log);
             break;
-        }
         }
     }
     bool IsDragged() const { return m_Bar.GetDragSection() >= 0; }
@@ -101,9 +93,7 @@ public:
     {
         std::string text = "bar at " + Describe(m_Bar.GetPos()) + ", docked " + std::to_string(m_Bar.GetAlignment()) +
                            ", pane at " + Describe(m_Pane.GetPos()) + (IsReversed() ? ", reversed\n" : "\n");
-        for (std::string const& note : m_Notes)
-            text += note + "\n";
-        return text;
+        return text + m_Log.Text();
     }
 
 private:
@@ -157,13 +147,7 @@ private:
             break;
         }
         }
-        Note("own " + std::to_string(move));
-    }
-    void Note(std::string const& what)
-    {
-        m_Notes.push_back(what);
-        if (m_Notes.size() > 30)
-            m_Notes.pop_front();
+        m_Log.Note("own " + std::to_string(move));
     }
 
     CTestHost& m_Host;
@@ -174,7 +158,7 @@ private:
     CBarPane& m_Margin;
     CBarPane& m_Pane;
     std::unique_ptr<CSlot<int, double>> m_Resizing;
-    std::deque<std::string> m_Notes;
+    CGameLog m_Log{30};
 };
 
 class IncrementalBars : public testing::TestWithParam<double>

@@ -130,30 +130,11 @@ private:
             m_Log.Note("leave");
             break;
         default:
-        {
-            rectangle<int> const bounds = m_Header->GetBounds();
-            int const margin = m_Random.Chance(20) ? 40 : 2;
-            int const x = m_Random.Int(-margin, bounds.right + margin);
-            int const y = m_Random.Int(-margin, bounds.bottom + margin);
-            mouse.Move(*m_Header, x, y);
-            m_Log.Note("move " + std::to_string(x) + " " + std::to_string(y));
+            MoveAbout(m_Host, *m_Header, m_Random, m_Log);
             break;
         }
-        }
     }
-    void Scroll()
-    {
-        if (m_Random.Bool())
-        {
-            m_Host.Clock().Advance(100);
-            m_Log.Note("time");
-            return;
-        }
-        IScrollModel* const model = m_Box->GetWrappedHorzScroll();
-        double const to = m_Random.Int(0, ToInt(model->GetTo()));
-        model->SetStart(to);
-        m_Log.Note("scroll " + std::to_string(to));
-    }
+    void Scroll() { WaitOrScroll(m_Host, *m_Box->GetWrappedHorzScroll(), m_Random, m_Log); }
     CItem* AnyItem()
     {
         CItemList const* list = &m_Tree;

@@ -1,5 +1,6 @@
 #include "tests/support/game.h"
 
+#include "vexel/platform/convert.h"
 #include "vexel/testing/describe.h"
 #include "vexel/testing/names.h"
 
@@ -25,6 +26,29 @@ std::string CGameLog::Text() const
     for (std::string const& step : m_Steps)
         text += step + "\n";
     return text;
+}
+
+void MoveAbout(CTestHost& host, CVisualElement& element, CTestRandom& random, CGameLog& log)
+{
+    rectangle<int> const bounds = element.GetBounds();
+    int const margin = random.Chance(20) ? 40 : 2;
+    int const x = random.Int(-margin, bounds.right + margin);
+    int const y = random.Int(-margin, bounds.bottom + margin);
+    host.Mouse().Move(element, x, y);
+    log.Note("move " + std::to_string(x) + " " + std::to_string(y));
+}
+
+void WaitOrScroll(CTestHost& host, IScrollModel& model, CTestRandom& random, CGameLog& log)
+{
+    if (random.Bool())
+    {
+        host.Clock().Advance(100);
+        log.Note("time");
+        return;
+    }
+    double const to = random.Int(0, ToInt(model.GetTo()));
+    model.SetStart(to);
+    log.Note("scroll " + std::to_string(to));
 }
 
 std::string DescribeTree(CVisualElement* element, std::string const& indent)

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "vexel/core/visual_element.h"
+#include "vexel/scroll/scroll_model.h"
+#include "vexel/testing/random.h"
+#include "vexel/testing/test_host.h"
 
 #include <cstddef>
 #include <deque>
@@ -24,6 +27,11 @@ private:
     std::size_t const m_Kept;
     std::deque<std::string> m_Steps;
 };
+
+/// The pointer goes somewhere over the element, or a bit beside it.
+void MoveAbout(CTestHost& host, CVisualElement& element, CTestRandom& random, CGameLog& log);
+/// Time passes, or the model goes somewhere.
+void WaitOrScroll(CTestHost& host, IScrollModel& model, CTestRandom& random, CGameLog& log);
 
 /// A line for an element and for each below it, indented: name, place, wanted size and what is special about it.
 std::string DescribeTree(CVisualElement* element, std::string const& indent = "");
