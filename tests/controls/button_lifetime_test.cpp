@@ -27,15 +27,10 @@ namespace
 using Deed = std::function<void()>;
 using Slot = std::shared_ptr<void>;
 
-template <class Signal, class... A>
-Slot OnWith(Signal& signal, Deed const& deed, std::type_identity<plinth::_internal::arguments_t<A...>>)
-{
-    return Listen(signal, [deed](A...) { deed(); });
-}
 /// Does the deed each time the signal fires, whatever its arguments are.
 template <class... A> Slot On(signal_t<A...>& signal, Deed const& deed)
 {
-    return OnWith(signal, deed, std::type_identity<plinth::_internal::used_arguments_t<A...>>());
+    return ListenToAny(signal, deed);
 }
 
 struct SSignal

@@ -1,6 +1,7 @@
 // What a multi-level header draws.
 
 #include "tests/headers/tree_bench.h"
+#include "tests/support/paint_calls.h"
 #include "tests/support/test_images.h"
 
 #include <gmock/gmock.h>
@@ -50,15 +51,6 @@ public:
     }
     void DrawSortingMarker(IPainter*, bool, point<double> const&) override {}
 };
-
-std::string CallsFrom(PaintLog const& log, std::string const& prefix)
-{
-    std::string text;
-    for (std::string const& call : log.Calls())
-        if (call.starts_with(prefix))
-            text += (text.empty() ? "" : "; ") + call.substr(prefix.size() + 1);
-    return text;
-}
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 // What a header draws.
 
 #include "tests/headers/header_bench.h"
+#include "tests/support/paint_calls.h"
 #include "tests/support/test_images.h"
 #include "vexel/views/continuous_item_view_model.h"
 
@@ -54,15 +55,6 @@ public:
         CSimpleHeader::DrawEmptyArea(painter, left, top, right, bottom);
     }
 };
-
-std::string CallsFrom(PaintLog const& log, std::string const& prefix)
-{
-    std::string text;
-    for (std::string const& call : log.Calls())
-        if (call.starts_with(prefix))
-            text += (text.empty() ? "" : "; ") + call.substr(prefix.size() + 1);
-    return text;
-}
 
 }  // namespace
 

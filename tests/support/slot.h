@@ -36,3 +36,24 @@ template <class Signal, class Closure> [[nodiscard]] auto Listen(Signal& signal,
 {
     return detail::Listen(signal, std::function(std::move(closure)));
 }
+
+namespace detail
+{
+
+template <class Signal, class... Arguments>
+std::unique_ptr<plinth::subscriber_base_t> ListenToAny(Signal& signal, std::function<void()> closure,
+                                                       plinth::_internal::arguments_t<Arguments...>*)
+{
+    return Listen(signal, std::function<void(Arguments...)>([closure](Arguments...) { closure(); }));
+}
+
+}  // namespace detail
+
+/// Connects a closure that doesn't care for the signal's arguments.
+template <class... Arguments>
+[[nodiscard]] std::unique_ptr<plinth::subscriber_base_t> ListenToAny(plinth::signal_t<Arguments...>& signal,
+                                                                     std::function<void()> closure)
+{
+    return detail::ListenToAny(signal, std::move(closure),
+                               static_cast<plinth::_internal::used_arguments_t<Arguments...>*>(nullptr));
+}

@@ -109,11 +109,7 @@ public:
 private:
     template <class... A> void Watch(signal_t<A...>& signal)
     {
-        Connect(signal, static_cast<plinth::_internal::used_arguments_t<A...>*>(nullptr));
-    }
-    template <class Signal, class... A> void Connect(Signal& signal, plinth::_internal::arguments_t<A...>*)
-    {
-        m_Slots.push_back(Listen(signal, [this](A...) { Called(); }));
+        m_Slots.push_back(ListenToAny(signal, [this] { Called(); }));
     }
     void Called()
     {
