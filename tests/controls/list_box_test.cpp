@@ -149,6 +149,20 @@ TEST_F(ListBoxViewer, HasAsManyRowsAsItsModel)
     EXPECT_EQ(m_Rows.GetRowViewModel()->GetCount(), 0);
     other.Set(NumberedLines(2));
     EXPECT_EQ(m_Rows.GetRowViewModel()->GetCount(), 0);
+    m_Rows.SetModel(&m_Model);
+    m_Rows.SetModel(&m_Model);
+    EXPECT_EQ(m_Rows.GetRowViewModel()->GetCount(), 7);
+}
+
+TEST_F(ListBoxViewer, ARowThatHasGoneIsNotHotAnyMore)
+{
+    Move(45);
+    m_Model.Set(NumberedLines(5));
+    EXPECT_EQ(m_Rows.GetHotItem(), 4);
+    m_Model.Set(NumberedLines(4));
+    EXPECT_EQ(m_Rows.GetHotItem(), -1);
+    m_Host.Mouse().Press();
+    EXPECT_EQ(m_Log.Count("activated"), 0);
 }
 
 TEST_F(ListBoxViewer, AModelThatDiesLeavesNoRows)

@@ -510,6 +510,11 @@ TEST_F(RoundBgButton, ASeeThroughOneIsPaintedAsideAndBlended)
                          .Then("AlphaBlend 100x30 0 0 100 30 60")
                          .Then("DrawStringEx \"abc\"*"));
     EXPECT_EQ(log.Count("picture RoundRect 0 0 99 29 5 5"), 2) << "once more behind the corners";
+    EXPECT_EQ(log.Count("ExtractRasterPictureEx*"), 4);
+    EXPECT_THAT(log, Draws("ExtractRasterPictureEx 100x30 0 0 3 3 to 0 0 3 3"));
+    EXPECT_THAT(log, Draws("ExtractRasterPictureEx 100x30 0 26 3 29 to 0 26 3 29"));
+    EXPECT_THAT(log, Draws("ExtractRasterPictureEx 100x30 96 0 99 3 to 96 0 99 3"));
+    EXPECT_THAT(log, Draws("ExtractRasterPictureEx 100x30 96 26 99 29 to 96 26 99 29"));
     EXPECT_EQ(log.Count("DrawRasterPictureEx*"), 0);
     CRoundBgButton::SetButtonTransparency(CRoundBgButton::BgHighlighted, 33);
     m_Host.Mouse().Move(m_Button, 50, 10);

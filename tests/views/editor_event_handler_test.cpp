@@ -203,6 +203,16 @@ TEST_F(EditorEventHandler, AnEditorThatWasHiddenBeforeStaysHidden)
     EXPECT_EQ(m_Notify.m_Hidden, 0);
 }
 
+TEST_F(EditorEventHandler, AnEditorThatWasShownMeanwhileComesBackShown)
+{
+    m_Editor.SetVisible(false);
+    m_Handler.UpdateEditor();
+    m_Editor.SetVisible(true);
+    EXPECT_EQ(Scroll(0, -500), "hidden");
+    EXPECT_EQ(m_Notify.m_Hidden, 1);
+    EXPECT_EQ(Scroll(0, 500), "(10, 40, 70, 70)");
+}
+
 TEST_F(EditorEventHandler, ASmallEditorIsNeverShownByAScroll)
 {
     m_Editor.SetPos({10, 40, 70, 57}, false);
