@@ -51,6 +51,44 @@ public:
     void DrawSortingMarker(IPainter*, bool, point<double> const&) override {}
 };
 
+// As the header itself, but for the sort marks, which it writes down.
+class CMarkingLook : public IHeaderItemVisualisation
+{
+public:
+    explicit CMarkingLook(CHeader& header) : m_Header(header) {}
+
+    std::string m_Told;
+
+    int GetVisualisationState(IHeaderItem const* item) const override { return m_Header.GetVisualisationState(item); }
+    rectangle<double> GetExpandBtnRect(rectangle<double> const& section, IHeaderItem const* item) const override
+    {
+        return m_Header.GetExpandBtnRect(section, item);
+    }
+    rectangle<double> GetSectionContentRect(rectangle<double> const& section, IHeaderItem const* item) const override
+    {
+        return m_Header.GetSectionContentRect(section, item);
+    }
+    void DrawSectionBackground(IPainter* painter, rectangle<double> const& section, IHeaderItem const* item) override
+    {
+        m_Header.DrawSectionBackground(painter, section, item);
+    }
+    void DrawSectionContent(IPainter* painter, rectangle<double> const& content, IHeaderItem const* item) override
+    {
+        m_Header.DrawSectionContent(painter, content, item);
+    }
+    void DrawExpandButton(IPainter* painter, rectangle<double> const& button, IHeaderItem const* item) override
+    {
+        m_Header.DrawExpandButton(painter, button, item);
+    }
+    void DrawSortingMarker(IPainter*, bool up, point<double> const& position) override
+    {
+        m_Told += std::string(up ? "up" : "down") + " at " + std::to_string(static_cast<int>(position.x)) + "; ";
+    }
+
+private:
+    CHeader& m_Header;
+};
+
 std::string CallsFrom(PaintLog const& log, std::string const& prefix)
 {
     std::string text;
@@ -309,4 +347,15 @@ TEST_F(HeaderPaint, AMarkWithoutATextStandsAtTheLeft)
     m_Tree["B"].m_Sorting = 2;
     m_Tree["B"].m_Name = "";
     EXPECT_THAT(Draw(), Draws("Polygon 105 29 113 29 109 33"));
+}
+
+TEST_F(HeaderPaint, AnotherLookDrawsTheMarksOfContentsThatTheHeaderDraws)
+{
+    CMarkingLook look(m_Header);
+    m_Header.SetItemVisualisation(&look);
+    m_Tree["a"].m_Sorting = 1;
+    m_Tree["B"].m_Sorting = 2;
+    EXPECT_THAT(Draw(), Not(Draws("Polygon*")));
+    EXPECT_EQ(look.m_Told, "up at 15; down at 115; ");  // labels of 8 from 4 and from 104, 3 further
+    m_Header.SetItemVisualisation(nullptr);
 }
