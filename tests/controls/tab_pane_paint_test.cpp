@@ -581,6 +581,16 @@ TEST_F(TabPanePaint, OverAPictureAPaneThatMovesIsPaintedAnew)
     EXPECT_EQ(DrawnTabs(), "0 1 2");
 }
 
+TEST_F(TabPanePaint, OverAPictureAPaneThatIsPutIntoItsPlaceByForceIsPaintedAnew)
+{
+    SetPicture(true);
+    m_Host.FullPaint();
+    Settle();
+    m_Host.Mouse().Move(m_Pane, 5, 5);  // the tab under it waits
+    m_Pane.SetPos(m_Pane.GetPos(), true);
+    EXPECT_EQ(DrawnTabs(), "0 1 2");
+}
+
 TEST_F(TabPanePaint, APaneThatIsNoLongerTransparentIsPaintedAnewEvenWhereOneTabWaits)
 {
     m_Pane.SetTransparent(true);

@@ -178,6 +178,22 @@ TEST_F(HeaderDrag, OverASectionAboveThereIsNoSiblingAndTheTargetIsTheLast)
     EXPECT_EQ(TargetOf(10, 30, 40, 100), 3);  // below the header
 }
 
+TEST_F(HeaderDrag, AtTheParentsLeftEdgeThePointerIsNotBeforeIt)
+{
+    EXPECT_EQ(TargetOf(10, 30, 0, 30), 0);
+    EXPECT_EQ(TargetOf(10, 30, 0, 10), 3);  // over A, no sibling
+}
+
+TEST_F(HeaderDrag, TheTargetIsAtTheRealPointAlsoOfNarrowSections)
+{
+    m_Tree.Read("P:50 Q:2 R:2 S:60");  // 0 to 49, 50 to 51, 52 to 53, from 54
+    m_Tree.m_SigChanged();
+    EXPECT_EQ(TargetOf(10, 30, 50, 30), 1);
+    EXPECT_EQ(TargetOf(10, 30, 51, 30), 2);
+    EXPECT_EQ(TargetOf(10, 30, 53, 30), 3);
+    EXPECT_EQ(TargetOf(10, 30, 54, 30), 3);
+}
+
 TEST_F(HeaderDrag, TheOwnerMovesTheSectionToWhereItWasLastOver)
 {
     IHeaderItem* over = nullptr;

@@ -453,6 +453,31 @@ TEST_F(HeaderInput, ACaptionThatFitsInASectionOfTwoLinesIsNoTip)
     EXPECT_EQ(m_Host.Tooltip(m_Header, 152, 10), "B");
 }
 
+TEST_F(HeaderInput, ASectionIsTooNarrowForItsCaptionByMoreThanAPixel)
+{
+    // The caption wants 33 pixels.
+    m_Header.SetStretchLastItem(false);
+    m_Tree["a"].m_Width = 33;
+    m_Tree.m_SigChanged();
+    ASSERT_EQ(m_Header.GetItemOptimalWidth(&m_Tree["a"]), 33);
+    EXPECT_EQ(m_Host.Tooltip(m_Header, 10, 30), "");  // 0 to 32
+    m_Tree["a"].m_Width = 32;
+    m_Tree.m_SigChanged();
+    EXPECT_EQ(m_Host.Tooltip(m_Header, 11, 31), "a");
+}
+
+TEST_F(HeaderInput, ASectionLowerThanTwoLinesShowsItsCaption)
+{
+    m_Header.SetSize({60, 16}, false);  // 0 to 16; lines of 8
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.Tooltip(m_Header, 150, 10), "");
+    m_Header.SetSize({60, 15}, false);
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.Tooltip(m_Header, 151, 10), "B");
+    m_Tree["B"].m_Description = "About B";
+    EXPECT_EQ(m_Host.Tooltip(m_Header, 152, 10), "About B");
+}
+
 TEST_F(HeaderInput, ATipMayBeFilledInByASubclass)
 {
     class CTelling : public CHeader
