@@ -187,6 +187,25 @@ TEST_F(TabPanePaint, WithoutStateTheButtonDrawsNothing)
     EXPECT_THAT(m_Host.FullPaint().Of("show"), Not(Draws("LineTo*")));
 }
 
+TEST_F(TabPanePaint, TheCrossStandsWholeSpacesInside)
+{
+    struct SShow : CVisualElement
+    {
+        SShow(CVisualElement* parent, CTabPane& pane) : CVisualElement(parent, {20, 20}, alTop), m_Pane(pane) {}
+        void DrawContent(IPainter* painter) override { m_Pane.DrawCloseButton(painter, 0, {0, 0, 12, 12}, tsSelected); }
+        CTabPane& m_Pane;
+    };
+    {
+        CTestHost host(200, 60, 1.4);
+        auto& pane = *new CTestPane(host.Root(), {0, 20}, alBottom);
+        auto& show = *new SShow(host.Root(), pane);
+        NameElement(show, "show");
+        // A space of 2.8 is one of 2 pixels, and one and a half of these are 3.
+        EXPECT_THAT(host.FullPaint().Of("show"), Draws("MoveTo 3 3").Then("LineTo 9 9"));
+    }
+    CTestHost::System().SetScale(1.0);
+}
+
 TEST_F(TabPanePaint, AtAnotherScaleTheCrossHasAnEvenWidth)
 {
     CTestHost host(400, 60, 1.5);

@@ -58,6 +58,26 @@ TEST_F(HeaderDrag, ASectionIsDraggedFromItsMiddle)
     EXPECT_EQ(Dragged(), nullptr);
 }
 
+TEST_F(HeaderDrag, WhatLiesUnderThePointerAtTheDropIsHot)
+{
+    Drag(10, 30, 90, 30);  // over c
+    m_Log.Clear();
+    m_Host.Paint();
+    Drop();
+    EXPECT_EQ(m_Log.Take(), "dropped(a 0) canPress(c)");
+    EXPECT_EQ(Doing(), "0 c -1 1");
+    EXPECT_TRUE(IsRepaintPending(m_Host));
+}
+
+TEST_F(HeaderDrag, WithoutATargetNothingIsDropped)
+{
+    ASSERT_TRUE(m_Header.HandleStartDragging(10, 30, m_Info));
+    m_Log.Clear();
+    m_Header.HandleDropDone(&m_Header, 10, 30, m_Info);
+    EXPECT_EQ(m_Log.Take(), "");
+    m_Header.HandleDragFinished(nullptr, m_Info);
+}
+
 TEST_F(HeaderDrag, AParentHasNoColumn)
 {
     Drag(20, 10, 30, 10);
@@ -257,6 +277,20 @@ TEST_F(HeaderDrag, BeyondTheEndsTheViewScrolls)
     EXPECT_EQ(m_Scroll.m_Start, 58);
     Drop();
     EXPECT_FALSE(m_Header.IsScrolling());
+}
+
+TEST_F(HeaderDrag, TheEndsThemselvesAreInside)
+{
+    m_Scroll.m_Start = 50;
+    m_Scroll.m_To = 100;
+    for (auto const& [outside, inside] : std::vector<std::pair<int, int>>{{200, 199}, {-1, 0}})
+    {
+        Drag(120, 30, outside, 30);
+        EXPECT_TRUE(m_Header.IsScrolling()) << outside;
+        Move(inside, 30);
+        EXPECT_FALSE(m_Header.IsScrolling()) << inside;
+        Drop();
+    }
 }
 
 TEST_F(HeaderDrag, ADragThatIsBrokenOffScrollsNoMore)

@@ -196,6 +196,16 @@ TEST_F(HeaderInput, ADraggedGripResizesItsColumn)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+TEST_F(HeaderInput, AColumnThatIsResizedLooksHotWithoutAMoveBefore)
+{
+    m_Header.SetCursor(9);
+    m_Header.HandleButtonDown(36, 30, ksLeft, mbLeft);
+    EXPECT_EQ(Doing(), "1 a 0 0");
+    EXPECT_EQ(m_Header.GetVisualisationState(&m_Tree["a"]), 1);
+    m_Header.HandleButtonUp(36, 30, 0, mbLeft);
+    EXPECT_EQ(m_Header.GetVisualisationState(&m_Tree["a"]), 0);
+}
+
 TEST_F(HeaderInput, AColumnInTheMiddleIsMeasuredFromItsLeft)
 {
     Move(69, 50);  // x, 40 to 69

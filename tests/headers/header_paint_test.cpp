@@ -304,7 +304,8 @@ TEST_F(HeaderPaint, AHotButtonHasTheTextsColour)
     m_Host.Focus();
     EXPECT_THAT(Draw(), Draws("SetPen #404040").Then("Rectangle 85 4 95 14"));
     Move(90, 8);
-    EXPECT_THAT(m_Host.Paint(), Draws("SetPen #101010").Then("SetBrush *").Then("Rectangle 85 4 95 14"));
+    // A quarter of the way from the face, #C0C0C0, to the highlight, #3060C0.
+    EXPECT_THAT(m_Host.Paint(), Draws("SetPen #101010").Then("SetBrush #9CA8C0").Then("Rectangle 85 4 95 14"));
 }
 
 TEST_F(HeaderPaintScaled, ButtonsGrowWithTheScale)
