@@ -187,6 +187,32 @@ TEST_F(TabPanePaint, WithoutStateTheButtonDrawsNothing)
     EXPECT_THAT(m_Host.FullPaint().Of("show"), Not(Draws("LineTo*")));
 }
 
+TEST_F(TabPanePaint, FrameAndButtonGrowWithTheScale)
+{
+    struct SShow : CVisualElement
+    {
+        SShow(CVisualElement* parent, CTabPane& pane) : CVisualElement(parent, {50, 50}, alTop), m_Pane(pane) {}
+        void DrawContent(IPainter* painter) override
+        {
+            m_Pane.DrawTab(painter, 0, {0, 0, 40, 20}, tsFocused | tsSelected);
+            m_Pane.DrawCloseButton(painter, 0, {10, 0, 34, 24}, tsHot | tsHotClose);
+        }
+        CTabPane& m_Pane;
+    };
+    {
+        CTestHost host(200, 90, 2.0);
+        auto& pane = *new CTestPane(host.Root(), {0, 20}, alBottom);
+        auto& show = *new SShow(host.Root(), pane);
+        NameElement(show, "show");
+        EXPECT_THAT(host.FullPaint().Of("show"), Draws("Rectangle 0 0 40 20")
+                                                     .Then("FocusRect 4 4 36 16")
+                                                     .Then("SetPen red 2")
+                                                     .Then("SetBrush yellow")
+                                                     .Then("RoundRect 10 0 34 24 2 2"));
+    }
+    CTestHost::System().SetScale(1.0);
+}
+
 TEST_F(TabPanePaint, TheCrossStandsWholeSpacesInside)
 {
     struct SShow : CVisualElement

@@ -104,6 +104,14 @@ TEST_F(HeaderDrag, WithoutTheStyleNothingIsDragged)
     Drop();
 }
 
+TEST_F(HeaderDrag, ADraggedSectionLooksPressedAlsoWhereNoneCanBePressed)
+{
+    m_Header.SetStyle(CHeader::hsDrag);
+    Drag(10, 30, 20, 30);
+    EXPECT_EQ(Doing(), "2 a 0 3");
+    Drop();
+}
+
 TEST_F(HeaderDrag, ARefusedDragLeavesThePress)
 {
     auto const no = Listen(m_Header.m_SigCanDrag, [](CHeader*, IHeaderItem*, bool* allow) { *allow = false; });
@@ -148,6 +156,14 @@ TEST_F(HeaderDrag, ATopLevelSectionIsKeptInTheHeaderOrInTheGivenBounds)
     m_Header.SetDragBounds({10, 0, 150, 60});
     ASSERT_TRUE(m_Header.HandleStartDragging(120, 30, m_Info));
     EXPECT_EQ(m_Info.m_Bounds, (rectangle<int>{10, 0, 150, 60}));
+    m_Header.HandleDragFinished(nullptr, m_Info);
+}
+
+TEST_F(HeaderDrag, BoundsThatAreEmptyAreTheHeaders)
+{
+    m_Header.SetDragBounds({150, 0, 10, 60});
+    ASSERT_TRUE(m_Header.HandleStartDragging(120, 30, m_Info));
+    EXPECT_EQ(m_Info.m_Bounds, (rectangle<int>{0, 0, 199, 60}));
     m_Header.HandleDragFinished(nullptr, m_Info);
 }
 
@@ -386,4 +402,25 @@ TEST_F(HeaderDrag, TheMarkStaysInTheHeaderAndInsideTheClip)
     EXPECT_THAT(m_Host.Paint(), Draws("Polygon -6 52 6 52 0 58"));
     Drop();
     m_Header.DrawDraggingPointer(m_Host.Window().GetPainter(), &m_Tree["B"], 0, {});  // nothing stands there
+}
+
+TEST_F(HeaderDrag, TheMarkIsCutOnlyWhereAClipIsGiven)
+{
+    struct SMarked : CHeader
+    {
+        using CHeader::CHeader;
+        void DrawContent(IPainter* painter) override { DrawDraggingPointer(painter, nullptr, 1, m_Clip); }
+        rectangle<double> m_Clip;
+    };
+    auto& header = *new SMarked(m_Host.Root(), {60, 60}, alTop);
+    NameElement(header, "marked");
+    header.SetModel(&m_Tree);  // B begins at 100
+    m_Host.Paint();
+    header.Update(utElement);
+    PaintLog const whole = m_Host.Paint().Of("marked");
+    EXPECT_THAT(whole, Draws("SetBrush red").Then("Polygon*"));
+    EXPECT_THAT(whole, Not(Draws("SetClipRect*")));
+    header.m_Clip = {0, 0, 99, 60};
+    header.Update(utElement);
+    EXPECT_THAT(m_Host.Paint().Of("marked"), Draws("SetClipRect*").Then("Polygon*").Then("ResetClip"));
 }

@@ -356,6 +356,18 @@ TEST_F(HeaderInput, OtherButtonsPressNothing)
     EXPECT_EQ(m_Log.Take(), "canPress(a)");
 }
 
+TEST_F(HeaderInput, TheReleaseOfAnotherButtonGivesTheMouseBackAndClicksNothing)
+{
+    Press(10, 30);
+    m_Log.Clear();
+    EXPECT_EQ(Captured(), &m_Header);
+    m_Header.HandleButtonUp(10, 30, ksLeft, mbRight);
+    EXPECT_EQ(Captured(), nullptr);
+    EXPECT_EQ(m_Log.Take(), "");
+    EXPECT_EQ(Doing(), "3 a 0 3");
+    m_Host.Mouse().Release();
+}
+
 TEST_F(HeaderInput, APressThatLeavesTheHeaderIsForgotten)
 {
     Press(10, 30);
@@ -416,6 +428,12 @@ TEST_F(HeaderInput, WhatComesUnderThePointerByACollapseIsHot)
     EXPECT_EQ(m_Log.Take(), "expanded(A no) canPress(B)");
     EXPECT_EQ(Doing(), "0 B -1 1");
     m_Host.Mouse().Release();
+}
+
+TEST_F(HeaderInput, AnItemWithNothingToExpandIsToldAllTheSame)
+{
+    m_Header.ExpandItem(&m_Tree["B"], true);
+    EXPECT_EQ(m_Log.Take(), "expanded(B)");
 }
 
 TEST_F(HeaderInput, AButtonWorksWithoutAnyStyle)

@@ -98,6 +98,23 @@ std::string CallsFrom(PaintLog const& log, std::string const& prefix)
     return text;
 }
 
+// The pen and the brush that a call was made with.
+std::string ToolsOf(PaintLog const& log, std::string const& wanted)
+{
+    std::string pen;
+    std::string brush;
+    for (std::string const& call : log.Calls())
+    {
+        if (call.starts_with("SetPen "))
+            pen = call;
+        else if (call.starts_with("SetBrush "))
+            brush = call;
+        else if (call == wanted)
+            return pen + ", " + brush;
+    }
+    return "not called";
+}
+
 }  // namespace
 
 // The strip ---------------------------------------------------------------------------------------------------------------
@@ -302,10 +319,20 @@ TEST_F(HeaderPaint, AButtonShowsADoubleChevron)
 TEST_F(HeaderPaint, AHotButtonHasTheTextsColour)
 {
     m_Host.Focus();
-    EXPECT_THAT(Draw(), Draws("SetPen #404040").Then("Rectangle 85 4 95 14"));
+    PaintLog const log = Draw();
+    EXPECT_EQ(ToolsOf(log, "Rectangle 85 4 95 14"), "SetPen #404040, SetBrush #C0C0C0");
+    EXPECT_EQ(ToolsOf(log, "MoveTo 93 6"), "SetPen #404040, SetBrush #C0C0C0");
+    EXPECT_EQ(ToolsOf(log, "MoveTo 92 6"), "SetPen #808080, SetBrush #C0C0C0");  // the second time
     Move(90, 8);
     // A quarter of the way from the face, #C0C0C0, to the highlight, #3060C0.
-    EXPECT_THAT(m_Host.Paint(), Draws("SetPen #101010").Then("SetBrush #9CA8C0").Then("Rectangle 85 4 95 14"));
+    EXPECT_EQ(ToolsOf(m_Host.Paint(), "Rectangle 85 4 95 14"), "SetPen #101010, SetBrush #9CA8C0");
+}
+
+TEST_F(HeaderPaint, AHotButtonHasItAlsoWithoutTheFocus)
+{
+    EXPECT_EQ(ToolsOf(Draw(), "Rectangle 85 4 95 14"), "SetPen #808080, SetBrush #C0C0C0");
+    Move(90, 8);
+    EXPECT_EQ(ToolsOf(m_Host.Paint(), "Rectangle 85 4 95 14"), "SetPen #101010, SetBrush #9CA8C0");
 }
 
 TEST_F(HeaderPaintScaled, ButtonsGrowWithTheScale)
@@ -341,6 +368,17 @@ TEST_F(HeaderPaint, AMarkStaysInItsSection)
     EXPECT_THAT(log, Draws("DrawStringEx \"a long name\" 4 20 20 60 0x121"));
     std::string const marks = CallsFrom(log, "Polygon");
     EXPECT_EQ(marks.substr(0, 3), "28 ");  // (20 + 3) + 5, the tip
+}
+
+TEST_F(HeaderPaint, AMarkBeginsNoFurtherLeftThanItsSectionsContent)
+{
+    m_Tree["a"].m_Sorting = 1;
+    m_Tree["a"].m_Width = 20;
+    m_Tree["a"].m_Align = 0x22;  // at the right
+    m_Tree.m_SigChanged();
+    // Content from 4 to 15, less the mark's 15: nothing is left of it.
+    std::string const marks = CallsFrom(Draw(), "Polygon");
+    EXPECT_EQ(marks.substr(0, 3), "12 ");  // (4 + 3) + 5, the tip
 }
 
 TEST_F(HeaderPaint, AMarkWithoutATextStandsAtTheLeft)
