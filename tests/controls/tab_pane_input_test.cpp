@@ -110,6 +110,16 @@ TEST_F(TabPaneInput, ACloseButtonThatThePointerHasNotLitUpIsATab)
     EXPECT_EQ(m_Log.Take(), "current(1, -1, true)");
 }
 
+TEST_F(TabPaneInput, NorIsOneOnTheTabThatThePointerHasLitUpBesideIt)
+{
+    MakeHigh();
+    m_Host.Mouse().Move(m_Pane, 60, 10);
+    ASSERT_EQ(m_Pane.GetVisualisationState(1), 1u);
+    bool handled = false;
+    m_Pane.SetCurProcessButtonDown(80, 10, ksLeft, mbLeft, &handled);
+    EXPECT_EQ(m_Log.Take(), "current(1, -1, true)");
+}
+
 TEST_F(TabPaneInput, ATabThatSlidUnderThePointerIsNotClosedByTheSecondPress)
 {
     MakeHigh();
@@ -169,6 +179,20 @@ TEST_F(TabPaneInput, TheHighlightStandsWhileAButtonIsHeld)
 }
 
 // The dispatch --------------------------------------------------------------------------------------------------------------
+
+TEST_F(TabPaneInput, MovesWithAnyOtherButtonGoOnAndLightUpNothing)
+{
+    for (int bit = 1; bit < 8; ++bit)
+    {
+        bool handled = false;
+        EXPECT_FALSE(m_Pane.CDefTabHandler::ProcessMouseMove(50, 5, 1 << bit, mbNone, &handled)) << bit;
+        EXPECT_FALSE(handled) << bit;
+        EXPECT_EQ(m_Pane.GetVisualisationState(1), 8u) << bit;
+    }
+    bool handled = false;
+    EXPECT_TRUE(m_Pane.CDefTabHandler::ProcessMouseMove(50, 5, ksControl, mbNone, &handled));
+    EXPECT_EQ(m_Pane.GetVisualisationState(1), 1u);
+}
 
 TEST_F(TabPaneInput, MovesWithTheLeftButtonEndAtTheDefaultHandler)
 {

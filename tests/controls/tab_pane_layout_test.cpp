@@ -251,6 +251,15 @@ TEST_F(TabPaneLayout, EqualTabsHaveNoGaps)
     EXPECT_EQ(Describe(m_Pane.HitTest(30, 5)), "1 0 (0, 2, 61, 14)");
 }
 
+TEST_F(TabPaneLayout, EqualTabsAskForNoGaps)
+{
+    m_Tabs[0].spacer = 10;
+    m_Pane.SetEqualWidths(true);
+    m_Pane.SetSize({7, 7}, false);
+    m_Pane.Layout();
+    EXPECT_EQ(m_Pane.GetSize().width, 130);
+}
+
 TEST_F(TabPaneLayout, ChangingBackKeepsWhatTheOtherWidthsWere)
 {
     m_Pane.SetEqualWidths(true);
@@ -301,6 +310,18 @@ TEST_F(TabPaneLayout, TheStableTabStaysInView)
     EXPECT_EQ(m_Pane.GetFirstVisibleTab(), 2);
 }
 
+TEST_F(TabPaneLayout, TheStableTabIsThatOfBothWidths)
+{
+    m_Pane.SetEqualWidths(true);
+    m_Pane.SetStableTab(2);
+    EXPECT_EQ(m_Pane.GetStableTab(), 2);
+    m_Pane.SetEqualWidths(false);
+    EXPECT_EQ(m_Pane.GetStableTab(), 2);
+    m_Pane.SetStableTab(1);
+    m_Pane.SetEqualWidths(true);
+    EXPECT_EQ(m_Pane.GetStableTab(), 1);
+}
+
 TEST_F(TabPaneLayout, WithoutAStableTabTheCurrentOneStaysInView)
 {
     for (int i = 0; i < 20; ++i)
@@ -312,6 +333,21 @@ TEST_F(TabPaneLayout, WithoutAStableTabTheCurrentOneStaysInView)
     m_Host.Resize(100, 60);
     m_Host.Paint();
     EXPECT_EQ(m_Pane.GetFirstVisibleTab(), 2);
+}
+
+TEST_F(TabPaneLayout, TheCurrentOfEqualTabsStaysInViewToo)
+{
+    for (int i = 0; i < 20; ++i)
+        m_Tabs.Add("xyz");
+    m_Tabs.m_SigChanged();
+    m_Pane.SetEqualWidths(true);
+    m_Host.Paint();
+    m_Pane.SetCurrentTab(2);
+    m_Pane.SetFirstVisibleTab(0);
+    EXPECT_EQ(m_Pane.GetFirstVisibleTab(), 0);
+    m_Host.Resize(110, 60);  // two of 50 at least
+    m_Host.Paint();
+    EXPECT_EQ(m_Pane.GetFirstVisibleTab(), 1);
 }
 
 // Scrolling -----------------------------------------------------------------------------------------------------------------

@@ -187,6 +187,51 @@ TEST_F(TabPanePaint, WithoutStateTheButtonDrawsNothing)
     EXPECT_THAT(m_Host.FullPaint().Of("show"), Not(Draws("LineTo*")));
 }
 
+TEST_F(TabPanePaint, FrameAndButtonGrowWithTheScale)
+{
+    struct SShow : CVisualElement
+    {
+        SShow(CVisualElement* parent, CTabPane& pane) : CVisualElement(parent, {50, 50}, alTop), m_Pane(pane) {}
+        void DrawContent(IPainter* painter) override
+        {
+            m_Pane.DrawTab(painter, 0, {0, 0, 40, 20}, tsFocused | tsSelected);
+            m_Pane.DrawCloseButton(painter, 0, {10, 0, 34, 24}, tsHot | tsHotClose);
+        }
+        CTabPane& m_Pane;
+    };
+    {
+        CTestHost host(200, 90, 2.0);
+        auto& pane = *new CTestPane(host.Root(), {0, 20}, alBottom);
+        auto& show = *new SShow(host.Root(), pane);
+        NameElement(show, "show");
+        EXPECT_THAT(host.FullPaint().Of("show"), Draws("Rectangle 0 0 40 20")
+                                                     .Then("FocusRect 4 4 36 16")
+                                                     .Then("SetPen red 2")
+                                                     .Then("SetBrush yellow")
+                                                     .Then("RoundRect 10 0 34 24 2 2"));
+    }
+    CTestHost::System().SetScale(1.0);
+}
+
+TEST_F(TabPanePaint, TheCrossStandsWholeSpacesInside)
+{
+    struct SShow : CVisualElement
+    {
+        SShow(CVisualElement* parent, CTabPane& pane) : CVisualElement(parent, {20, 20}, alTop), m_Pane(pane) {}
+        void DrawContent(IPainter* painter) override { m_Pane.DrawCloseButton(painter, 0, {0, 0, 12, 12}, tsSelected); }
+        CTabPane& m_Pane;
+    };
+    {
+        CTestHost host(200, 60, 1.4);
+        auto& pane = *new CTestPane(host.Root(), {0, 20}, alBottom);
+        auto& show = *new SShow(host.Root(), pane);
+        NameElement(show, "show");
+        // A space of 2.8 is one of 2 pixels, and one and a half of these are 3.
+        EXPECT_THAT(host.FullPaint().Of("show"), Draws("MoveTo 3 3").Then("LineTo 9 9"));
+    }
+    CTestHost::System().SetScale(1.0);
+}
+
 TEST_F(TabPanePaint, AtAnotherScaleTheCrossHasAnEvenWidth)
 {
     CTestHost host(400, 60, 1.5);
@@ -578,6 +623,16 @@ TEST_F(TabPanePaint, OverAPictureAPaneThatMovesIsPaintedAnew)
     m_Host.FullPaint();
     Settle();
     left.SetWidth(20, false);
+    EXPECT_EQ(DrawnTabs(), "0 1 2");
+}
+
+TEST_F(TabPanePaint, OverAPictureAPaneThatIsPutIntoItsPlaceByForceIsPaintedAnew)
+{
+    SetPicture(true);
+    m_Host.FullPaint();
+    Settle();
+    m_Host.Mouse().Move(m_Pane, 5, 5);  // the tab under it waits
+    m_Pane.SetPos(m_Pane.GetPos(), true);
     EXPECT_EQ(DrawnTabs(), "0 1 2");
 }
 

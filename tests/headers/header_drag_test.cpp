@@ -58,6 +58,26 @@ TEST_F(HeaderDrag, ASectionIsDraggedFromItsMiddle)
     EXPECT_EQ(Dragged(), nullptr);
 }
 
+TEST_F(HeaderDrag, WhatLiesUnderThePointerAtTheDropIsHot)
+{
+    Drag(10, 30, 90, 30);  // over c
+    m_Log.Clear();
+    m_Host.Paint();
+    Drop();
+    EXPECT_EQ(m_Log.Take(), "dropped(a 0) canPress(c)");
+    EXPECT_EQ(Doing(), "0 c -1 1");
+    EXPECT_TRUE(IsRepaintPending(m_Host));
+}
+
+TEST_F(HeaderDrag, WithoutATargetNothingIsDropped)
+{
+    ASSERT_TRUE(m_Header.HandleStartDragging(10, 30, m_Info));
+    m_Log.Clear();
+    m_Header.HandleDropDone(&m_Header, 10, 30, m_Info);
+    EXPECT_EQ(m_Log.Take(), "");
+    m_Header.HandleDragFinished(nullptr, m_Info);
+}
+
 TEST_F(HeaderDrag, AParentHasNoColumn)
 {
     Drag(20, 10, 30, 10);
@@ -81,6 +101,14 @@ TEST_F(HeaderDrag, WithoutTheStyleNothingIsDragged)
     Drag(10, 30, 20, 30);
     EXPECT_EQ(Dragged(), nullptr);
     EXPECT_EQ(Doing(), "3 a 0 3");
+    Drop();
+}
+
+TEST_F(HeaderDrag, ADraggedSectionLooksPressedAlsoWhereNoneCanBePressed)
+{
+    m_Header.SetStyle(CHeader::hsDrag);
+    Drag(10, 30, 20, 30);
+    EXPECT_EQ(Doing(), "2 a 0 3");
     Drop();
 }
 
@@ -131,6 +159,14 @@ TEST_F(HeaderDrag, ATopLevelSectionIsKeptInTheHeaderOrInTheGivenBounds)
     m_Header.HandleDragFinished(nullptr, m_Info);
 }
 
+TEST_F(HeaderDrag, BoundsThatAreEmptyAreTheHeaders)
+{
+    m_Header.SetDragBounds({150, 0, 10, 60});
+    ASSERT_TRUE(m_Header.HandleStartDragging(120, 30, m_Info));
+    EXPECT_EQ(m_Info.m_Bounds, (rectangle<int>{0, 0, 199, 60}));
+    m_Header.HandleDragFinished(nullptr, m_Info);
+}
+
 TEST_F(HeaderDrag, RectanglesAreTheControls)
 {
     auto& second = *new CHeader(m_Host.Root(), {30, 60}, alTop);
@@ -176,6 +212,22 @@ TEST_F(HeaderDrag, OverASectionAboveThereIsNoSiblingAndTheTargetIsTheLast)
 {
     EXPECT_EQ(TargetOf(10, 30, 20, 10), 3);   // over A
     EXPECT_EQ(TargetOf(10, 30, 40, 100), 3);  // below the header
+}
+
+TEST_F(HeaderDrag, AtTheParentsLeftEdgeThePointerIsNotBeforeIt)
+{
+    EXPECT_EQ(TargetOf(10, 30, 0, 30), 0);
+    EXPECT_EQ(TargetOf(10, 30, 0, 10), 3);  // over A, no sibling
+}
+
+TEST_F(HeaderDrag, TheTargetIsAtTheRealPointAlsoOfNarrowSections)
+{
+    m_Tree.Read("P:50 Q:2 R:2 S:60");  // 0 to 49, 50 to 51, 52 to 53, from 54
+    m_Tree.m_SigChanged();
+    EXPECT_EQ(TargetOf(10, 30, 50, 30), 1);
+    EXPECT_EQ(TargetOf(10, 30, 51, 30), 2);
+    EXPECT_EQ(TargetOf(10, 30, 53, 30), 3);
+    EXPECT_EQ(TargetOf(10, 30, 54, 30), 3);
 }
 
 TEST_F(HeaderDrag, TheOwnerMovesTheSectionToWhereItWasLastOver)
@@ -241,6 +293,20 @@ TEST_F(HeaderDrag, BeyondTheEndsTheViewScrolls)
     EXPECT_EQ(m_Scroll.m_Start, 58);
     Drop();
     EXPECT_FALSE(m_Header.IsScrolling());
+}
+
+TEST_F(HeaderDrag, TheEndsThemselvesAreInside)
+{
+    m_Scroll.m_Start = 50;
+    m_Scroll.m_To = 100;
+    for (auto const& [outside, inside] : std::vector<std::pair<int, int>>{{200, 199}, {-1, 0}})
+    {
+        Drag(120, 30, outside, 30);
+        EXPECT_TRUE(m_Header.IsScrolling()) << outside;
+        Move(inside, 30);
+        EXPECT_FALSE(m_Header.IsScrolling()) << inside;
+        Drop();
+    }
 }
 
 TEST_F(HeaderDrag, ADragThatIsBrokenOffScrollsNoMore)
@@ -336,4 +402,25 @@ TEST_F(HeaderDrag, TheMarkStaysInTheHeaderAndInsideTheClip)
     EXPECT_THAT(m_Host.Paint(), Draws("Polygon -6 52 6 52 0 58"));
     Drop();
     m_Header.DrawDraggingPointer(m_Host.Window().GetPainter(), &m_Tree["B"], 0, {});  // nothing stands there
+}
+
+TEST_F(HeaderDrag, TheMarkIsCutOnlyWhereAClipIsGiven)
+{
+    struct SMarked : CHeader
+    {
+        using CHeader::CHeader;
+        void DrawContent(IPainter* painter) override { DrawDraggingPointer(painter, nullptr, 1, m_Clip); }
+        rectangle<double> m_Clip;
+    };
+    auto& header = *new SMarked(m_Host.Root(), {60, 60}, alTop);
+    NameElement(header, "marked");
+    header.SetModel(&m_Tree);  // B begins at 100
+    m_Host.Paint();
+    header.Update(utElement);
+    PaintLog const whole = m_Host.Paint().Of("marked");
+    EXPECT_THAT(whole, Draws("SetBrush red").Then("Polygon*"));
+    EXPECT_THAT(whole, Not(Draws("SetClipRect*")));
+    header.m_Clip = {0, 0, 99, 60};
+    header.Update(utElement);
+    EXPECT_THAT(m_Host.Paint().Of("marked"), Draws("SetClipRect*").Then("Polygon*").Then("ResetClip"));
 }

@@ -62,6 +62,25 @@ TEST_F(HeaderElements, AnElementMayKeepItsPlaceInTheSection)
     EXPECT_EQ(element.GetPos(), (rectangle<int>{67, 43, 77, 51}));
 }
 
+TEST_F(HeaderElements, APlaceInTheSectionsCornerIsKeptToo)
+{
+    auto& element = *new CSheet(&m_Header, {10, 8}, alNone);
+    element.SetPos({100, 0, 110, 8}, false);
+    m_Header.SetVisualElement(&m_Tree["B"], &element, true);
+    EXPECT_EQ(element.GetPos(), (rectangle<int>{100, 0, 110, 8}));
+}
+
+TEST_F(HeaderElements, AtTheRightOfASingleSectionThatFitsItStandsInTheHeader)
+{
+    m_Tree.Read("A:300");
+    m_Tree.m_SigChanged();
+    m_Header.SetStretchLastItem(false);
+    m_Header.SetSingleColumnFit(true);
+    CSheet& element = Carry("A", alRight);
+    EXPECT_EQ(element.GetPos(), (rectangle<int>{184, 26, 194, 34}));  // 199 - 5 - 10
+    EXPECT_TRUE(element.IsVisible());
+}
+
 TEST_F(HeaderElements, WithoutAPlaceOfItsOwnItStandsAtTheLeft)
 {
     auto& element = *new CSheet(&m_Header, {10, 8}, alNone);
@@ -230,6 +249,22 @@ TEST_F(HeaderElements, BesideAnElementInTheMiddleTextGivesWayFirstThenTheImage)
     EXPECT_EQ(drawn(35), "image");
     EXPECT_EQ(drawn(33), "");
     m_Host.Control().GetControl()->SetImageList(nullptr);
+}
+
+TEST_F(HeaderElements, BesideAnElementInTheMiddleTheMarkGivesWayLast)
+{
+    m_Tree.Read("A:50");
+    m_Tree["A"].m_Sorting = 1;
+    m_Tree.m_SigChanged();
+    m_Header.SetStretchLastItem(false);
+    Carry("A", alClient);
+    auto const isMarked = [&](int width) {
+        m_Header.SetItemSize(0, width);
+        return Draw().Count("Polygon*") > 0;
+    };
+    // The content without the mark's 15 ends at the width less 20, and begins at 4.
+    EXPECT_TRUE(isMarked(24));
+    EXPECT_FALSE(isMarked(22));
 }
 
 TEST_F(HeaderElements, AHiddenElementNeedsNoRoom)

@@ -196,6 +196,16 @@ TEST_F(HeaderInput, ADraggedGripResizesItsColumn)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+TEST_F(HeaderInput, AColumnThatIsResizedLooksHotWithoutAMoveBefore)
+{
+    m_Header.SetCursor(9);
+    m_Header.HandleButtonDown(36, 30, ksLeft, mbLeft);
+    EXPECT_EQ(Doing(), "1 a 0 0");
+    EXPECT_EQ(m_Header.GetVisualisationState(&m_Tree["a"]), 1);
+    m_Header.HandleButtonUp(36, 30, 0, mbLeft);
+    EXPECT_EQ(m_Header.GetVisualisationState(&m_Tree["a"]), 0);
+}
+
 TEST_F(HeaderInput, AColumnInTheMiddleIsMeasuredFromItsLeft)
 {
     Move(69, 50);  // x, 40 to 69
@@ -346,6 +356,18 @@ TEST_F(HeaderInput, OtherButtonsPressNothing)
     EXPECT_EQ(m_Log.Take(), "canPress(a)");
 }
 
+TEST_F(HeaderInput, TheReleaseOfAnotherButtonGivesTheMouseBackAndClicksNothing)
+{
+    Press(10, 30);
+    m_Log.Clear();
+    EXPECT_EQ(Captured(), &m_Header);
+    m_Header.HandleButtonUp(10, 30, ksLeft, mbRight);
+    EXPECT_EQ(Captured(), nullptr);
+    EXPECT_EQ(m_Log.Take(), "");
+    EXPECT_EQ(Doing(), "3 a 0 3");
+    m_Host.Mouse().Release();
+}
+
 TEST_F(HeaderInput, APressThatLeavesTheHeaderIsForgotten)
 {
     Press(10, 30);
@@ -408,6 +430,12 @@ TEST_F(HeaderInput, WhatComesUnderThePointerByACollapseIsHot)
     m_Host.Mouse().Release();
 }
 
+TEST_F(HeaderInput, AnItemWithNothingToExpandIsToldAllTheSame)
+{
+    m_Header.ExpandItem(&m_Tree["B"], true);
+    EXPECT_EQ(m_Log.Take(), "expanded(B)");
+}
+
 TEST_F(HeaderInput, AButtonWorksWithoutAnyStyle)
 {
     m_Header.SetStyle(0);
@@ -451,6 +479,31 @@ TEST_F(HeaderInput, ACaptionThatFitsInASectionOfTwoLinesIsNoTip)
     m_Header.SetSize({60, 15}, false);  // lines of 8
     m_Host.Paint();
     EXPECT_EQ(m_Host.Tooltip(m_Header, 152, 10), "B");
+}
+
+TEST_F(HeaderInput, ASectionIsTooNarrowForItsCaptionByMoreThanAPixel)
+{
+    // The caption wants 33 pixels.
+    m_Header.SetStretchLastItem(false);
+    m_Tree["a"].m_Width = 33;
+    m_Tree.m_SigChanged();
+    ASSERT_EQ(m_Header.GetItemOptimalWidth(&m_Tree["a"]), 33);
+    EXPECT_EQ(m_Host.Tooltip(m_Header, 10, 30), "");  // 0 to 32
+    m_Tree["a"].m_Width = 32;
+    m_Tree.m_SigChanged();
+    EXPECT_EQ(m_Host.Tooltip(m_Header, 11, 31), "a");
+}
+
+TEST_F(HeaderInput, ASectionLowerThanTwoLinesShowsItsCaption)
+{
+    m_Header.SetSize({60, 16}, false);  // 0 to 16; lines of 8
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.Tooltip(m_Header, 150, 10), "");
+    m_Header.SetSize({60, 15}, false);
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.Tooltip(m_Header, 151, 10), "B");
+    m_Tree["B"].m_Description = "About B";
+    EXPECT_EQ(m_Host.Tooltip(m_Header, 152, 10), "About B");
 }
 
 TEST_F(HeaderInput, ATipMayBeFilledInByASubclass)

@@ -52,6 +52,61 @@ public:
     void DrawSortingMarker(IPainter*, bool, point<double> const&) override {}
 };
 
+// As the header itself, but for the sort marks, which it writes down.
+class CMarkingLook : public IHeaderItemVisualisation
+{
+public:
+    explicit CMarkingLook(CHeader& header) : m_Header(header) {}
+
+    std::string m_Told;
+
+    int GetVisualisationState(IHeaderItem const* item) const override { return m_Header.GetVisualisationState(item); }
+    rectangle<double> GetExpandBtnRect(rectangle<double> const& section, IHeaderItem const* item) const override
+    {
+        return m_Header.GetExpandBtnRect(section, item);
+    }
+    rectangle<double> GetSectionContentRect(rectangle<double> const& section, IHeaderItem const* item) const override
+    {
+        return m_Header.GetSectionContentRect(section, item);
+    }
+    void DrawSectionBackground(IPainter* painter, rectangle<double> const& section, IHeaderItem const* item) override
+    {
+        m_Header.DrawSectionBackground(painter, section, item);
+    }
+    void DrawSectionContent(IPainter* painter, rectangle<double> const& content, IHeaderItem const* item) override
+    {
+        m_Header.DrawSectionContent(painter, content, item);
+    }
+    void DrawExpandButton(IPainter* painter, rectangle<double> const& button, IHeaderItem const* item) override
+    {
+        m_Header.DrawExpandButton(painter, button, item);
+    }
+    void DrawSortingMarker(IPainter*, bool up, point<double> const& position) override
+    {
+        m_Told += std::string(up ? "up" : "down") + " at " + std::to_string(static_cast<int>(position.x)) + "; ";
+    }
+
+private:
+    CHeader& m_Header;
+};
+
+// The pen and the brush that a call was made with.
+std::string ToolsOf(PaintLog const& log, std::string const& wanted)
+{
+    std::string pen;
+    std::string brush;
+    for (std::string const& call : log.Calls())
+    {
+        if (call.starts_with("SetPen "))
+            pen = call;
+        else if (call.starts_with("SetBrush "))
+            brush = call;
+        else if (call == wanted)
+            return pen + ", " + brush;
+    }
+    return "not called";
+}
+
 }  // namespace
 
 // The strip ---------------------------------------------------------------------------------------------------------------
@@ -256,9 +311,20 @@ TEST_F(HeaderPaint, AButtonShowsADoubleChevron)
 TEST_F(HeaderPaint, AHotButtonHasTheTextsColour)
 {
     m_Host.Focus();
-    EXPECT_THAT(Draw(), Draws("SetPen #404040").Then("Rectangle 85 4 95 14"));
+    PaintLog const log = Draw();
+    EXPECT_EQ(ToolsOf(log, "Rectangle 85 4 95 14"), "SetPen #404040, SetBrush #C0C0C0");
+    EXPECT_EQ(ToolsOf(log, "MoveTo 93 6"), "SetPen #404040, SetBrush #C0C0C0");
+    EXPECT_EQ(ToolsOf(log, "MoveTo 92 6"), "SetPen #808080, SetBrush #C0C0C0");  // the second time
     Move(90, 8);
-    EXPECT_THAT(m_Host.Paint(), Draws("SetPen #101010").Then("SetBrush *").Then("Rectangle 85 4 95 14"));
+    // A quarter of the way from the face, #C0C0C0, to the highlight, #3060C0.
+    EXPECT_EQ(ToolsOf(m_Host.Paint(), "Rectangle 85 4 95 14"), "SetPen #101010, SetBrush #9CA8C0");
+}
+
+TEST_F(HeaderPaint, AHotButtonHasItAlsoWithoutTheFocus)
+{
+    EXPECT_EQ(ToolsOf(Draw(), "Rectangle 85 4 95 14"), "SetPen #808080, SetBrush #C0C0C0");
+    Move(90, 8);
+    EXPECT_EQ(ToolsOf(m_Host.Paint(), "Rectangle 85 4 95 14"), "SetPen #101010, SetBrush #9CA8C0");
 }
 
 TEST_F(HeaderPaintScaled, ButtonsGrowWithTheScale)
@@ -296,9 +362,31 @@ TEST_F(HeaderPaint, AMarkStaysInItsSection)
     EXPECT_EQ(marks.substr(0, 3), "28 ");  // (20 + 3) + 5, the tip
 }
 
+TEST_F(HeaderPaint, AMarkBeginsNoFurtherLeftThanItsSectionsContent)
+{
+    m_Tree["a"].m_Sorting = 1;
+    m_Tree["a"].m_Width = 20;
+    m_Tree["a"].m_Align = 0x22;  // at the right
+    m_Tree.m_SigChanged();
+    // Content from 4 to 15, less the mark's 15: nothing is left of it.
+    std::string const marks = CallsFrom(Draw(), "Polygon");
+    EXPECT_EQ(marks.substr(0, 3), "12 ");  // (4 + 3) + 5, the tip
+}
+
 TEST_F(HeaderPaint, AMarkWithoutATextStandsAtTheLeft)
 {
     m_Tree["B"].m_Sorting = 2;
     m_Tree["B"].m_Name = "";
     EXPECT_THAT(Draw(), Draws("Polygon 105 29 113 29 109 33"));
+}
+
+TEST_F(HeaderPaint, AnotherLookDrawsTheMarksOfContentsThatTheHeaderDraws)
+{
+    CMarkingLook look(m_Header);
+    m_Header.SetItemVisualisation(&look);
+    m_Tree["a"].m_Sorting = 1;
+    m_Tree["B"].m_Sorting = 2;
+    EXPECT_THAT(Draw(), Not(Draws("Polygon*")));
+    EXPECT_EQ(look.m_Told, "up at 15; down at 115; ");  // labels of 8 from 4 and from 104, 3 further
+    m_Header.SetItemVisualisation(nullptr);
 }

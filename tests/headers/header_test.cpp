@@ -2,6 +2,7 @@
 
 #include "tests/headers/tree_bench.h"
 #include "tests/support/slot.h"
+#include "tests/support/test_images.h"
 #include "vexel/platform/memory/memory_window.h"
 #include "vexel/views/item_walks.h"
 
@@ -152,6 +153,17 @@ TEST_F(Header, TheSameModelIsReadAnew)
     m_Tree["a"].m_Width = 48;
     m_Tree.m_SigChanged();
     EXPECT_EQ(m_Header.GetItemSize(0), 48);
+}
+
+TEST_F(Header, AModelThatIsSetEndsWhatAUserDoes)
+{
+    Press(10, 30);
+    EXPECT_EQ(Doing(), "3 a 0 3");
+    m_Header.SetModel(&m_Tree);
+    EXPECT_EQ(Doing(), "0 - -1 0");
+    CHeaderLog log(m_Header);
+    m_Host.Mouse().Release();
+    EXPECT_EQ(log.Take(), "");
 }
 
 TEST_F(Header, AModelThatDiesIsForgotten)
@@ -444,6 +456,17 @@ TEST_F(Header, TheOptimalWidthHoldsTextImageAndMark)
     EXPECT_EQ(m_Header.GetItemOptimalWidth(nullptr), 17);
     CHeader alone(nullptr, {10, 10}, alTop);
     EXPECT_EQ(alone.GetItemOptimalWidth(&m_Tree["a longer one"]), 17);
+}
+
+TEST_F(Header, AnImageTakesItsWidthAndASpace)
+{
+    CTestImages images({{6, 6}});
+    m_Host.Control().GetControl()->SetImageList(&images);
+    m_Tree["a"].m_Image = 0;
+    EXPECT_EQ(m_Header.GetItemOptimalWidth(&m_Tree["a"]), 8 + 6 + 3 + 8 + 17);
+    m_Tree["a"].m_Image = -1;
+    EXPECT_EQ(m_Header.GetItemOptimalWidth(&m_Tree["a"]), 8 + 8 + 17);
+    m_Host.Control().GetControl()->SetImageList(nullptr);
 }
 
 TEST_F(Header, ItsHeightFollowsFromItsLevels)

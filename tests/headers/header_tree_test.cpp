@@ -228,6 +228,16 @@ TEST(HeaderTree, ASearchStopsAtTheFirstThatFits)
     EXPECT_TRUE(search.IsFinished());
 }
 
+TEST(HeaderTree, ASearchGoesIntoTheChildrenOnlyOfWhatDoesNotFit)
+{
+    CItemTree tree("A(a) B(b)");  // 0 to 3
+    FindByModelIndex search(2);
+    EXPECT_TRUE(search.Visit(&tree["A"], 0));
+    EXPECT_FALSE(search.Visit(&tree["B"], 0));
+    EXPECT_FALSE(search.Visit(&tree["b"], 1));  // nor anywhere afterwards
+    EXPECT_EQ(NameOf(search.GetFound()), "B");
+}
+
 TEST(HeaderTree, ASearchThatFindsNothingIsNotFinished)
 {
     CItemTree tree("A(x y) B(x)");
@@ -450,6 +460,20 @@ TEST(HeaderTree, BehindTheStripNothingIsHit)
     CItemTree tree("A:60 B:40");
     EXPECT_EQ(Hit(tree, 55, 10, {0, 0, 50, 60}), "A 3 (0, 0, 59, 60)");  // that section reaches out of it
     EXPECT_EQ(Hit(tree, 65, 10, {0, 0, 50, 60}), "- 0 (0, 0, 0, 0)");
+}
+
+TEST(HeaderTree, ASectionOutsideTheStripWipesTheResult)
+{
+    CItemTree tree("A:60");
+    CButtons buttons;
+    HeaderHitTestResult result;
+    result.m_Area = HeaderHitTestResult::haGrip;
+    result.m_Item = &tree["A"];
+    CHitTester tester({0, 0, 50, 60}, 1, false, &result, 70, 10, &buttons);
+    EXPECT_FALSE(tester.ProcessSection(&tree["A"], {51, 0, 99, 60}));
+    EXPECT_EQ(result.m_Area, 0);
+    EXPECT_EQ(result.m_Item, nullptr);
+    EXPECT_FALSE(tester.IsFinished());
 }
 
 // Rectangles --------------------------------------------------------------------------------------------------------------

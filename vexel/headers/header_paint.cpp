@@ -223,7 +223,7 @@ void CHeader::DrawSectionContent(IPainter* painter, rectangle<double> const& con
         x = std::max(std::min(static_cast<double>(label.right), room), parts.rect.left) + gap;
         middle = (static_cast<double>(label.top) + label.bottom) / 2;
     }
-    DrawSortingMarker(painter, direction == 1, {x, middle - GetMarkSide() / 2.0});
+    m_Visualisation->DrawSortingMarker(painter, direction == 1, {x, middle - GetMarkSide() / 2.0});
 }
 
 // Makes room for the element that the section carries. False: it carries none.
