@@ -63,6 +63,7 @@ public:
         m_Window = vexelbase::qt::HostWindow(&m_Top);
         m_Control = std::make_unique<CBaseControl>(m_Window.get());
         m_Pane = new CTabPane(m_Control->GetContent(), {0, g_Height}, alClient);
+        m_Pane->SetTransparent(false);
         m_Pane->SetModel(&m_Tabs);
         m_Pane->Layout();
         m_Top.show();

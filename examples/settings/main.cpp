@@ -83,7 +83,6 @@ public:
         new CGround(m_Pane, {16, 0}, alLeft);
         new CGround(m_Pane, {0, 8}, alTop);
         auto* const tabs = new CTabPane(m_Pane, {0, 28}, alTop);
-        tabs->SetBkColor(ISysPalette::scFace);
         tabs->SetAutoSize(true);
         tabs->SetModel(&m_Tabs);
         tabs->m_SigCurrentTabChanged.connect(this, &CSettingsWindow::ShowTab);

@@ -129,8 +129,7 @@ public:
                 pane->SetEqualWidths(true);
             if (m_Random.Chance(30))
                 pane->SetToggled(true);
-            if (m_Random.Chance(30))
-                pane->SetTransparent(true);
+            pane->SetTransparent(m_Random.Chance(30));
             if (m_Random.Chance(25))
                 pane->SetItemVisualisation(&m_Look);
             m_Panes.push_back(pane);

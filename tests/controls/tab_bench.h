@@ -127,6 +127,7 @@ protected:
         SetDefAnimationProcess(aptTimer);
         m_Host.Control().SetImageList(&m_Images);
         NameElement(m_Pane, "pane");
+        m_Pane.SetTransparent(false);
         m_Pane.SetModel(&m_Tabs);
         m_Pane.SetAutoSize(true);
         Settle();

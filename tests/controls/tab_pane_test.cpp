@@ -21,7 +21,7 @@ TEST_F(TabPane, BeginsWithTabsOfTheirOwnWidthAndNothingSelected)
     EXPECT_FALSE(pane.GetEqualWidths());
     EXPECT_FALSE(pane.IsAutoSize());
     EXPECT_FALSE(pane.IsToggled());
-    EXPECT_FALSE(pane.IsTransparent());
+    EXPECT_TRUE(pane.IsTransparent());
     EXPECT_EQ(pane.GetCurrentTab(), -1);
     EXPECT_EQ(pane.GetStableTab(), -1);
     EXPECT_EQ(pane.GetFirstVisibleTab(), 0);

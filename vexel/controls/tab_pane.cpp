@@ -55,6 +55,7 @@ private:
 CTabPane::CTabPane(CVisualElement* parent, size<int> const& extent, Alignment alignment)
     : Base(parent, extent, alignment)
 {
+    m_Transparent = true;
     SetEqualWidths(false);
     GetRowViewModel()->SetCount(1);
     GetRowViewModel()->SetDefaultItemSize(GetSize().height);

@@ -18,7 +18,7 @@ namespace vexel
 /// and a gap with an image behind it. The strip scrolls by whole tabs. What a paint, a move of the mouse or a scroll costs
 /// goes by what is in view; only Layout, CheckAnimation and a model that has changed walk all tabs.
 ///
-/// It draws its tabs itself, unless it is given another look. Not transparent at first. The tabs' font is bold.
+/// It draws its tabs itself, unless it is given another look. Transparent at first; an opaque one repaints less. The tabs' font is bold.
 class VEXEL_API CTabPane : public CTransparentFlavor<CGridViewer<IDiscreteItemViewModel, IDiscreteItemViewModel>>,
                            public CTooltipEventHandler,        // of each tab
                            public CDefTabHandler,              // in place of the row handler's selection
