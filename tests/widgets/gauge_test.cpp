@@ -183,6 +183,19 @@ TEST_F(Gauge, GroundAndBarAreFilledFromTheLeft)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+TEST_F(Gauge, AValueBeyondTheMaximumIsDrawnToTheEnd)
+{
+    m_Gauge.SetMin(30);
+    m_Gauge.SetMin(0);
+    m_Gauge.SetMax(40);
+    EXPECT_EQ(m_Gauge.GetDrawingVal(), 75);
+    m_Gauge.SetMin(50);
+    m_Gauge.SetMin(0);
+    EXPECT_EQ(m_Gauge.GetValue(), 50);
+    EXPECT_EQ(m_Gauge.GetDrawingVal(), 125);
+    EXPECT_THAT(m_Host.Paint().Of("gauge"), Draws("SetBrush*").Then("FillRect 0 0 100 99"));
+}
+
 TEST_F(Gauge, ATransparentOneLeavesItsGroundOut)
 {
     m_Gauge.SetTransparent(true);

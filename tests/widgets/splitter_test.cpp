@@ -144,7 +144,8 @@ TEST_P(SplitterOnSide, TheBarMovesAndTheSiblingsFollow)
     EXPECT_EQ(m_Log.Take(), "");
 
     Pull(10);
-    EXPECT_EQ(m_Log.Take(), IsSideways() ? "proposed((70, 60)) delta(10) moved()" : "proposed((60, 70)) delta(10) moved()");
+    EXPECT_EQ(m_Log.Take(),
+              IsSideways() ? "proposed((70, 60)) delta(10) moved()" : "proposed((60, 70)) delta(10) moved()");
     EXPECT_EQ(m_First.GetPos(), after[GetParam()].first);
     EXPECT_EQ(m_Bar.GetPos(), after[GetParam()].bar);
     EXPECT_EQ(m_Second.GetPos(), after[GetParam()].second);
@@ -221,8 +222,7 @@ TEST_P(SplitterOnSide, WhereASiblingIsTooSmallAlreadyNothingChanges)
     m_Bar.SetMinSize(120);
     Press();
     Pull(10);
-    EXPECT_EQ(m_Log.Take(),
-              IsSideways() ? "proposed((70, 60)) delta(10)" : "proposed((60, 70)) delta(10)");
+    EXPECT_EQ(m_Log.Take(), IsSideways() ? "proposed((70, 60)) delta(10)" : "proposed((60, 70)) delta(10)");
     EXPECT_EQ(Thickness(m_First), 60);
     EXPECT_EQ(Thickness(m_Second), 132);
     EXPECT_FALSE(m_Bar.UpdateSplitterPos(10));
@@ -374,7 +374,7 @@ TEST_F(Splitter, AStepIsCutToWhatTheSiblingsCanGive)
     EXPECT_EQ(m_Bar.CheckDelta(0x7fffffff), 112);
     EXPECT_EQ(m_Bar.CheckDelta(-0x7fffffff - 1), -40);
     m_Bar.SetMinSize(70);
-    EXPECT_EQ(m_Bar.CheckDelta(0), 10);   // the first one is 10 short
+    EXPECT_EQ(m_Bar.CheckDelta(0), 10);  // the first one is 10 short
     EXPECT_EQ(m_Bar.CheckDelta(-5), 10);
     m_Bar.SetMinSize(100);
     EXPECT_EQ(m_Bar.CheckDelta(60), 32);  // 120 and 72: 28 short

@@ -43,12 +43,12 @@ public:
     /// `animated`: in steps of a quarter of the body, every 10 milliseconds; in a tree without a window they wait for one.
     /// A body of less than 4 pixels never gets on. Otherwise at once, and steps under way end.
     void Expand(bool expand, bool animated);
-    bool IsExpanded() const;                        ///< The state that it is in, or moves to.
+    bool IsExpanded() const;                         ///< The state that it is in, or moves to.
     bool IsSizing() const { return m_Sizing != 0; }  ///< Steps are under way.
-    void UpdateSize();                              ///< A step, if steps are under way.
-    void StopSizing();                              ///< Ends the steps; the size stays as it is.
+    void UpdateSize();                               ///< A step, if steps are under way.
+    void StopSizing();                               ///< Ends the steps; the size stays as it is.
 
-public:  // Overridable
+public:                                 // Overridable
     virtual void HandleExpand(bool) {}  ///< After each Expand, at the beginning of an animation.
 
 public:  // From CVisualElement

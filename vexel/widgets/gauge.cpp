@@ -2,6 +2,8 @@
 
 #include "vexel/platform/painter.h"
 
+#include <algorithm>
+
 namespace vexel
 {
 
@@ -76,7 +78,8 @@ void CGauge::DrawContent(IPainter* painter)
     if (!alive)
         return;
     rectangle<int> const bounds = GetBounds();
-    int const right = GetDrawingVal();
+    int const right =
+        std::min(GetDrawingVal(), bounds.right);  // a minimum may have pulled the value beyond the maximum
     painter->SetBrush({GetFgColor(), brush::bsSolid});
     // A rectangle whose ends are equal is filled a pixel wide.
     if (right > bounds.left)

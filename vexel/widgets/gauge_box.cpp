@@ -16,10 +16,8 @@ int const g_HeightWithoutButton = 20;
 }  // namespace
 
 CGaugeBox::CGaugeBox(CVisualElement* parent, size<int> const& extent, Alignment alignment)
-    : CBevel(parent, extent, alignment),
-      m_Frame(this, g_StripSize, alTop),
-      m_GaugeBevel(&m_Frame, g_PartSize, alClient),
-      m_Gauge(&m_GaugeBevel, g_PartSize, alClient),
+    : CBevel(parent, extent, alignment), m_Frame(this, g_StripSize, alTop),
+      m_GaugeBevel(&m_Frame, g_PartSize, alClient), m_Gauge(&m_GaugeBevel, g_PartSize, alClient),
       m_Button(&m_Frame, g_PartSize, alRight)
 {
     SetContentOffset({0, 0, 0, 0});

@@ -208,12 +208,18 @@ bool CSplitter::UpdateSplitterPos(int delta)
         return false;
 
     CAliveGuard const alive(this);
+    CAlivePtr<CVisualElement> const one(m_First.get());
     CAlivePtr<CVisualElement> const other(m_Second.get());
-    m_First->SetPos(first, false);
+    one->SetPos(first, false);
     if (alive)
         SetPos(bar, false);
     if (other)
         other->SetPos(second, false);
+    // One's moved picture may have come over what another has moved on: nothing of theirs stands.
+    if (step != 0 && one)
+        one->OnChange(one.get(), utElement);
+    if (step != 0 && other)
+        other->OnChange(other.get(), utElement);
     return true;
 }
 

@@ -21,8 +21,9 @@ public:
     signal_t<CSplitter*> m_Moved;  ///< A step of the drag took effect.
     /// Before the step: the size that the first sibling would be asked to have, without regard to the smallest one.
     signal_t<CSplitter*, size<int> const&> m_SizeProposed;
-    signal_t<CSplitter*, int> m_Delta;      ///< Before the step: how much larger, in pixels, the first sibling is to be.
-    signal_t<CSplitter*> m_Finished;        ///< A button came up, also where nothing had moved.
+    /// Before the step: how much larger, in pixels, the first sibling is to be.
+    signal_t<CSplitter*, int> m_Delta;
+    signal_t<CSplitter*> m_Finished;           ///< A button came up, also where nothing had moved.
     signal_t<CSplitter*, bool> m_Highlighted;  ///< The pointer came (true) or left; only with highlighting.
 
     // Siblings: not owned, forgotten when they die. Without both nothing moves ---------------------------------------------
@@ -32,7 +33,8 @@ public:
 
     // Behaviour ------------------------------------------------------------------------------------------------------------
     int GetMinSize() const { return m_MinSize; }
-    void SetMinSize(int pixels);  ///< What is left to either sibling, across the bar; device pixels, below 0 counts as 0.
+    /// What is left to either sibling, across the bar; device pixels, below 0 counts as 0.
+    void SetMinSize(int pixels);
     bool IsLiveResize() const { return m_LiveResize; }
     void SetLiveResize(bool on) { m_LiveResize = on; }  ///< False: the bar moves when the button comes up.
     bool IsRefreshWhileMoving() const { return m_RefreshWhileMoving; }
@@ -56,7 +58,7 @@ public:
     void HandleUpdateSplitterPos(CSplitter*, int delta) { UpdateSplitterPos(delta); }  ///< Of m_Delta.
     void HandleRefreshSizes(CSplitter*) { RefreshElementSize(); }                      ///< Of m_Finished or m_Moved.
 
-public:  // From CVisualElement
+public:                                                            // From CVisualElement
     void SetPos(rectangle<int> const& rect, bool force) override;  ///< Always lays out and repaints.
     void SetAlignment(Alignment alignment) override;               ///< The pointer's shape goes by it.
     bool HandleMouseMove(int x, int y, int keys, MouseButton button) override;
