@@ -123,6 +123,18 @@ void CExpander::AdoptSize()
         m_Adopting = false;
 }
 
+// A body that is left without extent covers nothing: amid the steps that may be a line of pixels that shows the frame.
+void CExpander::SetPos(rectangle<int> const& rect, bool force)
+{
+    CAliveGuard const alive(this);
+    CBevel::SetPos(rect, force);
+    if (!alive || !GetBody() || !GetBody()->IsVisible())
+        return;
+    rectangle<int> const bounds = GetBody()->GetBounds();
+    if (bounds.right <= 0 || bounds.bottom <= 0)
+        OnChange(this, utElement);
+}
+
 void CExpander::ProcessRearrange(CVisualElement** element)
 {
     if (*element && (*element == GetTitle() || *element == GetBody()))

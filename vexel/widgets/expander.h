@@ -52,6 +52,7 @@ public:                                 // Overridable
     virtual void HandleExpand(bool) {}  ///< After each Expand, at the beginning of an animation.
 
 public:  // From CVisualElement
+    void SetPos(rectangle<int> const& rect, bool force) override;
     void ProcessSetControl(IControl* control) override;
     void AfterSetControl() override;
     void ProcessRearrange(CVisualElement** element) override;
