@@ -61,6 +61,7 @@ void CSplitterPage::Build(CVisualElement* parent)
     Report(live->m_Delta, "live.delta");
     Report(live->m_Moved, "live.moved");
     Report(live->m_Finished, "live.finished");
+    Report(left->m_SigSize, "left.size");
     Report(late->m_Moved, "late.moved");
     Report(late->m_Finished, "late.finished");
     Report(lit->m_Moved, "lit.moved");
