@@ -13,9 +13,11 @@
 #include "gallery/pages/drag_drop_page.h"
 #include "gallery/pages/dropdowns_page.h"
 #include "gallery/pages/edges_page.h"
+#include "gallery/pages/expanders_page.h"
 #include "gallery/pages/flashing_page.h"
 #include "gallery/pages/flow_grid_page.h"
 #include "gallery/pages/focus_page.h"
+#include "gallery/pages/gauges_page.h"
 #include "gallery/pages/grid_groups_page.h"
 #include "gallery/pages/grid_page.h"
 #include "gallery/pages/header_page.h"
@@ -34,6 +36,7 @@
 #include "gallery/pages/round_buttons_page.h"
 #include "gallery/pages/scrolling_page.h"
 #include "gallery/pages/selection_page.h"
+#include "gallery/pages/splitter_page.h"
 #include "gallery/pages/strips_page.h"
 #include "gallery/pages/tab_pane_page.h"
 #include "gallery/pages/tooltip_page.h"
@@ -127,6 +130,11 @@ SPage const g_Pages[] = {
      &Make<CBarPage>},
     {"zoomer", "Zoomer and rolls", "Drag the thumb, or press beside it. A click on a strip rolls its panel up.",
      &Make<CZoomerRollPage>},
+    {"splitter", "Splitters", "Drag the bars between the panes. One waits for the end, one lights up.",
+     &Make<CSplitterPage>},
+    {"expanders", "Expanders", "Click the titles: bodies open and close in steps, one of them at once.",
+     &Make<CExpandersPage>},
+    {"gauges", "Gauges", "Press the buttons to move the bars.", &Make<CGaugesPage>},
 };
 
 }  // namespace

@@ -259,6 +259,21 @@ TEST_F(TreeParent, AChildThatLeavesIsNoKeyDelegateAnyMore)
 
 // SetControl ---------------------------------------------------------------------------------------------------------------
 
+TEST_F(TreeParent, AParentThatDiesWhileItIsLeftIsSurvived)
+{
+    for (bool const toAnother : {false, true})
+    {
+        CRecordingElement kept(m_Log, "kept");
+        kept.SetDynamic(false);
+        kept.SetAlignment(alTop);
+        auto* const parent = new CRecordingElement(m_Log, "parent", &m_Old);
+        kept.ReParent(parent, false);
+        parent->m_OnRearrange = [parent](CVisualElement**) { delete parent; };
+        kept.ReParent(toAnother ? &m_Next : nullptr, true);
+        EXPECT_EQ(kept.GetParent(), toAnother ? &m_Next : nullptr);
+    }
+}
+
 TEST_F(TreeParent, TheSameControlDoesNothing)
 {
     m_Child.SetControl(&m_Control);

@@ -96,6 +96,9 @@ void CVisualElement::ReParent(CVisualElement* parent, bool rearrange)
             if (!alive || m_Parent != oldParent.get())
                 return;
         }
+    }
+    if (m_Parent)  // it may have died, and this element not with it
+    {
         if (target)
             target->m_Children.MakeRoom();  // if there is no memory, the element stays where it is
         m_Parent->m_Children.RemoveItem(this);

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "gallery/frame/page.h"
+
+namespace gallery
+{
+
+class CExpandersPage : public CPage
+{
+public:
+    void Build(CVisualElement* parent) override;
+};
+
+}  // namespace gallery

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "vexel/controls/caption.h"
+#include "vexel/platform/convert.h"
+#include "vexel/platform/system.h"
+
+namespace vexel::detail
+{
+
+/// What stands around the parts of boxes with messages; device pixels.
+inline int GetBaseOffset()
+{
+    return ToInt(10 * GetSystemScale());
+}
+
+/// What captions that size themselves bring along of it; device pixels.
+inline int GetTextSizeCorrection()
+{
+    return 3 * CCaption::GetAutoSizeExtent().height;
+}
+
+}  // namespace vexel::detail
