@@ -9,13 +9,6 @@
 namespace gallery
 {
 
-namespace
-{
-
-int const g_KeyF2 = 113;
-
-}  // namespace
-
 CCellEditing::CCellEditing(Grid& grid, SCells cells)
     : m_Grid(grid), m_Cells(std::move(cells)), m_Line(new CLineEditor), m_Box(new CComboBox)
 {
@@ -44,7 +37,7 @@ void CCellEditing::GridDoubleClicked(CVisualElement*, int x, int y, int, MouseBu
 
 void CCellEditing::GridKeyDown(CVisualElement*, int, int key)
 {
-    if (key == g_KeyF2 && !m_Editor)
+    if (key == vkF1 + 1 && !m_Editor)
         Edit(m_Grid.GetRowSelectionModel()->GetCurrent(), Utils::HitTest(m_Grid.GetColumnViewModel(), 1));
 }
 

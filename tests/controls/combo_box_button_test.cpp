@@ -339,6 +339,16 @@ TEST_F(ComboBoxButton, AnActivatedRowClosesThePopupAndBecomesTheCaption)
     EXPECT_EQ(m_Button.GetCaption(), "3");
 }
 
+TEST_F(ComboBoxButton, BeforeItWasEverOpenedAnActivatedRowLeavesTheCaption)
+{
+    m_Button.SetCaption("as it was");
+    Rows().SetCurrentItemEx(1);
+    EXPECT_EQ(m_Button.GetCaption(), "as it was");
+    Open();
+    Rows().SetCurrentItemEx(2);
+    EXPECT_EQ(m_Button.GetCaption(), m_Model.GetItemCaption(2));
+}
+
 TEST_F(ComboBoxButton, ByProgramARowIsActivatedToo)
 {
     Open();

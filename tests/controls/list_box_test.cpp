@@ -585,43 +585,47 @@ TEST(ListBox, WithoutAModelItIsAnEmptyAreaOfItsBackground)
     EXPECT_EQ(host.PixelAt(50, 50), color_table[3]);
 }
 
-TEST(ListBox, ScrollsWhatDoesNotFit)
+// Thirty lines of 10 pixels each in a box that fills a window of 100 x 100.
+class LongListBox : public testing::Test
 {
-    CLinesModel model(NumberedLines(30));
-    CTestHost host(100, 100);
-    CListBox& box = *new CListBox(host.Root(), {0, 0}, alClient);
-    CListBoxViewer& rows = box.GetViewer();
-    rows.SetAutoRowHeight(false);
-    rows.GetRowViewModel()->SetDefaultItemSize(10);
-    rows.SetModel(&model);
-    host.Paint();
-    EXPECT_TRUE(box.GetScrollBox().GetVertElement().IsScrollBarVisible());
-    EXPECT_FALSE(box.GetScrollBox().GetHorzElement().IsScrollBarVisible());
-    rows.SetLineWidth(300);
-    host.Paint();
-    EXPECT_TRUE(box.GetScrollBox().GetHorzElement().IsScrollBarVisible());
-    rows.SetLineWidth(30);
-    model.Set(NumberedLines(3));
-    host.Paint();
-    EXPECT_FALSE(box.GetScrollBox().GetVertElement().IsScrollBarVisible());
-    EXPECT_FALSE(box.GetScrollBox().GetHorzElement().IsScrollBarVisible());
-    EXPECT_EQ(host.CompareWithFullPaint(), "");
+protected:
+    LongListBox()
+    {
+        m_Rows.SetAutoRowHeight(false);
+        m_Rows.GetRowViewModel()->SetDefaultItemSize(10);
+        m_Rows.SetModel(&m_Model);
+        m_Host.Paint();
+    }
+    bool HasVertBar() { return m_Box.GetScrollBox().GetVertElement().IsScrollBarVisible(); }
+    bool HasHorzBar() { return m_Box.GetScrollBox().GetHorzElement().IsScrollBarVisible(); }
+
+    CLinesModel m_Model{NumberedLines(30)};
+    CTestHost m_Host{100, 100};
+    CListBox& m_Box = *new CListBox(m_Host.Root(), {0, 0}, alClient);
+    CListBoxViewer& m_Rows = m_Box.GetViewer();
+};
+
+TEST_F(LongListBox, ScrollsWhatDoesNotFit)
+{
+    EXPECT_TRUE(HasVertBar());
+    EXPECT_FALSE(HasHorzBar());
+    m_Rows.SetLineWidth(300);
+    m_Host.Paint();
+    EXPECT_TRUE(HasHorzBar());
+    m_Rows.SetLineWidth(30);
+    m_Model.Set(NumberedLines(3));
+    m_Host.Paint();
+    EXPECT_FALSE(HasVertBar());
+    EXPECT_FALSE(HasHorzBar());
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
-TEST(ListBox, TheRowUnderThePointerIsFoundInAScrolledListToo)
+TEST_F(LongListBox, TheRowUnderThePointerIsFoundInAScrolledListToo)
 {
-    CLinesModel model(NumberedLines(30));
-    CTestHost host(100, 100);
-    CListBox& box = *new CListBox(host.Root(), {0, 0}, alClient);
-    CListBoxViewer& rows = box.GetViewer();
-    rows.SetAutoRowHeight(false);
-    rows.GetRowViewModel()->SetDefaultItemSize(10);
-    rows.SetModel(&model);
-    CSignalLog log(rows.m_SigItemActivated, "activated");
-    host.Paint();
-    rows.GetVertScroll()->SetStart(4);
-    host.Paint();
-    host.Mouse().Click(rows, 20, 15);
+    CSignalLog log(m_Rows.m_SigItemActivated, "activated");
+    m_Rows.GetVertScroll()->SetStart(4);
+    m_Host.Paint();
+    m_Host.Mouse().Click(m_Rows, 20, 15);
     EXPECT_EQ(log.Text(), "activated(5)");
-    EXPECT_EQ(host.CompareWithFullPaint(), "");
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }

@@ -89,6 +89,16 @@ protected:
         m_Host.Focus();
         m_Host.Paint();
     }
+    // An event that goes along the chain: each way is another walk.
+    void Walk(int way)
+    {
+        if (way == 0)
+            m_Viewer->HandleKeyDown(0, 65);
+        else if (way == 1)
+            m_Viewer->HandleGetFocus(nullptr, true);
+        else
+            m_Viewer->ScrollContent(1, 1);
+    }
     void AddBoth()
     {
         m_Viewer->AddEventHandler(&m_A);
@@ -424,12 +434,7 @@ TEST_F(EventHandlers, TheNextHandlerMayDieInTheWalk)
         m_Viewer->AddEventHandler(&m_B);
         meddler.m_Deed = [&] { delete next; };
         m_Log.Take();
-        if (way == 0)
-            m_Viewer->HandleKeyDown(0, 65);
-        else if (way == 1)
-            m_Viewer->HandleGetFocus(nullptr, true);
-        else
-            m_Viewer->ScrollContent(1, 1);
+        Walk(way);
         EXPECT_EQ(meddler.GetNext(), &m_B);
         EXPECT_EQ(m_Log.Take().substr(0, 2), "b.");
         m_Viewer->RemoveEventHandler(&m_B);
@@ -485,12 +490,7 @@ TEST_F(EventHandlers, AHandlerThatLeavesItsChainInTheWalkIsFollowedByTheOneItSto
         m_Viewer->AddEventHandler(&m_B);
         meddler.m_Deed = [&] { m_Viewer->RemoveEventHandler(&meddler); };
         m_Log.Take();
-        if (way == 0)
-            m_Viewer->HandleKeyDown(0, 65);
-        else if (way == 1)
-            m_Viewer->HandleGetFocus(nullptr, true);
-        else
-            m_Viewer->ScrollContent(1, 1);
+        Walk(way);
         EXPECT_EQ(m_Log.Take().substr(0, 2), "b.");
         EXPECT_EQ(meddler.GetChainOwner(), nullptr);
         m_Viewer->RemoveEventHandler(&m_B);

@@ -2,6 +2,7 @@
 
 #include "vexel/controls/detail/focus_frame.h"
 #include "vexel/controls/detail/painter_colors.h"
+#include "vexel/controls/detail/rects.h"
 #include "vexel/controls/detail/scaled.h"
 #include "vexel/core/control.h"
 #include "vexel/platform/border.h"
@@ -13,12 +14,6 @@ namespace
 {
 
 int const g_RepeatInterval = 200;  // milliseconds
-
-rectangle<double> ToDouble(rectangle<int> const& rect)
-{
-    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.right),
-            static_cast<double>(rect.bottom)};
-}
 
 }  // namespace
 
@@ -118,7 +113,7 @@ void CButton::DrawContent(IPainter* painter)
     int inset = ToInt(painter->GetDPIScale() * 3.0);
     if (m_Style == BorderFlat && !IsNativeDrawing())
         --inset;
-    rectangle<double> rect = ToDouble(GetBounds());
+    rectangle<double> rect = detail::ToDouble(GetBounds());
     rect.Normalize();
     detail::DrawFocusFrame(painter, rect, inset);
 }
@@ -149,7 +144,7 @@ void CButton::DrawEdged(IPainter* painter)
         palette = m_EdgePalette;
     }
     detail::CPaletteHolder const holder(painter, palette);
-    rectangle<double> const bounds = ToDouble(GetBounds());
+    rectangle<double> const bounds = detail::ToDouble(GetBounds());
     if (GetClickStage() == StagePressed)
         DrawBorder(painter, bounds, bsBox, bsSunken, true);
     else if (m_Shape < ShapeNoFrame)

@@ -16,8 +16,6 @@ namespace vexel
 namespace
 {
 
-double const g_Unlimited = 100000.0;
-
 int GetDefaultImageSpace()
 {
     return detail::Scaled(4.0);
@@ -260,7 +258,7 @@ size<double> CCaption::MeasureText(IPainter* painter, size<int> const& image, si
 {
     if (m_Caption.empty())
         return {};
-    double width = g_Unlimited;
+    double width = CMeasureBracket::s_Unlimited;
     if (m_AdjustHeight)
     {
         rectangle<int> const bounds = GetBounds();
@@ -269,7 +267,7 @@ size<double> CCaption::MeasureText(IPainter* painter, size<int> const& image, si
     }
     if (m_MaxTextWidth != 0 && m_MaxTextWidth < width)
         width = m_MaxTextWidth;
-    return painter->DrawStringEx({0.0, 0.0, width, g_Unlimited}, m_Caption.c_str(),
+    return painter->DrawStringEx({0.0, 0.0, width, CMeasureBracket::s_Unlimited}, m_Caption.c_str(),
                                  IPainter::AlignMeasureOnly | IPainter::AlignLeft, -1, GetDelimiters(), GetFormatter());
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace vexel
 {
@@ -58,7 +59,6 @@ void CPopup::Show()
 CComboBoxButton::CComboBoxButton(CVisualElement* parent, size<int> const& extent, Alignment alignment)
     : CDropButton(parent, extent, alignment), m_List(new CListBox(nullptr, g_ListExtent, alClient))
 {
-    m_List->GetViewer().m_SigItemActivated.connect(this, &CComboBoxButton::ProcessClosePopup);
     m_SigButtonDown.connect(this, &CComboBoxButton::ProcessMouseDown);
     m_SigDropDown.connect(this, &CComboBoxButton::ProcessDropDown);
     SetTextAlign(IPainter::AlignLeft | IPainter::AlignVCenter);
@@ -92,7 +92,8 @@ bool CComboBoxButton::PreparePopup()
     m_DropPopup.AttributeChanged();
     if (m_DropPopup.m_Control && m_List)
     {
-        m_ListOwned = false;
+        if (std::exchange(m_ListOwned, false))
+            m_List->GetViewer().m_SigItemActivated.connect(this, &CComboBoxButton::ProcessClosePopup);
         m_DropPopup.m_Control->SetContent(m_List.get());
     }
     delete old.m_Control;

@@ -1,6 +1,5 @@
 #include "vexel/controls/editor.h"
 
-#include "vexel/controls/detail/keys.h"
 #include "vexel/core/control.h"
 #include "vexel/platform/events.h"
 #include "vexel/platform/sys_window.h"
@@ -100,7 +99,7 @@ void CControlEditor::EditOnReturnPress(CEvent*)
 
 void CControlEditor::EditOnKeyDown(CEditKeyDownEvent* event)
 {
-    if (event && event->m_VirtualKey == detail::g_KeyEscape)
+    if (event && event->m_VirtualKey == vkEscape)
         FinishByKey(ecCancel);
 }
 

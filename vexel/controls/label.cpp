@@ -1,5 +1,6 @@
 #include "vexel/controls/label.h"
 
+#include "vexel/controls/detail/rects.h"
 #include "vexel/platform/convert.h"
 #include "vexel/platform/native_controls.h"
 
@@ -32,12 +33,6 @@ private:
     IPainter* const m_Painter;
     font const m_Font;
 };
-
-rectangle<double> ToDouble(rectangle<int> const& rect)
-{
-    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.right),
-            static_cast<double>(rect.bottom)};
-}
 
 struct SLabelImage
 {
@@ -163,7 +158,7 @@ void ProcessLabel(Operation& operation, rectangle<int> const& rect, std::string 
     m.hasText = !text.empty();
     m.imageSpace = imageSpace;
     SLabelImage image{images, imageIndex, {}};
-    rectangle<double> textRect = ToDouble(rect);
+    rectangle<double> textRect = detail::ToDouble(rect);
     if (imageIndex != -1 && images)
     {
         image.extent = images->GetSize(imageIndex);
@@ -195,7 +190,8 @@ void ProcessLabel(Operation& operation, rectangle<int> const& rect, std::string 
     if (imageIndex == -1)
         return;
 
-    rectangle<double> const place = (flags & IPainter::AlignLeft) != 0 || !m.hasText ? ToDouble(rect) : textRect;
+    rectangle<double> const place =
+        (flags & IPainter::AlignLeft) != 0 || !m.hasText ? detail::ToDouble(rect) : textRect;
     m.rectAlong = layout->GetAlong(place.Width(), place.Height());
     m.rectAcross = layout->GetAcross(place.Width(), place.Height());
     m.originAlong = layout->GetAlong(place.left, place.top);

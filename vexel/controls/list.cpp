@@ -1,6 +1,7 @@
 #include "vexel/controls/list.h"
 
 #include "vexel/controls/detail/painter_colors.h"
+#include "vexel/controls/detail/rects.h"
 #include "vexel/controls/detail/scaled.h"
 #include "vexel/controls/label.h"
 #include "vexel/core/control.h"
@@ -14,14 +15,6 @@ namespace vexel
 
 namespace
 {
-
-double const g_Unlimited = 100000.0;
-
-rectangle<double> ToDouble(rectangle<int> const& rect)
-{
-    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.right),
-            static_cast<double>(rect.bottom)};
-}
 
 }  // namespace
 
@@ -117,8 +110,9 @@ size<int> CList::GetItemSize(int item) const
     if (!painter || !m_Model)
         return {};
     CMeasureBracket const bracket(painter, GetFont());
-    size<double> const text = painter->DrawString({0.0, 0.0, g_Unlimited, g_Unlimited}, m_Model->GetItemCaption(item),
-                                                  IPainter::AlignLeft | IPainter::AlignMeasureOnly, -1);
+    size<double> const text =
+        painter->DrawString({0.0, 0.0, CMeasureBracket::s_Unlimited, CMeasureBracket::s_Unlimited},
+                            m_Model->GetItemCaption(item), IPainter::AlignLeft | IPainter::AlignMeasureOnly, -1);
     return {AddSaturated(ToInt(text.width), AddSaturated(m_Offset.left, m_Offset.right)), ToInt(text.height)};
 }
 
@@ -235,8 +229,8 @@ bool CList::AsksDrawing(IPainter* painter, int item, rectangle<int> const& rect)
 void CList::DrawItem(IPainter* painter, int item, rectangle<int> const& rect)
 {
     if (AsksDrawing(painter, item, rect))
-        painter->DrawString(ToDouble(rect), m_Model->GetItemCaption(item), IPainter::AlignLeft | IPainter::AlignVCenter,
-                            -1);
+        painter->DrawString(detail::ToDouble(rect), m_Model->GetItemCaption(item),
+                            IPainter::AlignLeft | IPainter::AlignVCenter, -1);
 }
 
 // Mouse -------------------------------------------------------------------------------------------------------------------

@@ -12,8 +12,6 @@ namespace
 
 size<int> const g_ListExtent{200, 100};
 double const g_TextIndent = 3.0;
-int const g_KeySpace = 32;
-int const g_KeyReturn = 13;
 
 }  // namespace
 
@@ -136,7 +134,7 @@ bool CListBoxViewer::SetCurProcessButtonDown(int, int, int, MouseButton button, 
 
 bool CListBoxViewer::SetCurProcessKeyDown(int key)
 {
-    if (key != g_KeySpace && key != g_KeyReturn)
+    if (key != vkSpace && key != vkReturn)
         return false;
     if (m_HotItem >= 0)
         SetCurrentItemEx(m_HotItem);
@@ -198,7 +196,7 @@ void CListBoxViewer::DrawRow(IPainter* painter, int row, int, int state, rectang
         return;
     rectangle<double> line = rect;
     line.left -= scrolled;  // the other end stays, so that the ground reaches it
-    bool const highlighted = m_HotItem < 0 ? (state & 1) != 0 : m_HotItem == row;
+    bool const highlighted = m_HotItem < 0 ? (state & isSelected) != 0 : m_HotItem == row;
     _color const ground = highlighted ? detail::GetPainterColor(*painter, ISysPalette::scHighlight) : GetBkColor();
     painter->SetTextColor(highlighted ? detail::GetPainterColor(*painter, ISysPalette::scHighlightText) : GetFgColor());
     painter->SetBrush({ground, brush::bsSolid});
@@ -213,7 +211,7 @@ void CListBoxViewer::DrawRow(IPainter* painter, int row, int, int state, rectang
     if (m_Model)
         painter->DrawString({line.left + g_TextIndent, line.top, line.right, line.bottom}, m_Model->GetItemCaption(row),
                             IPainter::AlignVCenter, -1);
-    if ((state & 2) != 0 && IsFocused())
+    if ((state & isCurrent) != 0 && IsFocused())
         painter->FocusRect(line.left, line.top, line.right, line.bottom);
 }
 

@@ -14,7 +14,7 @@ class VEXEL_API IListBoxItemDrawing
 {
 public:
     virtual ~IListBoxItemDrawing();
-    /// `state`: bits, 1 selected and 2 current. The ground is drawn. `*drawDefault`, true at first: whether the list box
+    /// `state`: isSelected and isCurrent. The ground is drawn. `*drawDefault`, true at first: whether the list box
     /// draws the rest. The rectangle is in the viewer's pixels, and begins left of it where the list is scrolled.
     virtual void DrawItem(IPainter* painter, int item, int state, rectangle<double> const& rect, bool* drawDefault) = 0;
 };

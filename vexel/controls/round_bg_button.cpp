@@ -17,8 +17,6 @@ namespace vexel
 namespace
 {
 
-double const g_Unlimited = 100000.0;
-
 using Index = CRoundBgButton::InternalBgImageIndex;
 
 struct SRow
@@ -233,8 +231,9 @@ size<int> CRoundBgButton::GetOptimalSize(IPainter* painter, std::string const& t
     font bold = GetFont();
     bold.style |= font::fsBold;
     CMeasureBracket const bracket(painter, bold);
-    size<double> const extent = painter->DrawString({0.0, 0.0, g_Unlimited, g_Unlimited}, measured,
-                                                    GetTextAlign() | IPainter::AlignMeasureOnly, -1);
+    size<double> const extent =
+        painter->DrawString({0.0, 0.0, CMeasureBracket::s_Unlimited, CMeasureBracket::s_Unlimited}, measured,
+                            GetTextAlign() | IPainter::AlignMeasureOnly, -1);
     IImageList* const images = GetImages();
     size<int> const image = images && GetImageIndex() != -1 ? images->GetSize(GetImageIndex()) : size<int>();
     size<int> const extra = GetAutoSizeAdditionalExtent();

@@ -10,6 +10,8 @@ namespace vexel
 class CMeasureBracket
 {
 public:
+    static constexpr double s_Unlimited = 100000.0;  ///< Extents of a place in which any text has room.
+
     CMeasureBracket(IPainter* painter, font const& value)
         : m_Painter(painter), m_Own(!painter->m_Painting), m_Before(m_Own ? font() : painter->GetFont())
     {

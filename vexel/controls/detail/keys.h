@@ -1,16 +1,15 @@
 #pragma once
 
+#include "vexel/core/fwd.h"
+#include "vexel/platform/events.h"
+
 namespace vexel::detail
 {
 
-inline constexpr int g_KeyEscape = 27;
-inline constexpr int g_KeyDown = 40;
-inline constexpr int g_AltAlone = 0x400;  // the whole word of keys: alt is held, nothing else
-
-/// Opens what drops down.
+/// Opens what drops down: alt and down, with nothing else held.
 inline bool IsDropKey(int keys, int key)
 {
-    return key == g_KeyDown && keys == g_AltAlone;
+    return key == vkDown && keys == ksAlt;
 }
 
 }  // namespace vexel::detail
