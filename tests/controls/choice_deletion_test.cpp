@@ -52,8 +52,7 @@ public:
     {
         return ClickAt(10) + ClickAt(10) +
                std::vector<Step>{[](CTestHost& host) { host.Keyboard().Press(vkSpace); },
-                                 [](CTestHost& host) { host.Mouse().Leave(); },
-                                 [](CTestHost& host) { host.Paint(); }};
+                                 [](CTestHost& host) { host.Mouse().Leave(); }, [](CTestHost& host) { host.Paint(); }};
     }
     void Run(int misdeedAt = -1, std::function<void(CCheckScene&)> const& misdeed = {})
     {
