@@ -5,6 +5,7 @@
 #include "vexel/core/measure_bracket.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/sys_window.h"
+#include "vexel/widgets/detail/system_color.h"
 
 namespace vexel
 {
@@ -24,12 +25,6 @@ template <class T> int GetSlant(rectangle<T> const& content)
 double GetTextWidth(IPainter& painter, std::string const& text)
 {
     return painter.GetTextSize(text, nullptr).width;
-}
-
-_color GetSystemColor(ISysPalette::SysColor number)
-{
-    ISysPalette const* const palette = GetSysPalette();
-    return palette ? palette->GetColor(number) : GetDefaultPalette()->GetColor(number);
 }
 
 void SetPenColor(IPainter& painter, _color const& color)
@@ -57,11 +52,11 @@ CTabs::CTabs(CVisualElement* parent, size<int> const& extent, Alignment alignmen
 void CTabs::TakeSystemColors()
 {
     if (!m_OwnActiveColor)
-        m_ActiveColor = GetSystemColor(ISysPalette::scWindow);
+        m_ActiveColor = detail::GetSystemColor(ISysPalette::scWindow);
     if (!m_OwnInactiveColor)
-        m_InactiveColor = GetSystemColor(ISysPalette::scFace);
+        m_InactiveColor = detail::GetSystemColor(ISysPalette::scFace);
     bool const isDefault = m_DefaultBkColor == _color() || GetBkColor() == m_DefaultBkColor;
-    m_DefaultBkColor = GetSystemColor(ISysPalette::scFace).Lighter(g_BkLightening);
+    m_DefaultBkColor = detail::GetSystemColor(ISysPalette::scFace).Lighter(g_BkLightening);
     if (isDefault)
         SetBkColor(m_DefaultBkColor);
 }
@@ -204,7 +199,7 @@ void CTabs::SetLastVisibleTab(int tab)
 
 void CTabs::DrawContent(IPainter* painter)
 {
-    SetPenColor(*painter, GetSystemColor(ISysPalette::scShadow));
+    SetPenColor(*painter, detail::GetSystemColor(ISysPalette::scShadow));
     rectangle<int> const bounds = GetBounds();
     painter->FillRect(bounds.left, bounds.top, bounds.right, bounds.bottom);
     painter->MoveTo(0, 0);
@@ -271,7 +266,7 @@ int CTabs::DrawTab(IPainter* painter, int tab, int x)
         SetPenColor(*painter, m_ActiveColor);
         painter->MoveTo(left + 1, 0);
         painter->LineTo(end - 1, 0);
-        SetPenColor(*painter, GetSystemColor(ISysPalette::scShadow));
+        SetPenColor(*painter, detail::GetSystemColor(ISysPalette::scShadow));
     }
     double const textLeft = ToInt(start);
     painter->DrawString({textLeft, content.top, textLeft + width, content.bottom - 1}, text, g_TextFlags, -1);
