@@ -1,0 +1,87 @@
+#include "gallery/pages/sliders_page.h"
+
+#include "gallery/frame/panel.h"
+#include "vexel/platform/system.h"
+
+namespace gallery
+{
+
+double CSlidersPage::CSizes::GetPointValue(int index) const
+{
+    static double const values[] = {0, 20, 40, 70, 100};
+    return values[index];
+}
+
+std::string CSlidersPage::CSizes::GetPointCaption(int index) const
+{
+    static char const* const captions[] = {"XS", "S", "M", "L", "XL"};
+    return captions[index];
+}
+
+/// A look of one's own: a round pointer that lights up under the mouse, captions in different colours.
+class CSlidersPage::CColours : public CDefSliderDrawingModel
+{
+public:
+    void GetAttr(int point, font& value, _color& text, _color&, int&) const override
+    {
+        static _color const colors[] = {color_table[13], color_table[19], color_table[11], color_table[6], color_table[5]};
+        text = colors[point % 5];
+        value.style |= font::fsBold;
+    }
+    void OnDrawPointer(IPainter* painter, rectangle<double> const& rect, int state, ILayout*) const override
+    {
+        painter->SetBrush({state & IPainter::esHot ? color_table[11] : color_table[16], brush::bsSolid});
+        painter->SetPen({color_table[7], pen::psSolid, 1});
+        painter->RoundRect(rect.left, rect.top, rect.right, rect.bottom, rect.Width() / 2, rect.Height() / 2);
+    }
+    size<int> GetPointerSize(ILayout*) const override
+    {
+        int const extent = ToInt(16 * GetSystemScale());
+        return {extent, extent};
+    }
+};
+
+CSlidersPage::CSlidersPage() : m_Colours(std::make_unique<CColours>()) {}
+CSlidersPage::~CSlidersPage() = default;
+
+CSlider* CSlidersPage::AddSlider(CVisualElement* parent, std::string const& name, size<int> const& extent,
+                                 Alignment alignment, ISliderModel* model)
+{
+    auto* const slider = new CSlider(parent, extent, alignment);
+    if (alignment == alTop)
+        slider->SetDirection(CSlider::SliderHorizontal);
+    slider->SetModel(model);
+    Report(slider->m_PosTracking, name + ".tracking");
+    Report(slider->m_PosChanged, name + ".changed");
+    return slider;
+}
+
+void CSlidersPage::Build(CVisualElement* parent)
+{
+    auto* const left = new CPanel(parent, {340, 0}, alLeft);
+    new CLabel(left, {0, 22}, alTop, "Points, with the arrow keys or the mouse");
+    AddSlider(left, "points", {0, 50}, alTop, &m_Sizes)->SetSliderPos(2);
+    new CLabel(left, {0, 22}, alTop, "No points: every pixel is a position");
+    AddSlider(left, "pixels", {0, 30}, alTop, nullptr)->SetSliderPos(100);
+    new CLabel(left, {0, 22}, alTop, "A look of one's own");
+    CSlider* const coloured = AddSlider(left, "coloured", {0, 46}, alTop, &m_Sizes);
+    coloured->SetDrawingModel(m_Colours.get());
+    coloured->SetSliderPos(1);
+    new CLabel(left, {0, 22}, alTop, "Disabled");
+    CSlider* const disabled = AddSlider(left, "disabled", {0, 50}, alTop, &m_Sizes);
+    disabled->SetSliderPos(3);
+    disabled->SetEnabled(false);
+    new CPanel(left, {0, 0}, alClient);
+
+    new CPanel(parent, {20, 0}, alLeft);
+    AddSlider(parent, "down", {60, 0}, alLeft, &m_Sizes)->SetSliderPos(1);
+    new CPanel(parent, {20, 0}, alLeft);
+    AddSlider(parent, "pixels down", {30, 0}, alLeft, nullptr)->SetSliderPos(60);
+    new CPanel(parent, {20, 0}, alLeft);
+    CSlider* const own = AddSlider(parent, "coloured down", {60, 0}, alLeft, &m_Sizes);
+    own->SetDrawingModel(m_Colours.get());
+    own->SetSliderPos(3);
+    new CPanel(parent, {0, 0}, alClient);
+}
+
+}  // namespace gallery
