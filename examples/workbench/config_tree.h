@@ -40,8 +40,7 @@ public:
 
     CConfigCategory& AddCategory(std::string caption, std::string description)
     {
-        m_Categories.push_back(
-            std::make_unique<CConfigCategory>(this, std::move(caption), std::move(description)));
+        m_Categories.push_back(std::make_unique<CConfigCategory>(this, std::move(caption), std::move(description)));
         return *m_Categories.back();
     }
     /// Takes the editor; null: a label alone. Returns it.
@@ -51,7 +50,10 @@ public:
         m_Items.push_back(std::make_unique<CConfigItem>(std::move(caption), std::move(editor)));
         return element;
     }
-    void AddLabel(std::string caption) { m_Items.push_back(std::make_unique<CConfigItem>(std::move(caption), nullptr)); }
+    void AddLabel(std::string caption)
+    {
+        m_Items.push_back(std::make_unique<CConfigItem>(std::move(caption), nullptr));
+    }
 
 public:  // From IConfigCategory
     int GetCategoryCount() const override { return static_cast<int>(m_Categories.size()); }
@@ -81,8 +83,7 @@ class CConfigTree : public IConfigModel
 public:
     CConfigCategory& AddCategory(std::string caption, std::string description)
     {
-        m_Categories.push_back(
-            std::make_unique<CConfigCategory>(nullptr, std::move(caption), std::move(description)));
+        m_Categories.push_back(std::make_unique<CConfigCategory>(nullptr, std::move(caption), std::move(description)));
         return *m_Categories.back();
     }
     int GetCategoryCount() const override { return static_cast<int>(m_Categories.size()); }

@@ -2,6 +2,7 @@
 
 #include "vexel/controls/check_box.h"
 #include "vexel/controls/combo_box_button.h"
+#include "vexel/platform/system.h"
 #include "vexel/scroll/scroll_box.h"
 #include "vexel/widgets/configuration_viewer.h"
 #include "vexel/widgets/slider.h"
@@ -32,6 +33,7 @@ std::unique_ptr<CSlider> MakeSlider(int position)
 {
     auto slider = MakeEditor<CSlider>(150);
     slider->SetDirection(CSlider::SliderHorizontal);
+    slider->SetPos({0, 0, ToInt(150 * GetSystemScale()), 20}, true);  // only what has a length has positions
     slider->SetSliderPos(position);
     return slider;
 }
@@ -62,9 +64,8 @@ CConfigurationPage::CConfigurationPage()
     network.AddLabel("The proxy is the system's");
     network.AddCategory("Cache", "Kept between runs").AddItem("Keep it", MakeSwitch(true));
     m_Tree.AddCategory("About", "A category without settings");
-    for (int i = 1; i <= 8; ++i)
-        m_Tree.AddCategory("Plugin " + std::to_string(i), "Loaded at start")
-            .AddItem("Active", MakeSwitch(i % 2 == 0));
+    for (int i = 1; i <= 14; ++i)
+        m_Tree.AddCategory("Plugin " + std::to_string(i), "Loaded at start").AddItem("Active", MakeSwitch(i % 2 == 0));
 }
 
 void CConfigurationPage::Build(CVisualElement* parent)

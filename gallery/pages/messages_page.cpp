@@ -30,9 +30,10 @@ void CMessagesPage::Build(CVisualElement* parent)
     m_Question->GetButtons().SetButtons(CMessageSetUp::ButtonRetry | CMessageSetUp::ButtonGoOn |
                                         CMessageSetUp::ButtonQuit);
     m_Question->m_ButtonPressed.connect(this, &CMessagesPage::Answered);
-    AddBox(parent, "long", CMessageSetUp::ImageInfo, "A text that wraps",
-           "The height of this text follows the width of the box: make the window narrower and it takes more lines, and "
-           "the box grows with it. Title and picture stay level, and the text begins below both of them.")
+    AddBox(
+        parent, "long", CMessageSetUp::ImageInfo, "A text that wraps",
+        "The height of this text follows the width of the box: make the window narrower and it takes more lines, and "
+        "the box grows with it. Title and picture stay level, and the text begins below both of them.")
         ->GetText()
         .AdjustHeight(true);
     AddBox(parent, "error", CMessageSetUp::ImageError, "No buttons", "A box without them is a notice.");
@@ -42,6 +43,7 @@ void CMessagesPage::Build(CVisualElement* parent)
 
     m_Progress = new CTitledGaugeBox(parent, {0, 10}, alTop);
     m_Progress->SetBkColor(ISysPalette::scWindow);
+    m_Progress->SetBottomPadSize(ToInt(6 * GetSystemScale()));
     m_Progress->GetImage().SetRasterPicture(CMessageBox::GetPicture(CMessageSetUp::ImageInfo));
     m_Progress->GetTitle().SetCaption("Copying");
     CGaugeBoxEx& box = m_Progress->GetContent();

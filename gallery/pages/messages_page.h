@@ -18,7 +18,8 @@ public:
     void Build(CVisualElement* parent) override;
 
 private:
-    CMessageBox* AddBox(CVisualElement* parent, std::string const& name, int image, char const* title, char const* text);
+    CMessageBox* AddBox(CVisualElement* parent, std::string const& name, int image, char const* title,
+                        char const* text);
     void Answered(CMessageBox* box, int button);
     void Cancel(CButton*);
 

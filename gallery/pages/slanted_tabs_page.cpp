@@ -64,10 +64,8 @@ void CSlantedTabsPage::Build(CVisualElement* parent)
     CTabs* const vetoed = AddTabs(parent, "vetoed", m_Seasons, 24);
     vetoed->m_TabChanging.connect(this, &CSlantedTabsPage::Forbid);
 
-    new CLabel(parent, {0, 22}, alTop, "Without a model, and too low for a slant");
+    new CLabel(parent, {0, 22}, alTop, "Without a model");
     new CTabs(parent, {0, 24}, alTop);
-    new CPanel(parent, {0, 6}, alTop);
-    AddTabs(parent, "flat", m_Seasons, 3);
     new CPanel(parent, {0, 0}, alClient);
 }
 

@@ -8,7 +8,7 @@
 namespace gallery
 {
 
-class CSlidersPage : public CPage
+class CSlidersPage : public CPage, public subscriber_base_t
 {
 public:
     CSlidersPage();
@@ -16,8 +16,8 @@ public:
     void Build(CVisualElement* parent) override;
 
 private:
-    /// Sizes of a print, say: not evenly spread.
-    class CSizes : public ISliderModel
+    /// Not evenly spread.
+    class CPlaces : public ISliderModel
     {
     public:
         double GetMaxValue() const override { return 100.0; }
@@ -28,10 +28,11 @@ private:
     };
     class CColours;
 
+    void SliderPlaced(CVisualElement* slider);
     CSlider* AddSlider(CVisualElement* parent, std::string const& name, size<int> const& extent, Alignment alignment,
                        ISliderModel* model);
 
-    CSizes m_Sizes;
+    CPlaces m_Places;
     std::unique_ptr<CColours> m_Colours;
 };
 
