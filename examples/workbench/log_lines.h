@@ -3,6 +3,7 @@
 #include "vexel/headers/items_model.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace workbench
@@ -27,7 +28,7 @@ public:
             m_Lines.push_back(make(GetItemCount()));
         m_SigChanged();
     }
-    void Clear() { m_Lines.clear(); }
+    void Clear() { m_Lines.clear(); }  ///< Tells nobody: whoever shows them takes the model anew.
 
 private:
     std::vector<std::string> m_Lines;
