@@ -7,7 +7,7 @@ In README.md, CONTRIBUTING.md and docs/**/*.md a block marked ```cpp compile``` 
   What the text around takes for granted stands in a comment above the block, as the function's parameters:
       <!-- given: CVisualElement* parent, int width -->
 A block marked ```cpp test``` is a piece of a test program, at file scope. The pieces of a document stand in a namespace of
-its own, in their order, after every public header and the test kit, with `using namespace` for vexel and vexel::test. Their
+its own, in their order, after every public header, GoogleTest and gmock, with `using namespace` for vexel and vexel::test. Their
 #include lines move to the top, those of files without a folder (the document's own) go. The program is linked with the
 libraries in BUILD/lib, which must have been built, and all its tests must pass.
 A block after the line <!-- file: PATH --> is the text of that file, to the letter.
@@ -87,7 +87,7 @@ class Tests:
     def run(self, command, build):
         """What is wrong, or None."""
         self.close()
-        text = "\n".join([*self.includes, '#include "vexel/testing/test_kit.h"', *self.pieces])
+        text = "\n".join([*self.includes, "#include <gmock/gmock.h>", "#include <gtest/gtest.h>", *self.pieces])
         with tempfile.TemporaryDirectory() as folder:
             program = f"{folder}/snippets"
             libraries = [f"-L{build.resolve()}/lib", f"-Wl,-rpath,{build.resolve()}/lib", *LIBRARIES]
