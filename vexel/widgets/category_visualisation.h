@@ -21,7 +21,7 @@ class VEXEL_API ICategoryVis
 public:
     enum State : unsigned int
     {
-        stOpen = 1,        ///< The items are drawn.
+        stOpen = 1,  ///< The items are drawn.
         stHighlighted = 2
     };
 

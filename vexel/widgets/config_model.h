@@ -55,11 +55,11 @@ public:
 class VEXEL_API IConfigCategory : public IItem, public ICategorySet
 {
 public:
-    virtual std::string GetCaption() const = 0;      ///< The title.
-    virtual std::string GetDescription() const = 0;  ///< One or more lines below the title.
-    virtual void Activate() {}                       ///< It opens. Called again when it is refreshed.
-    virtual void Deactivate() {}                     ///< It closes.
-    virtual std::string GetHelpId() const { return {}; }  ///< For the application's own use.
+    virtual std::string GetCaption() const = 0;            ///< The title.
+    virtual std::string GetDescription() const = 0;        ///< One or more lines below the title.
+    virtual void Activate() {}                             ///< It opens. Called again when it is refreshed.
+    virtual void Deactivate() {}                           ///< It closes.
+    virtual std::string GetHelpId() const { return {}; }   ///< For the application's own use.
     virtual IConfigCategory const* GetParent() const = 0;  ///< Null at the top level.
     virtual int GetItemCount() const = 0;
     virtual IConfigItem* GetItem(int index) = 0;  ///< May be null: an empty line.

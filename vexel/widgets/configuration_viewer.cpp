@@ -163,8 +163,7 @@ void CConfigurationViewer::AddCategory(ICategorySet const* set, std::vector<int>
         m_Categories.push_back(path);
         auto const* const category = dynamic_cast<IConfigCategory const*>(set);
         if (painter && category)
-            GetRowViewModel()->SetItemSize(row,
-                                           m_Visualisation->GetCollapsedSize(painter, category, m_CategoryWidth));
+            GetRowViewModel()->SetItemSize(row, m_Visualisation->GetCollapsedSize(painter, category, m_CategoryWidth));
         m_Unmeasured = m_Unmeasured || !painter;
     }
     path.push_back(0);
@@ -270,8 +269,8 @@ void CConfigurationViewer::OpenCategory(int row, IPainter* painter)
         category->Activate();
     if (!alive)
         return;
-    GetRowViewModel()->SetItemSize(
-        row, m_Visualisation->GetExpandedSize(painter, GetCategoryByRow(row), m_CategoryWidth));
+    GetRowViewModel()->SetItemSize(row,
+                                   m_Visualisation->GetExpandedSize(painter, GetCategoryByRow(row), m_CategoryWidth));
     if (!alive)
         return;
     int const height = GetBounds().bottom > g_SmallestView ? GetBounds().bottom : g_ViewWithoutLayout;

@@ -314,8 +314,8 @@ void CSlider::DrawCaptions(IPainter* painter, rectangle<int> const& track, recta
         m_DrawingModel->GetContentRect(item.index, pointState, place, this);
         item.start = ToInt(GetAlong(place.left, place.top) - trackStart);
         item.end = ToInt(GetAlong(place.right, place.bottom) - trackStart);
-        m_DrawingModel->OnDrawPointCaption(painter, place, item.index, pointState,
-                                           m_Model->GetPointCaption(item.index), this);
+        m_DrawingModel->OnDrawPointCaption(painter, place, item.index, pointState, m_Model->GetPointCaption(item.index),
+                                           this);
     }
 }
 
