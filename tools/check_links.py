@@ -3,7 +3,8 @@
 
 In every tracked *.md the target of [text](target) is a tracked file or a folder of them, from the document's own place on, and
 what follows a # is a heading of that document, spelt as repository browsers do: in lower case, blanks as hyphens, and
-other signs left out. Whole addresses are not looked at, nor is code.
+other signs left out. The text of a link stands on one line, or doxygen doesn't know it. Whole addresses are not looked
+at, nor is code.
 """
 import pathlib
 import re
@@ -44,6 +45,8 @@ def main():
                 complaint = "no such file"
             elif anchor and (not aim.is_file() or anchor not in anchors(aim.read_text())):
                 complaint = "no such heading"
+            elif "\n" in found.group():
+                complaint = "a link on two lines"
             if complaint:
                 line = text.count("\n", 0, found.start()) + 1
                 print(f"{document.relative_to(ROOT)}:{line}: {complaint}: {target}", file=sys.stderr)

@@ -171,6 +171,11 @@ class Links(unittest.TestCase):
             self.assertEqual(code, 1)
             self.assertIn(f"no such heading: {link}", text)
 
+    def test_a_link_whose_text_goes_over_the_end_of_a_line_is_found(self):
+        code, text = self.check("[x\ny](two.md)")
+        self.assertEqual(code, 1)
+        self.assertIn("a link on two lines: two.md", text)
+
     def test_documents_without_any_link_are_no_success(self):
         self.assertEqual(self.check("none")[0], 1)
 
