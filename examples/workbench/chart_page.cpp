@@ -208,8 +208,9 @@ void CChartPage::ShowRange()
     m_Seconds.SetStart(std::clamp(m_Row * g_Interval - length / 2, 0.0, last));
     m_Seconds.SetMeasure({length, std::max(1, m_Plot->GetBounds().right)});
     m_Parts.SetMeasure({g_PartsShown, std::max(1, m_Plot->GetBounds().bottom)});
-    for (CVisualElement* const element : {static_cast<CVisualElement*>(m_TimeAxis),
-                                          static_cast<CVisualElement*>(m_PartAxis), static_cast<CVisualElement*>(m_Plot)})
+    for (CVisualElement* const element :
+         {static_cast<CVisualElement*>(m_TimeAxis), static_cast<CVisualElement*>(m_PartAxis),
+          static_cast<CVisualElement*>(m_Plot)})
         element->Update(utElement);
 }
 

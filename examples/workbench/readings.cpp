@@ -53,8 +53,8 @@ double Read(std::int64_t row, int sensor)
 {
     SSensor const& one = g_Sensors[sensor];
     double const seconds = static_cast<double>(row) * g_Interval;
-    return one.level + one.slow * std::sin(seconds / (97 + 11 * sensor)) + one.fast * std::sin(seconds / (3.1 + sensor)) +
-           one.noise * Noise(row, sensor);
+    return one.level + one.slow * std::sin(seconds / (97 + 11 * sensor)) +
+           one.fast * std::sin(seconds / (3.1 + sensor)) + one.noise * Noise(row, sensor);
 }
 
 std::string FormatTime(std::int64_t row)

@@ -48,7 +48,8 @@ CSettingsPage::CSettingsPage(SState const& state) : CVisualElement(nullptr, {0, 
     auto* const clear = source.AddItem("All of it", MakeEditor<CButton>(90));
     clear->SetCaption("Clear");
     clear->m_Clicked.connect(this, &CSettingsPage::ClearClicked);
-    m_Tree.AddCategory("About", "A thousand million readings of a machine that doesn't exist,\nnone of them kept anywhere");
+    m_Tree.AddCategory("About",
+                       "A thousand million readings of a machine that doesn't exist,\nnone of them kept anywhere");
 
     auto* const box = new CScrollBox(this, {0, 0}, alClient);
     auto* const viewer = new CConfigurationViewer(box, {0, 0}, alClient);

@@ -18,7 +18,7 @@ struct SState
     struct SColumn
     {
         int number = 0;  // of the column that stands at this place
-        int width = 96;   // unscaled pixels
+        int width = 96;  // unscaled pixels
     };
 
     Theme theme = ThemeDesktop;

@@ -16,7 +16,7 @@ namespace workbench
 namespace
 {
 
-double const g_Inset = 5;      // between a cell's edge and its text; unscaled
+double const g_Inset = 5;         // between a cell's edge and its text; unscaled
 int const g_MostCopied = 100000;  // rows
 
 }  // namespace
@@ -30,7 +30,8 @@ std::string CReadingColumns::GetItemCaption(int section) const
 std::string CReadingColumns::GetItemDescr(int section) const
 {
     int const column = VisibleIndex2ModelIndex(section);
-    return column <= 0 ? "When it was read" : GetSensorName(column - 1) + std::string(" in ") + GetSensorUnit(column - 1);
+    return column <= 0 ? "When it was read"
+                       : GetSensorName(column - 1) + std::string(" in ") + GetSensorUnit(column - 1);
 }
 
 CReadingGrid::CReadingGrid(CVisualElement* parent, CReadingColumns& columns)
@@ -83,10 +84,9 @@ void CReadingGrid::DrawCell(IPainter* painter, int row, int, int section, int, i
     double const inset = g_Inset * GetSystemScale();
     painter->SetTextColor(
         palette.GetColor(selected && focused ? ISysPalette::scHighlightText : ISysPalette::scWindowText));
-    painter->DrawString({rect.left + inset, rect.top, rect.right - inset, rect.bottom - 1}, GetText(row, section),
-                        (isTime ? IPainter::AlignLeft : IPainter::AlignRight) | IPainter::AlignVCenter |
-                            IPainter::AlignFitText,
-                        -1);
+    painter->DrawString(
+        {rect.left + inset, rect.top, rect.right - inset, rect.bottom - 1}, GetText(row, section),
+        (isTime ? IPainter::AlignLeft : IPainter::AlignRight) | IPainter::AlignVCenter | IPainter::AlignFitText, -1);
     if ((state & isCurrent) && focused)
         painter->FocusRect(rect.left, rect.top, rect.right - 1, rect.bottom - 1);
 }

@@ -34,7 +34,8 @@ public:
     int GetDone() const { return m_Done; }  ///< Readings; from any thread.
     int GetCount() const { return m_Rows; }
     bool IsDone() const { return m_Done >= m_Rows; }
-    SExtremes GetExtremes(int sensor) const { return m_Extremes[static_cast<std::size_t>(sensor)]; }  ///< When it is done.
+    /// When it is done.
+    SExtremes GetExtremes(int sensor) const { return m_Extremes[static_cast<std::size_t>(sensor)]; }
 
 protected:  // From CGUITask
     bool InternalProcessData() override;

@@ -25,13 +25,13 @@ namespace
 
 int const g_LiveInterval = 250;  // milliseconds
 int const g_Poll = 300;
-int const g_SmallestWidth = 640;       // unscaled pixels that the program has room in
+int const g_SmallestWidth = 640;  // unscaled pixels that the program has room in
 int const g_SearchedRows = 20000000;
 
 std::string MakeHistoryLine(int number)
 {
-    static char const* const deeds[] = {"valve opened", "valve closed", "pump on", "pump off", "sensor asked",
-                                        "limit passed"};
+    static char const* const deeds[] = {"valve opened", "valve closed", "pump on",
+                                        "pump off",     "sensor asked", "limit passed"};
     return FormatTime(std::int64_t{number} * 900) + "  unit " + std::to_string(number % 9) + ": " +
            deeds[number * 7 % 6] + " (" + std::to_string(number) + ")";
 }

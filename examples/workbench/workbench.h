@@ -50,8 +50,8 @@ public:
 
     signal_t<std::string const&> m_SigReport;  ///< What has happened, a line each time.
 
-    void Start();          ///< Runs the checks, and goes on when they have passed.
-    bool Save() const;     ///< Writes the state; false: the file can't be written.
+    void Start();                 ///< Runs the checks, and goes on when they have passed.
+    bool Save() const;            ///< Writes the state; false: the file can't be written.
     void LoadHistory(int count);  ///< So many lines that were written before.
 
     // For tests

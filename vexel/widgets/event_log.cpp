@@ -233,10 +233,11 @@ void CEventLog::SetPos(rectangle<int> const& rect, bool force)
 
 void CEventLog::ProcessRearrange(CVisualElement** element)
 {
-    rectangle<int> const bounds = GetBounds();
-    if (!m_Built || !IsChildrenAvailable(0) || bounds.right <= 0 || bounds.bottom <= 0)
+    if (!m_Built || !IsChildrenAvailable(0))
         return;
-    bool const follows = m_AutoScroll && IsEndInView();
+    // One without an extent has no end to follow, but takes its size like any other: nothing else would give it one.
+    rectangle<int> const bounds = GetBounds();
+    bool const follows = m_AutoScroll && bounds.right > 0 && bounds.bottom > 0 && IsEndInView();
     CAliveGuard const alive(this);
     CVertBox::ProcessRearrange(element);
     if (alive && m_TitledList.IsVisible() && m_TitledList.GetSize().width > GetSize().width)

@@ -42,15 +42,26 @@ SThemeColors const g_Dark{0xFF2E2F33, 0xFFE6E6E6, 0xFF1F2023, 0xFF3A3B40, 0xFF5A
 QPalette MakePalette(SThemeColors const& colors)
 {
     QPalette palette;
-    for (auto const& [role, color] :
-         {std::pair{QPalette::Window, colors.window}, {QPalette::WindowText, colors.text}, {QPalette::Base, colors.base},
-          {QPalette::AlternateBase, colors.midlight}, {QPalette::Text, colors.text}, {QPalette::Button, colors.button},
-          {QPalette::ButtonText, colors.text}, {QPalette::BrightText, 0xFFFFFFFF}, {QPalette::Light, colors.light},
-          {QPalette::Midlight, colors.midlight}, {QPalette::Mid, colors.mid}, {QPalette::Dark, colors.dark},
-          {QPalette::Shadow, colors.shadow}, {QPalette::Highlight, colors.highlight},
-          {QPalette::HighlightedText, 0xFFFFFFFF}, {QPalette::ToolTipBase, colors.tooltip},
-          {QPalette::ToolTipText, colors.text}, {QPalette::Link, colors.link}, {QPalette::LinkVisited, colors.link},
-          {QPalette::PlaceholderText, colors.disabled}})
+    for (auto const& [role, color] : {std::pair{QPalette::Window, colors.window},
+                                      {QPalette::WindowText, colors.text},
+                                      {QPalette::Base, colors.base},
+                                      {QPalette::AlternateBase, colors.midlight},
+                                      {QPalette::Text, colors.text},
+                                      {QPalette::Button, colors.button},
+                                      {QPalette::ButtonText, colors.text},
+                                      {QPalette::BrightText, 0xFFFFFFFF},
+                                      {QPalette::Light, colors.light},
+                                      {QPalette::Midlight, colors.midlight},
+                                      {QPalette::Mid, colors.mid},
+                                      {QPalette::Dark, colors.dark},
+                                      {QPalette::Shadow, colors.shadow},
+                                      {QPalette::Highlight, colors.highlight},
+                                      {QPalette::HighlightedText, 0xFFFFFFFF},
+                                      {QPalette::ToolTipBase, colors.tooltip},
+                                      {QPalette::ToolTipText, colors.text},
+                                      {QPalette::Link, colors.link},
+                                      {QPalette::LinkVisited, colors.link},
+                                      {QPalette::PlaceholderText, colors.disabled}})
         palette.setColor(role, QColor::fromRgb(color));
     for (QPalette::ColorRole const role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor::fromRgb(colors.disabled));
