@@ -1,5 +1,6 @@
 #include "messages.h"
 
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/system.h"
 
@@ -37,7 +38,7 @@ int const g_ImageSize = 32;  // unscaled
 vexel_ptr<IRasterPicture> MakeImage(SImage const& image)
 {
     ISystem* const system = GetCurrentSystem();
-    int const extent = ToInt(g_ImageSize * GetSystemScale());
+    int const extent = ToDevicePixels(g_ImageSize);
     vexel_ptr<IRasterPicture> picture = system ? system->CreateRasterPicture({extent, extent}) : nullptr;
     IPainter* const painter = picture ? picture->GetPainter() : nullptr;
     if (!painter)

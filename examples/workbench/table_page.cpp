@@ -3,6 +3,7 @@
 #include "ground.h"
 
 #include "vexel/core/control.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/system.h"
 #include "vexel/scroll/scroll_box.h"
@@ -97,7 +98,7 @@ CTablePage::CTablePage(SState const& state) : CVisualElement(nullptr, {0, 0}, al
     auto* const splitter = new CSplitter(this, {5, 0}, alRight);
     auto* const box = new CScrollBox(this, {0, 0}, alClient);
     splitter->SetElements(m_Details, box);
-    splitter->SetMinSize(ToInt(80 * GetSystemScale()));
+    splitter->SetMinSize(ToDevicePixels(80));
 
     m_Header = new CSimpleHeader(box, {0, 24}, alTop);
     m_Grid = new CReadingGrid(box, m_Columns);
@@ -107,7 +108,7 @@ CTablePage::CTablePage(SState const& state) : CVisualElement(nullptr, {0, 0}, al
     {
         SState::SColumn const& column = state.columns[static_cast<std::size_t>(place)];
         m_Columns.SetModelIndex(place, column.number);
-        widths->SetItemSize(place, ToInt(column.width * GetSystemScale()));
+        widths->SetItemSize(place, ToDevicePixels(column.width));
     }
     m_Header->SetModel(&m_Columns);
     m_Header->SetViewModel(widths);

@@ -6,6 +6,7 @@
 #include "table_page.h"
 
 #include "vexel/core/base_control.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/scroll/scroll_container.h"
 #include "vexel/widgets/event_log.h"
 #include "vexel/widgets/gauge_box.h"
@@ -81,7 +82,7 @@ void CWorkbench::Build(CVisualElement* parent)
     m_Tabs->SetModel(&m_TabTexts);
     m_Notebook = new CNotebook(parent, {0, 0}, alClient);
     splitter->SetElements(m_LogPane, m_Notebook);
-    splitter->SetMinSize(ToInt(60 * GetSystemScale()));
+    splitter->SetMinSize(ToDevicePixels(60));
 
     m_TablePage = new CTablePage(m_State);
     m_ChartPage = new CChartPage(m_State);
@@ -178,7 +179,7 @@ void CWorkbench::CheckState(bool& failed)
 
 void CWorkbench::CheckRoom(bool& failed)
 {
-    failed = m_Window.GetRect().right < ToInt(g_SmallestWidth * GetSystemScale());
+    failed = m_Window.GetRect().right < ToDevicePixels(g_SmallestWidth);
 }
 
 void CWorkbench::StateAnswered(CCheckStageGui*, int button)

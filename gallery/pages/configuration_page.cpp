@@ -2,6 +2,7 @@
 
 #include "vexel/controls/check_box.h"
 #include "vexel/controls/combo_box_button.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/system.h"
 #include "vexel/scroll/scroll_box.h"
 #include "vexel/widgets/configuration_viewer.h"
@@ -33,7 +34,7 @@ std::unique_ptr<CSlider> MakeSlider(int position)
 {
     auto slider = MakeEditor<CSlider>(150);
     slider->SetDirection(CSlider::SliderHorizontal);
-    slider->SetPos({0, 0, ToInt(150 * GetSystemScale()), 20}, true);  // only what has a length has positions
+    slider->SetPos({0, 0, ToDevicePixels(150), 20}, true);  // only what has a length has positions
     slider->SetSliderPos(position);
     return slider;
 }

@@ -1,6 +1,7 @@
 #include "gallery/pages/messages_page.h"
 
 #include "gallery/frame/panel.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/system.h"
 #include "vexel/widgets/titled_gauge_box.h"
 
@@ -13,7 +14,7 @@ CMessageBox* CMessagesPage::AddBox(CVisualElement* parent, std::string const& na
                                    char const* text)
 {
     auto* const box = new CMessageBox(parent, {0, 10}, alTop);
-    box->SetBottomPadSize(ToInt(6 * GetSystemScale()));
+    box->SetBottomPadSize(ToDevicePixels(6));
     box->SetBkColor(ISysPalette::scWindow);
     box->SetImageType(image);
     box->GetTitle().SetCaption(title);
@@ -43,7 +44,7 @@ void CMessagesPage::Build(CVisualElement* parent)
 
     m_Progress = new CTitledGaugeBox(parent, {0, 10}, alTop);
     m_Progress->SetBkColor(ISysPalette::scWindow);
-    m_Progress->SetBottomPadSize(ToInt(6 * GetSystemScale()));
+    m_Progress->SetBottomPadSize(ToDevicePixels(6));
     m_Progress->GetImage().SetRasterPicture(CMessageBox::GetPicture(CMessageSetUp::ImageInfo));
     m_Progress->GetTitle().SetCaption("Copying");
     CGaugeBoxEx& box = m_Progress->GetContent();

@@ -3,6 +3,8 @@
 #include "gallery/frame/panel.h"
 #include "vexel/platform/system.h"
 
+#include "vexel/platform/device_pixels.h"
+
 namespace gallery
 {
 
@@ -50,7 +52,7 @@ public:
     }
     size<int> GetPointerSize(ILayout*) const override
     {
-        int const extent = ToInt(16 * GetSystemScale());
+        int const extent = ToDevicePixels(16);
         return {extent, extent};
     }
 };

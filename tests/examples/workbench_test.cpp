@@ -175,7 +175,7 @@ TEST_F(Workbench, AsksBeforeItOverwritesAFileThatItCannotRead)
     Start();
     EXPECT_NE(m_Host.Root()->AsString().find("can't be read"), std::string::npos);
     EXPECT_NE(GetLastLine(), "Ready");
-    m_Host.Keyboard().Press(9);   // from the first button to the second, which quits
+    m_Host.Keyboard().Press(9);  // from the first button to the second, which quits
     m_Host.Keyboard().Press(32);
     m_Host.Paint();
     EXPECT_EQ(m_Quits, 1);
@@ -329,8 +329,7 @@ TEST_F(WorkbenchState, ADamagedFileChangesNothing)
           "workbench 1\npage=3\n", "workbench 1\ntheme=3\n", "workbench 1\ncolumns=0:10\n",
           "workbench 1\ncolumns=0:10 0:10 2:10 3:10 4:10 5:10 6:10\n",
           "workbench 1\ncolumns=0:10 1:0 2:10 3:10 4:10 5:10 6:10\n",
-          "workbench 1\ncolumns=0:10 1:10 2:10 3:10 4:10 5:10 6:10 7:10\n",
-          "workbench 1\nlog height=50\nspan=4\n"})
+          "workbench 1\ncolumns=0:10 1:10 2:10 3:10 4:10 5:10 6:10 7:10\n", "workbench 1\nlog height=50\nspan=4\n"})
     {
         EXPECT_EQ(ReadText(text), ReadResult::Damaged) << text;
         EXPECT_EQ(m_State.logHeight, 170) << text;

@@ -1,10 +1,9 @@
 #include "vexel/widgets/configuration_viewer.h"
 
-#include "vexel/controls/detail/rects.h"
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/core/clip_holder.h"
 #include "vexel/core/control.h"
 #include "vexel/core/measure_bracket.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/sys_window.h"
 #include "vexel/views/item_walks.h"
@@ -93,7 +92,7 @@ private:
 };
 
 CConfigurationViewer::CConfigurationViewer(CVisualElement* parent, size<int> const& extent, Alignment alignment)
-    : CRowViewer(parent, extent, alignment), m_CategoryWidth(detail::Scaled(g_CategoryWidth)),
+    : CRowViewer(parent, extent, alignment), m_CategoryWidth(ToDevicePixels(g_CategoryWidth)),
       m_Model(&GetEmptyModel()), m_Visualisation(&GetDefaultVisualisation())
 {
     SetAutoRowHeight(false);
@@ -346,7 +345,7 @@ void CConfigurationViewer::DrawRow(IPainter* painter, int row, int skip, int sta
     rectangle<double> place = rect;
     place.top -= skip;
     // Rows begin above the view and end below it, and a category may be wider than the view.
-    CClipHolder const clip(painter, detail::ToDouble(GetBounds()));
+    CClipHolder const clip(painter, ToDouble(GetBounds()));
     IConfigCategory const* const category = GetCategoryByRow(row);
     if (!category)
         return DrawRowEmptyArea(painter, rect);

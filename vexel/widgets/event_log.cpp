@@ -1,9 +1,9 @@
 #include "vexel/widgets/event_log.h"
 
-#include "vexel/controls/detail/rects.h"
 #include "vexel/core/clip_holder.h"
 #include "vexel/core/control.h"
 #include "vexel/core/measure_bracket.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/sys_window.h"
 
 #include <algorithm>
@@ -256,7 +256,7 @@ void CEventLog::ProcessRearrange(CVisualElement** element)
 
 void CEventLog::DrawContent(IPainter* painter)
 {
-    CClipHolder const clip(painter, detail::ToDouble(GetBounds()));
+    CClipHolder const clip(painter, ToDouble(GetBounds()));
     CVertBox::DrawContent(painter);
 }
 

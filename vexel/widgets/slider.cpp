@@ -1,9 +1,8 @@
 #include "vexel/widgets/slider.h"
 
-#include "vexel/controls/detail/rects.h"
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/core/clip_holder.h"
 #include "vexel/core/control.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 
 #include <algorithm>
@@ -108,7 +107,7 @@ std::string CSlider::GetPointCaption(int point) const
 
 rectangle<int> CSlider::GetTrack() const
 {
-    return m_DrawingModel->GetSlotRect(detail::ToDouble(GetBounds()), const_cast<CSlider*>(this));
+    return m_DrawingModel->GetSlotRect(ToDouble(GetBounds()), const_cast<CSlider*>(this));
 }
 
 int CSlider::GetTrackLength() const
@@ -276,18 +275,18 @@ void CSlider::DrawContent(IPainter* painter)
     if (!alive)
         return;
     // A look may draw more than a small slider has room for.
-    CClipHolder const clip(painter, detail::ToDouble(GetBounds()));
+    CClipHolder const clip(painter, ToDouble(GetBounds()));
     rectangle<int> const track = GetTrack();
-    m_DrawingModel->OnDrawSlot(painter, detail::ToDouble(track), state, this);
+    m_DrawingModel->OnDrawSlot(painter, ToDouble(track), state, this);
     rectangle<int> const pointer = CalcPointerRect(track);
-    m_DrawingModel->OnDrawPointer(painter, detail::ToDouble(pointer), state, this);
+    m_DrawingModel->OnDrawPointer(painter, ToDouble(pointer), state, this);
     DrawCaptions(painter, track, pointer, state);
 }
 
 void CSlider::DrawCaptions(IPainter* painter, rectangle<int> const& track, rectangle<int> const& pointer, int state)
 {
     // The text's height is the measure of both directions.
-    int const length = ToInt(painter->GetTextSize("W", nullptr).height) + detail::Scaled(g_CaptionGap);
+    int const length = ToInt(painter->GetTextSize("W", nullptr).height) + ToDevicePixels(g_CaptionGap);
     rectangle<int> const bounds = GetBounds();
     double const bandStart = GetAcross(pointer.right, pointer.bottom) + 1.0;
     double const bandEnd = GetAcross(bounds.right, bounds.bottom);
