@@ -205,8 +205,9 @@ void CHeader::DrawSectionContent(IPainter* painter, rectangle<double> const& con
     rectangle<int> label;
     if (parts.text || parts.image)
         label = DrawLabel(painter, detail::Truncate(parts.rect), parts.text ? item->GetText() : std::string(),
-                          item->GetTextAlign(), ToDevicePixels(s_LabelSpace), images, parts.image ? item->GetImageIndex() : -1,
-                          CLayoutManager::GetLayout(alTop), DefaultDelimiters, nullptr);
+                          item->GetTextAlign(), ToDevicePixels(s_LabelSpace), images,
+                          parts.image ? item->GetImageIndex() : -1, CLayoutManager::GetLayout(alTop), DefaultDelimiters,
+                          nullptr);
     if (parts.markWidth <= 0 || direction == 0)
         return;
     double const gap = GetSystemScale() * s_LabelSpace;
