@@ -51,7 +51,7 @@ int main(int argc, char** argv)
                      : theme == workbench::SState::ThemeLight ? CApplication::Theme::Light
                                                               : CApplication::Theme::Desktop);
     };
-    hooks.quit = [&] { app.Quit(1); };
+    hooks.quit = [&](int code) { app.Quit(code); };
     workbench::CWorkbench bench(control, *window, path.empty() ? GetDefaultStatePath() : path, hooks);
     vexel::CConnection report(bench.m_SigReport, [&](std::string const& line) {
         if (!log)

@@ -92,6 +92,7 @@ void CWorkbench::Build(CVisualElement* parent)
           static_cast<CVisualElement*>(m_SettingsPage)})
         page->ReParent(m_Notebook, true);
 
+    parent->m_SigKeyDown.connect(this, &CWorkbench::KeyDown);
     m_Tabs->m_TabChanged.connect(this, &CWorkbench::TabChosen);
     m_TablePage->m_SigRowChosen.connect(this, &CWorkbench::RowChosen);
     m_ChartPage->m_SigSpanChosen.connect(this, &CWorkbench::SpanChosen);
@@ -201,10 +202,17 @@ void CWorkbench::ChecksDone()
 void CWorkbench::ChecksAborted()
 {
     if (m_Hooks.quit)
-        m_Hooks.quit();
+        m_Hooks.quit(1);
 }
 
 // What a user does --------------------------------------------------------------------------------------------------------------
+
+// Control and Q ends the program.
+void CWorkbench::KeyDown(CVisualElement*, int keys, int key)
+{
+    if ((keys & ksControl) && key == 'Q' && m_Hooks.quit)
+        m_Hooks.quit(0);
+}
 
 void CWorkbench::TabChosen(CVisualElement*, int tab)
 {

@@ -41,7 +41,7 @@ public:
     struct SHooks
     {
         std::function<void(SState::Theme)> setTheme;
-        std::function<void()> quit;
+        std::function<void(int code)> quit;
     };
 
     /// `statePath`: the file that is read at the start and written at the end. Control and window must outlive it.
@@ -74,6 +74,7 @@ private:
     void StateAnswered(CCheckStageGui*, int button);
     void ChecksDone();
     void ChecksAborted();
+    void KeyDown(CVisualElement*, int keys, int key);
 
     // What a user does
     void TabChosen(CVisualElement*, int tab);

@@ -34,7 +34,7 @@ protected:
     {
         CWorkbench::SHooks hooks;
         hooks.setTheme = [this](SState::Theme theme) { m_Themes.push_back(theme); };
-        hooks.quit = [this] { ++m_Quits; };
+        hooks.quit = [this](int code) { m_Quits.push_back(code); };
         m_Bench.emplace(m_Host.Control(), m_Host.Window(), m_Path, hooks);
         m_Bench->LoadHistory(lines);
         m_Bench->Start();
@@ -62,7 +62,7 @@ protected:
     CTestHost m_Host{1000, 700};
     std::string const m_Path;
     std::vector<SState::Theme> m_Themes;
-    int m_Quits = 0;
+    std::vector<int> m_Quits;
     std::optional<CWorkbench> m_Bench;
 };
 
@@ -178,7 +178,7 @@ TEST_F(Workbench, AsksBeforeItOverwritesAFileThatItCannotRead)
     m_Host.Keyboard().Press(9);  // from the first button to the second, which quits
     m_Host.Keyboard().Press(32);
     m_Host.Paint();
-    EXPECT_EQ(m_Quits, 1);
+    EXPECT_EQ(m_Quits, std::vector{1});
     ASSERT_TRUE(m_Bench->Save());
     std::ifstream kept(m_Path);
     std::string line;
@@ -192,7 +192,7 @@ TEST_F(Workbench, GoesOnWithAFreshLayoutIfItMay)
     Start();
     m_Host.Keyboard().Press(32);  // the first button has the focus
     m_Host.Paint();
-    EXPECT_EQ(m_Quits, 0);
+    EXPECT_TRUE(m_Quits.empty());
     EXPECT_EQ(GetLastLine(), "Ready");
     EXPECT_EQ(m_Host.Root()->AsString().find("can't be read"), std::string::npos);
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
@@ -215,6 +215,15 @@ TEST_F(Workbench, ANarrowWindowIsToldUntilItIsWider)
     EXPECT_EQ(m_Host.Root()->AsString().find("The window is narrow"), std::string::npos);
     EXPECT_EQ(GetLastLine(), "Ready");
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(Workbench, ControlAndQEndsIt)
+{
+    Start();
+    m_Host.Keyboard().Press('Q');
+    EXPECT_TRUE(m_Quits.empty());
+    m_Host.Keyboard().Press('Q', ksControl);
+    EXPECT_EQ(m_Quits, std::vector{0});
 }
 
 TEST_F(Workbench, GivesASearchUp)
