@@ -170,6 +170,8 @@ void CWorkbench::AddChecks(CVisualElement* place)
 
 void CWorkbench::Start()
 {
+    m_Log->ForceRearrange();
+    m_Log->GotoEnd();
     m_Stages.StartProcessing();
 }
 
@@ -193,8 +195,6 @@ void CWorkbench::ChecksDone()
 {
     m_Tabs->SetCurrentTab(m_State.page);
     LiveSwitched(m_State.live);
-    m_Log->ForceRearrange();
-    m_Log->GotoEnd();
     m_TablePage->GetGrid().SetFocus(true);
     Tell("Ready");
 }
