@@ -54,6 +54,7 @@ CSettingsPage::CSettingsPage(SState const& state) : CVisualElement(nullptr, {0, 
     auto* const box = new CScrollBox(this, {0, 0}, alClient);
     auto* const viewer = new CConfigurationViewer(box, {0, 0}, alClient);
     box->ConnectElement(viewer, CScrollBox::ctVertical, true);
+    box->m_SigGetWheelStep.connect(this, &CSettingsPage::GetWheelStep);
     viewer->SetModel(&m_Tree);
     viewer->GetRowSelectionModel()->SetCurrent(0);
 }
@@ -63,6 +64,12 @@ void CSettingsPage::Save(SState& state) const
     state.theme = m_Theme;
     state.live = m_Live->IsChecked();
     state.follow = m_Follow->IsChecked();
+}
+
+// The page scrolls by pixels.
+void CSettingsPage::GetWheelStep(CVisualElement* box, int& step)
+{
+    step = 3 * box->GetTextLineHeight();
 }
 
 void CSettingsPage::ThemeChosen(int theme)

@@ -36,6 +36,7 @@ private:
         std::string GetItemCaption(int index) const override;
     };
 
+    void GetWheelStep(CVisualElement* box, int& step);
     void ThemeChosen(int theme);
     void LiveChanged(CCheckBox*);
     void FollowChanged(CCheckBox*);

@@ -74,9 +74,16 @@ void CConfigurationPage::Build(CVisualElement* parent)
     auto* const box = new CScrollBox(parent, {0, 0}, alClient);
     auto* const viewer = new CConfigurationViewer(box, {0, 0}, alClient);
     box->ConnectElement(viewer, CScrollBox::ctVertical, true);
+    box->m_SigGetWheelStep.connect(this, &CConfigurationPage::GetWheelStep);
     viewer->SetModel(&m_Tree);
     viewer->GetRowSelectionModel()->SetCurrent(0);
     Report(viewer->GetRowSelectionModel()->m_SigCurrentChanged, "category");
+}
+
+// The page scrolls by pixels.
+void CConfigurationPage::GetWheelStep(CVisualElement* box, int& step)
+{
+    step = 3 * box->GetTextLineHeight();
 }
 
 }  // namespace gallery

@@ -7,7 +7,7 @@
 namespace gallery
 {
 
-class CConfigurationPage : public CPage
+class CConfigurationPage : public CPage, public subscriber_base_t
 {
 public:
     CConfigurationPage();
@@ -20,6 +20,8 @@ private:
         int GetItemCount() const override { return 3; }
         std::string GetItemCaption(int index) const override;
     };
+
+    void GetWheelStep(CVisualElement* box, int& step);
 
     CThemes m_Themes;
     workbench::CConfigTree m_Tree;

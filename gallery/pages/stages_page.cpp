@@ -39,9 +39,8 @@ void CStagesPage::Build(CVisualElement* parent)
     CCheckStageGui& disk = m_Gui[0];
     disk.m_Check.connect(this, &CStagesPage::CheckDisk);
     disk.SetMessage(CMessageSetUp::ImageWarning, "The disk is almost full",
-                    "Free some space and try again, or go on with less.");
-    disk.SetButtons(CMessageSetUp::ButtonRetry | CMessageSetUp::ButtonGoOn | CMessageSetUp::ButtonQuit,
-                    CMessageSetUp::ButtonGoOn);
+                    "Go on with less, or quit and free some space.");
+    disk.SetButtons(CMessageSetUp::ButtonGoOn | CMessageSetUp::ButtonQuit, CMessageSetUp::ButtonGoOn);
     disk.SetRecheckOnButton(true);
     disk.SetWaitMessage(CMessageSetUp::ImageInfo, "Going on with less", "The disk is still full.");
     CCheckStageGui& network = m_Gui[1];

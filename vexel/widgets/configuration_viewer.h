@@ -11,7 +11,8 @@ namespace vexel
 
 /// A scrolling page of configuration categories. The tree of categories becomes rows, each as high as it needs, with a
 /// category before those below it. The current row is open: it shows its items, each a label and its editor, which is a
-/// child of the viewer meanwhile and moves along when the page scrolls. A category's width is fixed.
+/// child of the viewer meanwhile and moves along when the page scrolls. A category's width is fixed. It scrolls by pixels:
+/// in a scroll box, m_SigGetWheelStep tells how many a notch of the wheel is.
 class VEXEL_API CConfigurationViewer : public CRowViewer<IContinuousItemViewModel>
 {
 public:
