@@ -47,7 +47,8 @@ void CSlider::SetDirection(SliderDirection direction)
 void CSlider::SetModel(ISliderModel* model)
 {
     m_Model->m_SigChanged.disconnect(this, &CSlider::ProcessModelChange);
-    m_Model->m_SigDestroy.disconnect(this, &CSlider::ModelDies);
+    if (m_Model != &s_DefSliderModel)
+        m_Model->m_SigDestroy.disconnect(this, &CSlider::ModelDies);
     m_Model = model ? model : &s_DefSliderModel;
     m_Model->m_SigChanged.connect(this, &CSlider::ProcessModelChange);
     if (m_Model != &s_DefSliderModel)
