@@ -433,10 +433,11 @@ public:
     // The track goes from 12 to 87: points at 12, 49 and 87.
     static std::vector<Step> Steps()
     {
-        return {Paint,         PressAt(49, 40), Release,
-                Paint,         PressAt(49, 5),  MoveTo(88, 5),
-                Paint,         MoveTo(2, 5),    Release,
-                [](CTestHost& host) { host.Keyboard().Press(vkRight); },
+        return {Paint,          PressAt(49, 40),
+                Release,        Paint,
+                PressAt(49, 5), MoveTo(88, 5),
+                Paint,          MoveTo(2, 5),
+                Release,        [](CTestHost& host) { host.Keyboard().Press(vkRight); },
                 Paint};
     }
     void Run(int misdeedAt = -1, std::function<void(CSliderScene&)> const& misdeed = {})
@@ -510,15 +511,14 @@ INSTANTIATE_TEST_SUITE_P(ByDeed, TabsDeletion,
                                                                    {"Squeeze", &CTabsScene::Squeeze},
                                                                    {"Cancel", [](CTabsScene&) { Cancel(); }}})),
                          NameOfDeed());
-INSTANTIATE_TEST_SUITE_P(
-    ByDeed, NotebookDeletion,
-    testing::ValuesIn(WithCommon<CNotebookScene>({{"DeletePages", &CNotebookScene::DeletePages},
-                                                  {"DeleteNew", &CNotebookScene::DeleteNew},
-                                                  {"DeleteOld", &CNotebookScene::DeleteOld},
-                                                  {"MovePages", &CNotebookScene::MovePages},
-                                                  {"RemoveFirst", &CNotebookScene::RemoveFirst},
-                                                  {"Turn", &CNotebookScene::Turn}})),
-    NameOfDeed());
+INSTANTIATE_TEST_SUITE_P(ByDeed, NotebookDeletion,
+                         testing::ValuesIn(WithCommon<CNotebookScene>({{"DeletePages", &CNotebookScene::DeletePages},
+                                                                       {"DeleteNew", &CNotebookScene::DeleteNew},
+                                                                       {"DeleteOld", &CNotebookScene::DeleteOld},
+                                                                       {"MovePages", &CNotebookScene::MovePages},
+                                                                       {"RemoveFirst", &CNotebookScene::RemoveFirst},
+                                                                       {"Turn", &CNotebookScene::Turn}})),
+                         NameOfDeed());
 INSTANTIATE_TEST_SUITE_P(ByDeed, SliderDeletion,
                          testing::ValuesIn(WithCommon<CSliderScene>({{"DeleteModel", &CSliderScene::DeleteModel},
                                                                      {"DropModel", &CSliderScene::DropModel},
@@ -566,11 +566,12 @@ TEST_P(NotebookDeletion, BetweenTwoStepsIsSurvived)
 
 TEST_P(SliderDeletion, InASlotOrAModelIsSurvived)
 {
-    static char const* const signals[] = {"tracking",     "changed", "attr",       "content", "draw caption",
+    static char const* const signals[] = {"tracking",     "changed",      "attr",  "content",    "draw caption",
                                           "pointer size", "draw pointer", "track", "draw track", "min",
-                                          "max",          "count",   "value",      "caption"};
-    std::set<std::string> const painted{"attr",  "content", "draw caption", "pointer size", "draw pointer", "track",
-                                        "draw track", "min", "max", "count", "value", "caption"};
+                                          "max",          "count",        "value", "caption"};
+    std::set<std::string> const painted{"attr",         "content", "draw caption", "pointer size",
+                                        "draw pointer", "track",   "draw track",   "min",
+                                        "max",          "count",   "value",        "caption"};
     DoInEachSlot(signals, [&](std::string const& signal) { return Is("Cancel") && painted.contains(signal); });
 }
 

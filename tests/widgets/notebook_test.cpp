@@ -195,8 +195,7 @@ TEST_F(Notebook, AnotherPageIsShownWhenTheOldOneIsHidden)
     EXPECT_EQ(Pages(), "abC 2");
     EXPECT_TRUE(m_Host.IsFramePending());
     PaintLog const log = m_Host.Paint();
-    EXPECT_FALSE(log.Of("c").IsEmpty());
-    EXPECT_TRUE(log.Of("a").IsEmpty());
+    EXPECT_EQ(log.Elements(), "notebook c");
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
     m_Notebook.SetPageIndex(0);
     EXPECT_EQ(Pages(), "Abc 0");
@@ -360,6 +359,16 @@ TEST_F(Notebook, ARemovedPageIsNotDeletedAndKeepsItsVisibility)
     delete shown;
 }
 
+TEST_F(Notebook, APageAtTheKeptNumberThatTheApplicationShowedIsHiddenByTheNextOne)
+{
+    Add(3);
+    m_Notebook.SetPageIndex(1);
+    std::unique_ptr<CVisualElement> const first(m_Notebook.RemovePage(0));
+    m_Pages[2]->SetVisible(true);
+    m_Notebook.SetPageIndex(0);
+    EXPECT_EQ(Pages(), "Bc 0");
+}
+
 TEST_F(Notebook, AShownPageThatIsDeletedLeavesRoomForTheOthers)
 {
     Add(3);
@@ -376,6 +385,24 @@ TEST_F(Notebook, AShownPageThatIsDeletedLeavesRoomForTheOthers)
     delete m_Pages[2];
     m_Notebook.SetPageIndex(0);
     EXPECT_EQ(m_Notebook.GetPage(0), nullptr);
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(Notebook, WhereTheShownPageWasDeletedTheNumberDecidesWhatShowsNext)
+{
+    Add(4);
+    m_Notebook.SetPageIndex(1);
+    delete m_Pages[1];
+    EXPECT_EQ(Pages(), "acd 1");
+    std::unique_ptr<CVisualElement> const removed(m_Notebook.RemovePage(1));
+    EXPECT_EQ(Pages(), "aD 1");
+    delete m_Pages[3];
+    CPage* const x = NewPage("x");
+    x->ReParent(&m_Notebook, true);
+    CPage* const y = NewPage("y");
+    std::unique_ptr<CVisualElement> const replaced(m_Notebook.ReplacePage(1, y));
+    EXPECT_EQ(Pages(), "aY 1");
     m_Host.Paint();
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
@@ -460,6 +487,8 @@ TEST_F(Notebook, NothingIsReplacedWithoutSuchAPage)
     EXPECT_EQ(m_Notebook.ReplacePage(-1, x.get()), nullptr);
     EXPECT_EQ(m_Notebook.ReplacePage(0, nullptr), nullptr);
     EXPECT_EQ(m_Notebook.ReplacePage(0, m_Pages[0]), nullptr);
+    EXPECT_EQ(m_Notebook.ReplacePage(0, m_Host.Root()), nullptr);
+    EXPECT_EQ(m_Notebook.ReplacePage(0, &m_Notebook), nullptr);
     EXPECT_EQ(x->GetParent(), nullptr);
     EXPECT_EQ(Pages(), "Ab 0");
     EXPECT_EQ(m_Log.Text(), "");

@@ -102,6 +102,11 @@ protected:
 
     CNotingDrawing m_Drawing;
 };
+class SliderPaintLarger : public SliderPaint
+{
+protected:
+    SliderPaintLarger() : SliderPaint(1.5) {}
+};
 class SliderPaintScaled : public SliderPaint
 {
 protected:
@@ -110,6 +115,7 @@ protected:
 auto const NameOfDirection = [](auto const& param) { return param.param ? "Vertical" : "Horizontal"; };
 INSTANTIATE_TEST_SUITE_P(Direction, SliderPaint, testing::Bool(), NameOfDirection);
 INSTANTIATE_TEST_SUITE_P(Direction, SliderPaintScaled, testing::Bool(), NameOfDirection);
+INSTANTIATE_TEST_SUITE_P(Direction, SliderPaintLarger, testing::Bool(), NameOfDirection);
 
 // What is drawn on a window by a function. Vertical.
 class CProbe : public CVisualElement
@@ -137,8 +143,8 @@ std::vector<std::string> DrawnBy(std::function<void(IPainter*)> const& deed)
 TEST_P(SliderPaint, GroundTrackAndPointerAreDrawnInThisOrder)
 {
     PaintLog const log = Repaint();
-    EXPECT_EQ(m_Drawing.Take(), "slot at " + Text(12, 10, 187, 12) + " state 0; pointer at " + Text(7, 0, 17, 22) +
-                                    " state 0; ");
+    EXPECT_EQ(m_Drawing.Take(),
+              "slot at " + Text(12, 10, 187, 12) + " state 0; pointer at " + Text(7, 0, 17, 22) + " state 0; ");
     std::vector<std::string> const calls = log.Calls();
     EXPECT_THAT(log, Draws("SetBrush cyan").Then("FillRect " + Text(0, 0, 199, 39)));
     EXPECT_EQ(log.Count("DrawString*"), 0);
@@ -171,8 +177,8 @@ TEST_P(SliderPaint, ThePointerStandsAtThePosition)
 {
     m_Slider.SetSliderPos(100);
     m_Host.Paint();
-    EXPECT_EQ(m_Drawing.Take(), "slot at " + Text(12, 10, 187, 12) + " state 0; pointer at " + Text(107, 0, 117, 22) +
-                                    " state 0; ");
+    EXPECT_EQ(m_Drawing.Take(),
+              "slot at " + Text(12, 10, 187, 12) + " state 0; pointer at " + Text(107, 0, 117, 22) + " state 0; ");
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
@@ -181,8 +187,8 @@ TEST_P(SliderPaint, PointsAreAskedForAndDrawnOneByOneByTheirValues)
     CPoints points({1, 0.5, 0});
     m_Slider.SetModel(&points);
     m_Host.Paint();
-    std::string expected = "slot at " + Text(12, 10, 187, 12) + " state 0; pointer at " + Text(7, 0, 17, 22) +
-                           " state 0; ";
+    std::string expected =
+        "slot at " + Text(12, 10, 187, 12) + " state 0; pointer at " + Text(7, 0, 17, 22) + " state 0; ";
     // The pointer ends at 22; a letter is 8 high, and 2 more make the band 10 long.
     int const places[] = {7, 94, 182};
     for (int i = 0; i < 3; ++i)
@@ -190,8 +196,7 @@ TEST_P(SliderPaint, PointsAreAskedForAndDrawnOneByOneByTheirValues)
         std::string const index = std::to_string(2 - i);
         int const from = places[i];
         expected += "attr " + index + " state 0; content " + index + " at " + Text(from, 23, from + 10, 39) +
-                    " state 0; caption p" + index + " " + index + " at " + Text(from, 25, from + 10, 39) +
-                    " state 0; ";
+                    " state 0; caption p" + index + " " + index + " at " + Text(from, 25, from + 10, 39) + " state 0; ";
     }
     EXPECT_EQ(m_Drawing.Take(), expected);
     m_Slider.SetModel(nullptr);
@@ -323,14 +328,47 @@ TEST_P(SliderPaintScaled, MetricsScaleEachByItself)
     EXPECT_EQ(m_Slider.GetPointCount(), 3);
     EXPECT_EQ(m_Slider.CalcPosByPoint(2), 171);
     std::string const calls = m_Drawing.Take();
-    EXPECT_EQ(calls.substr(0, calls.find("attr")), "slot at " + Text(14, 12, 185, 14) + " state 0; pointer at " +
-                                                       Text(8, 0, 20, 27) + " state 0; ");
+    EXPECT_EQ(calls.substr(0, calls.find("attr")),
+              "slot at " + Text(14, 12, 185, 14) + " state 0; pointer at " + Text(8, 0, 20, 27) + " state 0; ");
     EXPECT_NE(calls.find("content 0 at " + Text(8, 28, 20, 59)), std::string::npos) << calls;
     EXPECT_NE(calls.find("caption p0 0 at " + Text(8, 30, 20, 59)), std::string::npos) << calls;
     EXPECT_THAT(log, Draws("DrawStringEx \"p0\" " + Text(8, 35, 20, 59) + "*"));
     m_Slider.SetFocus(true);
     EXPECT_EQ(CallsFrom(m_Host.Paint().Of("slider"), "FocusRect"), Text(9, 7, 190, 19));
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_P(SliderPaintLarger, ACaptionsOddExtentIsHalvedDownward)
+{
+    // A letter of 12 and 3 more. The track begins at 18, and the pointer ends at 15 - 16 + 33 and a half.
+    UseModel();
+    std::string const calls = m_Drawing.Take();
+    EXPECT_NE(calls.find("pointer at " + Text(11, 0, 26, 33)), std::string::npos) << calls;
+    EXPECT_NE(calls.find("content 0 at " + Text(11, 34, 26, 39)), std::string::npos) << calls;
+    EXPECT_NE(calls.find("caption p0 0 at " + Text(11, 37, 26, 39)), std::string::npos) << calls;
+}
+
+TEST_P(SliderPaint, TheHeightOfALetterDecidesInBothDirections)
+{
+    class CWideLetters : public CRecordingPainter
+    {
+    public:
+        using CRecordingPainter::CRecordingPainter;
+        std::string m_Measured;
+        size<double> GetTextSize(std::string const& text, font const*, int, bool, bool) override
+        {
+            m_Measured = text;
+            return {30.9, 8.9};
+        }
+    };
+    UseModel();
+    m_Drawing.Take();
+    CCallLog log;
+    CWideLetters painter(log);
+    m_Slider.DrawContent(&painter);
+    EXPECT_EQ(painter.m_Measured, "W");
+    std::string const calls = m_Drawing.Take();
+    EXPECT_NE(calls.find("content 0 at " + Text(7, 23, 17, 39)), std::string::npos) << calls;
 }
 
 // The default look ------------------------------------------------------------------------------------------------------------
@@ -383,6 +421,7 @@ TEST(SliderDefaultLook, TheTrackLiesInTheMiddleOfThePointersExtentAtTheTop)
     {
         CTestHost const host(100, 100, 1.75);  // 3, 17 and 38
         EXPECT_EQ(look.GetSlotRect({0, 0, 199, 39}, horizontal), (rectangle<int>{20, 17, 179, 20}));
+        EXPECT_EQ(look.GetSlotRect({0, -100, 199, 39}, horizontal), (rectangle<int>{20, -83, 179, -80}));
     }
     CTestHost const reset(10, 10);
 }
@@ -470,9 +509,8 @@ TEST(SliderDefaultLook, ThePointerIsARaisedThinBoxAndTheTrackASunkenBox)
 TEST(SliderDefaultLook, TheFocusIsFramedAroundTheOrderedTrack)
 {
     auto const focus = [](rectangle<double> const& rect, int state) {
-        for (std::string const& call : DrawnBy([&](IPainter* painter) {
-                 s_DefSliderDrawingModel.OnDrawSlot(painter, rect, state, nullptr);
-             }))
+        for (std::string const& call :
+             DrawnBy([&](IPainter* painter) { s_DefSliderDrawingModel.OnDrawSlot(painter, rect, state, nullptr); }))
             if (call.starts_with("FocusRect"))
                 return call;
         return std::string();
@@ -513,8 +551,8 @@ TEST_P(SliderPaint, ARangeThatIsEmptyOrNoneIsSurvived)
         }
         else
         {
-            EXPECT_EQ(m_Slider.CalcPosByPoint(i), value > 0 ? std::numeric_limits<int>::max()
-                                                            : std::numeric_limits<int>::min());
+            EXPECT_EQ(m_Slider.CalcPosByPoint(i),
+                      value > 0 ? std::numeric_limits<int>::max() : std::numeric_limits<int>::min());
         }
     }
     double const ends[][2] = {{5, 5}, {0, nan}, {nan, 0}, {-infinite, infinite}, {0, huge}, {-huge, huge}, {1, 0}};

@@ -173,6 +173,13 @@ TEST_P(Slider, OnATrackOfLengthZeroThereAreNoPointsAndEveryPositionIsIgnored)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+TEST_P(Slider, ATrackThatIsTurnedInsideOutHasNoPoints)
+{
+    Place(20, 39);
+    EXPECT_EQ(m_Slider.GetPointCount(), 0);
+    EXPECT_EQ(m_Slider.GetPointValue(0), 0.0);
+}
+
 TEST_P(Slider, OnATrackOfOnePixelTheValueIsNone)
 {
     CPoints range({}, 10, 20);

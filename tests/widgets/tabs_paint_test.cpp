@@ -157,9 +157,13 @@ TEST_F(TabsPaint, ATabThatFitsExactlyIsTheLastOneDrawn)
 
 TEST_F(TabsPaint, AStripWithoutRoomDrawsNoTabs)
 {
-    CLinesModel model({"a"});
     m_Tabs.SetPos({10, 30, 10, 60}, true);
     Repaint();
+    EXPECT_EQ(m_Tabs.m_Drawn, "");
+    IPainter& painter = *m_Host.Window().GetPainter();
+    painter.BeginPaint(IPainter::ssMeasure);
+    m_Tabs.DrawContent(&painter);
+    painter.EndPaint();
     EXPECT_EQ(m_Tabs.m_Drawn, "");
 }
 
@@ -288,6 +292,9 @@ TEST(TabsSystemColours, FollowTheDesktopUntilTheApplicationSetsItsOwn)
     palette.Reset();
     host.SysColorChange();
     EXPECT_EQ(tabs->GetActiveColor(), _color(0xFFFFFFFF));
+    tabs->SetActiveColor(color_table[6]);
+    host.SysColorChange();
+    EXPECT_EQ(tabs->GetActiveColor(), color_table[6]);
     EXPECT_EQ(tabs->GetInactiveColor(), color_table[13]);
     EXPECT_EQ(tabs->GetBkColor(), color_table[4]);
     EXPECT_EQ(host.CompareWithFullPaint(), "");

@@ -162,11 +162,21 @@ TEST_F(Tabs, ATabBeforeTheFirstVisibleOneBecomesTheFirst)
     EXPECT_EQ(m_Tabs.GetFirstVisibleTab(), 0);
 }
 
+TEST_F(Tabs, ATabThatShowsWholeDoesNotScrollEvenIfMoreHadRoomBeforeIt)
+{
+    Place(93, 20);
+    m_Tabs.SetFirstVisibleTab(1);
+    EXPECT_EQ(m_Tabs.GetLastVisibleTab(), 2);  // 39 and 23; 31 had room, too
+    m_Tabs.SetCurrentTab(2);
+    EXPECT_EQ(m_Tabs.GetFirstVisibleTab(), 1);
+}
+
 TEST_F(Tabs, TheViewHasScrolledWhenTheChangeIsTold)
 {
     Place(80, 20);
     int first = -1;
-    auto const changed = Listen(m_Tabs.m_TabChanged, [&](CVisualElement*, int) { first = m_Tabs.GetFirstVisibleTab(); });
+    auto const changed =
+        Listen(m_Tabs.m_TabChanged, [&](CVisualElement*, int) { first = m_Tabs.GetFirstVisibleTab(); });
     m_Tabs.SetCurrentTab(3);
     EXPECT_EQ(first, 2);
     m_Tabs.SetCurrentTab(0);
@@ -402,6 +412,15 @@ TEST_F(Tabs, ASlantHasNoLimitAtTheLeftAndAboveTheStrip)
     EXPECT_FALSE(m_Tabs.TabHitTest({20, -22}, &painter, 1, &x));
     x = 31;
     EXPECT_TRUE(m_Tabs.TabHitTest({50, -1}, &painter, 1, &x));
+    x = 0;
+    EXPECT_TRUE(m_Tabs.TabHitTest({39, -1}, &painter, 0, &x));
+    x = 0;
+    EXPECT_FALSE(m_Tabs.TabHitTest({40, -1}, &painter, 0, &x));  // where the right slant ends
+    m_Tabs.SetCurrentTab(1);
+    x = 0;
+    EXPECT_TRUE(m_Tabs.TabHitTest({9, -43}, &painter, 0, &x));
+    x = 0;
+    EXPECT_FALSE(m_Tabs.TabHitTest({9, -44}, &painter, 0, &x));  // 2 * (9 - 31)
     painter.EndPaint();
     EXPECT_EQ(HitTest(20, -1), 0);
 }
@@ -611,10 +630,11 @@ TEST_F(Tabs, AModelThatDiesIsForgotten)
     {
         CLinesModel brief({"x", "y"});
         m_Tabs.SetModel(&brief);
-        m_Host.Paint();
         m_Tabs.SetCurrentTab(1);
+        m_Host.Paint();
     }
     EXPECT_EQ(m_Tabs.GetModel(), nullptr);
+    EXPECT_TRUE(m_Host.IsFramePending());
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
     m_Tabs.SetModel(&m_Model);
     EXPECT_EQ(m_Tabs.GetCurrentTab(), 1);
@@ -642,6 +662,7 @@ TEST_F(Tabs, OfAMillionTabsOnlyThoseInViewAreAskedFor)
     Repaint();
     EXPECT_EQ(m_Tabs.GetLastVisibleTab(), 7);  // 8 of 23
     EXPECT_EQ(HitTest(175, 10), 7);
+    EXPECT_EQ(HitTest(-1, 10), -1);
     m_Tabs.SetCurrentTab(999'999);
     EXPECT_EQ(m_Tabs.GetFirstVisibleTab(), 999'992);
     Repaint();
