@@ -276,8 +276,11 @@ int CTabs::DrawTab(IPainter* painter, int tab, int x)
     else
     {
         // Tucked under its left neighbour.
-        point<double> const corners[] = {
-            {start, 0}, {slant * 0.5 + left, static_cast<double>(slant)}, {start, foot}, {start + width, foot}, {end, 0}};
+        point<double> const corners[] = {{start, 0},
+                                         {slant * 0.5 + left, static_cast<double>(slant)},
+                                         {start, foot},
+                                         {start + width, foot},
+                                         {end, 0}};
         painter->Polygon(corners, 5);
     }
     if (current)
