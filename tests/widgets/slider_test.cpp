@@ -668,6 +668,29 @@ TEST_P(Slider, AnotherModelIsReadListenedToAndRepainted)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+TEST_P(Slider, WhileAModelIsReadTheFormerPointsAreGone)
+{
+    class CLooking : public CPoints
+    {
+    public:
+        explicit CLooking(CSlider& slider) : CPoints({0, 1}), m_Slider(slider) {}
+        int GetPointCount() const override
+        {
+            EXPECT_TRUE(m_Slider.GetItems().empty());
+            return CPoints::GetPointCount();
+        }
+
+    private:
+        CSlider& m_Slider;
+    };
+    UseModel();
+    CLooking looking(m_Slider);
+    m_Slider.SetModel(&looking);
+    looking.Set({0.5});
+    EXPECT_EQ(m_Slider.GetItems().size(), 1u);
+    m_Slider.SetModel(nullptr);
+}
+
 TEST_P(Slider, AModelThatDiesIsForgotten)
 {
     {
