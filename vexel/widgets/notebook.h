@@ -36,6 +36,7 @@ public:  // From CVisualElement
     void ProcessRearrange(CVisualElement** element) override;  ///< A hidden page asks for no layout.
 
 private:
+    bool IsPresent(int index) const;
     bool IsShown(CVisualElement* page) const { return page && page == m_Shown.get() && page->GetParent() == this; }
 
     int m_PageIndex = -1;

@@ -93,6 +93,7 @@ private:
     ISliderModel* m_Model = &s_DefSliderModel;
     ISliderDrawingModel* m_DrawingModel = &s_DefSliderDrawingModel;
     std::vector<std::pair<double, SItem>> m_Items;
+    unsigned m_Readings = 0;  // of the model's points
 };
 
 }  // namespace vexel

@@ -113,9 +113,9 @@ void CTabs::ModelDies(IItemsModel*)
 
 void CTabs::SetCurrentTab(int tab)
 {
-    if (tab == m_CurrentTab || tab < 0 || tab >= GetTabCount())
-        return;
     CAliveGuard const alive(this);
+    if (tab == m_CurrentTab || tab < 0 || tab >= GetTabCount() || !alive)
+        return;
     bool allowed = true;
     m_TabChanging(this, m_CurrentTab, tab, &allowed);
     if (!alive || !allowed)
@@ -123,7 +123,7 @@ void CTabs::SetCurrentTab(int tab)
     m_CurrentTab = tab;
     if (tab < m_FirstVisibleTab)
         SetFirstVisibleTab(tab);
-    else if (GetLastVisibleTab() < tab)
+    else if (GetLastVisibleTab() < tab && alive)
         SetLastVisibleTab(tab);
     if (!alive)
         return;
@@ -134,7 +134,8 @@ void CTabs::SetCurrentTab(int tab)
 
 void CTabs::SetFirstVisibleTab(int tab)
 {
-    if (tab == m_FirstVisibleTab || tab < 0 || tab >= GetTabCount())
+    CAliveGuard const alive(this);
+    if (tab == m_FirstVisibleTab || tab < 0 || tab >= GetTabCount() || !alive)
         return;
     m_FirstVisibleTab = tab;
     OnChange(this, utElement);
@@ -146,9 +147,16 @@ IPainter* CTabs::FindPainter() const
     return window ? window->GetPainter() : nullptr;
 }
 
+// Empty if the model has died while it was asked for something else.
+std::string CTabs::GetTabText(int tab) const
+{
+    return m_Items ? m_Items->GetItemCaption(tab) : std::string();
+}
+
 int CTabs::GetTabWidth(IPainter* painter, int tab) const
 {
-    return GetSlant(GetContentRect()) + ToInt(GetTextWidth(*painter, m_Items->GetItemCaption(tab))) + g_TextMargin;
+    int const slant = GetSlant(GetContentRect());
+    return slant + ToInt(GetTextWidth(*painter, GetTabText(tab))) + g_TextMargin;
 }
 
 int CTabs::GetLastVisibleTab() const
@@ -156,15 +164,15 @@ int CTabs::GetLastVisibleTab() const
     IPainter* const painter = FindPainter();
     if (!painter)
         return -1;
+    CAliveGuard const alive(this);
     CMeasureBracket const measuring(painter, GetFont());
     rectangle<int> const content = GetContentRect();
     int room = SubtractSaturated(content.right, content.left);
     int last = -1;
-    int const count = GetTabCount();
-    for (int tab = m_FirstVisibleTab; tab < count; ++tab)
+    for (int tab = m_FirstVisibleTab; tab < GetTabCount() && alive; ++tab)
     {
         room = SubtractSaturated(room, GetTabWidth(painter, tab));
-        if (room < 0)
+        if (room < 0 || !alive)
             break;
         last = tab;
     }
@@ -174,7 +182,8 @@ int CTabs::GetLastVisibleTab() const
 void CTabs::SetLastVisibleTab(int tab)
 {
     IPainter* const painter = FindPainter();
-    if (!painter || tab < 0 || tab >= GetTabCount())
+    CAliveGuard const alive(this);
+    if (!painter || tab < 0 || tab >= GetTabCount() || !alive)
         return;
     int first = -1;
     {
@@ -184,6 +193,8 @@ void CTabs::SetLastVisibleTab(int tab)
         for (int candidate = tab; candidate >= 0; --candidate)
         {
             room = SubtractSaturated(room, GetTabWidth(painter, candidate));
+            if (!alive)
+                return;
             if (room < 0)
                 break;
             first = candidate;
@@ -214,7 +225,7 @@ void CTabs::DrawContent(IPainter* painter)
     rectangle<double> const content = GetDrawRect(painter);
     int const room = ToInt(content.right - content.left);
     int x = 0;
-    for (int tab = m_FirstVisibleTab; alive && tab < GetTabCount() && x < room; ++tab)
+    for (int tab = m_FirstVisibleTab; tab < GetTabCount() && alive && x < room; ++tab)
     {
         int const advance = DrawTab(painter, tab, x);
         if (!alive || advance >= SubtractSaturated(room, x))
@@ -237,7 +248,10 @@ int CTabs::DrawTab(IPainter* painter, int tab, int x)
 {
     rectangle<double> const content = GetDrawRect(painter);
     int const slant = GetSlant(content);
-    std::string const text = m_Items->GetItemCaption(tab);
+    CAliveGuard const alive(this);
+    std::string const text = GetTabText(tab);
+    if (!alive || !m_Items)
+        return 0;
     double const textWidth = GetTextWidth(*painter, text);
     double const width = textWidth + g_TextMargin;
     double const left = x;
@@ -283,19 +297,22 @@ int CTabs::HitTest(point<int> const& position)
     IPainter* const painter = FindPainter();
     if (!painter)
         return -1;
+    CAliveGuard const alive(this);
     CMeasureBracket const measuring(painter, GetFont());
-    if (m_Items && FirstTabHitTest(position, painter, m_FirstVisibleTab - 1))
-        return m_FirstVisibleTab - 1;
+    int const hidden = m_FirstVisibleTab - 1;
+    if (m_Items && FirstTabHitTest(position, painter, hidden))
+        return hidden;
+    if (!alive)
+        return -1;
     rectangle<int> const content = GetContentRect();
     if (content.right <= content.left)
         return -1;
     int x = 0;
-    int const count = GetTabCount();
-    for (int tab = m_FirstVisibleTab; tab < count; ++tab)
+    for (int tab = m_FirstVisibleTab; tab < GetTabCount() && alive; ++tab)
     {
         if (TabHitTest(position, painter, tab, &x))
             return tab;
-        if (position.x < 0)
+        if (position.x < 0 || !alive)
             return -1;
     }
     return -1;
@@ -307,8 +324,11 @@ bool CTabs::TabHitTest(point<int> const& position, IPainter* painter, int tab, i
     int const slant = GetSlant(content);
     int const before = *x;
     int const start = AddSaturated(slant, before);
-    int const end = AddSaturated(start, ToInt(GetTextWidth(*painter, m_Items->GetItemCaption(tab))) + g_TextMargin);
+    CAliveGuard const alive(this);
+    int const end = AddSaturated(start, ToInt(GetTextWidth(*painter, GetTabText(tab))) + g_TextMargin);
     *x = end;
+    if (!alive)
+        return false;
 
     if (position.x >= start && position.x <= end && position.y >= content.top && position.y <= content.bottom - 1)
         return true;
@@ -337,7 +357,8 @@ bool CTabs::HandleButtonDown(int x, int y, int, MouseButton)
 {
     if (!m_Items)
         return false;
-    if (int const tab = HitTest({x, y}); tab != -1)
+    CAliveGuard const alive(this);
+    if (int const tab = HitTest({x, y}); tab != -1 && alive)
         SetCurrentTab(tab);
     return true;
 }
@@ -345,10 +366,12 @@ bool CTabs::HandleButtonDown(int x, int y, int, MouseButton)
 std::string CTabs::HandleAsString() const
 {
     std::string result;
-    int const count = GetTabCount();
-    for (int tab = 0; tab < count; ++tab)
+    CAliveGuard const alive(this);
+    for (int tab = 0; tab < GetTabCount() && alive; ++tab)
     {
-        std::string const text = m_Items->GetItemCaption(tab);
+        std::string const text = GetTabText(tab);
+        if (!alive)
+            break;
         if (tab > 0)
             result += '\t';
         result += tab == m_CurrentTab ? "[" + text + "]" : text;

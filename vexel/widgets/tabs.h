@@ -57,6 +57,7 @@ public:  // Overridable: x is where a tab begins, counted from the strip's left 
     virtual int GetTabWidth(IPainter* painter, int tab) const;
 
 private:
+    std::string GetTabText(int tab) const;
     int GetTabCount() const { return m_Items ? m_Items->GetItemCount() : 0; }
     void SetColor(_color& member, bool& own, _color const& color);
     void TakeSystemColors();
