@@ -21,7 +21,7 @@ class Page:
         self.program = Program(self.display, [programs / "vexel-gallery", "--log", "--page", self.name]).__enter__()
         self.window = self.display.wait_for_window("vexel gallery")
         self.program.wait_for_line("native focus")
-        eventually(lambda: self.pixel(100, 660) != self.pixel(700, 690), "the window to be painted")
+        eventually(lambda: self.pixel(900, 20) != self.pixel(700, 690), "the window to be painted")
         return self
 
     def __exit__(self, *failure):
