@@ -119,7 +119,8 @@ SPage const g_Pages[] = {
     {"selection", "Selection", "Click, Shift and Control, Control+A, Space; drag past the edge.",
      &Make<CSelectionPage>},
     {"grid", "A grid of two billion rows",
-     "Scroll, click, shift-click, drag past the edge; resize, drag and click the sections of the header.",
+     "Scroll, click, drag past the edge; resize, drag and click the sections of the header; rest on a cell for its "
+     "tip.",
      &Make<CGridPage>},
     {"header", "Headers of several levels",
      "Expand groups, sort by a click, resize, drag a section among its siblings; double-click a grip for the best "

@@ -114,7 +114,8 @@ public:
         m_Edit.show();
         QString text;
         for (; m_Count < lines; ++m_Count)
-            text += QString::fromStdString(MakeLine(m_Count)) + (m_Count + 1 < lines ? QStringLiteral("\n") : QString());
+            text +=
+                QString::fromStdString(MakeLine(m_Count)) + (m_Count + 1 < lines ? QStringLiteral("\n") : QString());
         m_Edit.setPlainText(text);
         m_Edit.verticalScrollBar()->setValue(m_Edit.verticalScrollBar()->maximum());
         Flush(m_Edit);

@@ -48,8 +48,7 @@ CSettingsPage::CSettingsPage(SState const& state) : CVisualElement(nullptr, {0, 
     auto* const clear = source.AddItem("All of it", MakeEditor<CButton>(90));
     clear->SetCaption("Clear");
     clear->m_Clicked.connect(this, &CSettingsPage::ClearClicked);
-    m_Tree.AddCategory("About",
-                       "A thousand million readings of a machine\nthat doesn't exist; none of them is kept");
+    m_Tree.AddCategory("About", "A thousand million readings of a machine\nthat doesn't exist; none of them is kept");
 
     auto* const box = new CScrollBox(this, {0, 0}, alClient);
     auto* const viewer = new CConfigurationViewer(box, {0, 0}, alClient);
