@@ -2,7 +2,6 @@
 
 #include "vexel/widgets/splitter.h"
 
-#include "tests/support/deed_scene.h"
 #include "tests/support/leaf.h"
 #include "tests/support/slot.h"
 #include "tests/support/virtual_order.h"
@@ -465,80 +464,4 @@ TEST_F(Splitter, TheSwapGoesByTheCallsAndNotByTheArgument)
     m_Bar.DrawHighlighted(false);
     EXPECT_EQ(m_Bar.GetBkColor(), color_table[3]);
     EXPECT_EQ(m_Bar.GetFgColor(), color_table[5]);
-}
-
-// Slots that do away with things ----------------------------------------------------------------------------------------------
-
-namespace
-{
-
-class CScene : public CDeedScene
-{
-public:
-    explicit CScene(bool live)
-    {
-        m_Bar->SetElements(m_First, m_Second);
-        m_Bar->SetHighlight(true);
-        m_Bar->SetLiveResize(live);
-        m_Bar->SetRefreshWhileMoving(true);
-        NameElement(*m_Bar, "bar");
-        On<CSplitter*, size<int> const&>("proposed", m_Bar->m_SizeProposed);
-        On<CSplitter*, int>("delta", m_Bar->m_Delta);
-        On<CSplitter*>("moved", m_Bar->m_Moved);
-        On<CSplitter*>("finished", m_Bar->m_Finished);
-        On<CSplitter*, bool>("highlighted", m_Bar->m_Highlighted);
-        On<CVisualElement*>("first laid out", m_First->m_SigSize);
-        On<CVisualElement*>("second laid out", m_Second->m_SigSize);
-        On<CVisualElement*>("bar laid out", m_Bar->m_SigSize);
-        m_Host.Paint();
-    }
-    void Play()
-    {
-        m_Host.Mouse().Move(70, 20);
-        m_Host.Mouse().Move(63, 20);
-        m_Host.Mouse().Press(63, 20);
-        m_Host.Mouse().Move(83, 20);
-        m_Host.Mouse().Release();
-        m_Host.Mouse().Leave();
-        if (m_Host.HasControl())
-            m_Host.Paint();
-    }
-
-    CTestHost m_Host{200, 200};
-    CVisualElement* const m_Parent = new CVisualElement(m_Host.Root(), {0, 0}, alClient);
-    CLeaf* const m_First = new CLeaf(m_Parent, {60, 60}, alLeft, 1);
-    CSplitter* const m_Bar = new CSplitter(m_Parent, {5, 5}, alLeft);
-    CLeaf* const m_Second = new CLeaf(m_Parent, {0, 0}, alClient, 2);
-};
-
-}  // namespace
-
-TEST(SplitterDeletion, OfAnythingInAnySlotIsSurvived)
-{
-    for (bool const live : {true, false})
-        for (char const* const signal : {"proposed", "delta", "moved", "finished", "highlighted", "first laid out",
-                                         "second laid out", "bar laid out"})
-            for (int deed = 0; deed < 6; ++deed)
-            {
-                CScene scene(live);
-                int done = 0;
-                auto const slot = scene.m_Connect.at(signal)([&] {
-                    if (done++ > 0)
-                        return;
-                    if (deed == 0)
-                        delete scene.m_Bar;
-                    else if (deed == 1)
-                        delete scene.m_First;
-                    else if (deed == 2)
-                        delete scene.m_Second;
-                    else if (deed == 3)
-                        delete scene.m_Parent;
-                    else if (deed == 4)
-                        scene.m_Host.DestroyControl();
-                    else
-                        scene.m_Host.DestroyWindow();
-                });
-                scene.Play();
-                EXPECT_GT(done, 0) << signal << " " << deed;
-            }
 }
