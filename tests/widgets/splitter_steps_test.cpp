@@ -213,6 +213,35 @@ TEST_F(SplitterStep, WithoutLiveResizeAWobbleIsNoMove)
     EXPECT_EQ(Thickness(m_First), 60);
 }
 
+TEST(SplitterBesideAHiddenSibling, UncoversWhatIsBehind)
+{
+    for (Alignment const edge : {alLeft, alRight, alTop, alBottom})
+        for (int hidden = 0; hidden < 2; ++hidden)
+        {
+            CTestHost host(200, 200);
+            auto* const parent = new CBevel(host.Root(), {0, 0}, alClient);
+            parent->SetBkColor(color_table[3]);
+            auto* const first = new CLeaf(parent, {60, 60}, edge, 1);
+            auto* const bar = new CSplitter(parent, {5, 5}, edge);
+            auto* const second = new CLeaf(parent, {0, 0}, alClient, 2);
+            bar->SetElements(first, second);
+            host.Paint();
+            (hidden == 0 ? first : second)->SetVisible(false);
+            host.Paint();
+            rectangle<int> const before = bar->GetPos();
+            host.Mouse().Press(*bar, 2, 2);
+            for (int const pull : {10, -10, 15})
+            {
+                host.Mouse().Move(*bar, 2 + pull, 2 + pull);
+                EXPECT_NE(bar->GetPos(), before);
+                EXPECT_EQ(host.CompareWithFullPaint(), "") << edge << " " << hidden;
+                host.Mouse().Move(*bar, 2 + pull, 2 + pull);
+            }
+            host.Mouse().Release();
+            EXPECT_EQ(host.CompareWithFullPaint(), "");
+        }
+}
+
 // Elsewhere -------------------------------------------------------------------------------------------------------------------
 
 TEST_F(SplitterStep, AnotherEdgeTurnsTheDrag)
