@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <memory>
 
 using namespace vexel;
 using namespace vexel::test;
@@ -19,6 +20,10 @@ namespace
 
 // A title of 30 x 20 and a body of 50 x 40.
 using ExpanderStep = CExpanderBench;
+
+class ExpanderAtSide : public testing::TestWithParam<Alignment>
+{};
+INSTANTIATE_TEST_SUITE_P(Side, ExpanderAtSide, testing::Values(alLeft, alRight, alTop, alBottom));
 
 class CWaitingExpander : public CExpander
 {
@@ -242,6 +247,41 @@ TEST_F(ExpanderStep, AStepByHandIsOneOfThem)
         m_Expander.UpdateSize();
     EXPECT_EQ(Extent(), 20);
     EXPECT_FALSE(IsRunning());
+}
+
+TEST_P(ExpanderAtSide, ABodyThatHasNoRoomAmidTheStepsLeavesNothingBesideTheFrame)
+{
+    // Steps of 16 from 72 to 8, where the body still shows; it is hidden in the one after.
+    CTestHost host(200, 200);
+    auto* const parent = new CBevel(host.Root(), {0, 0}, alClient);
+    parent->SetBkColor(color_table[3]);
+    auto* const expander = new CExpander(parent, {0, 0}, GetParam());
+    bool const sideways = GetParam() == alLeft || GetParam() == alRight;
+    auto* const body = new CBevel(nullptr, {64, 64}, alNone);
+    body->SetBkColor(color_table[5]);
+    auto* const inside = new CLeaf(body, {0, 0}, alClient, 2);
+    expander->SetBody(body);
+    for (bool const backward : {false, true})
+    {
+        std::unique_ptr<CVisualElement> const former(expander->GetTitle());
+        expander->SetExpandDirection(sideways ? (backward ? CExpander::ExpandRightLeft : CExpander::ExpandLeftRight)
+                                              : (backward ? CExpander::ExpandBottomTop : CExpander::ExpandTopBottom));
+        expander->SetTitle(new CLeaf(nullptr, {8, 8}, alNone, 1));
+        for (bool const open : {false, true, false, true})
+        {
+            expander->Expand(open, true);
+            for (int i = 0; i < 6; ++i)
+            {
+                host.StepBackground();
+                host.RunPending();
+                host.Clock().Advance(10);
+                EXPECT_EQ(host.CompareWithFullPaint(), "") << open << " " << i;
+                inside->SetVisible(!inside->IsVisible());  // the body asks for a layout of its own
+                EXPECT_EQ(host.CompareWithFullPaint(), "") << open << " " << i;
+            }
+            EXPECT_FALSE(expander->IsSizing());
+        }
+    }
 }
 
 TEST(ExpanderTask, ItsRoundsGoOnAsLongAsThereAreSteps)

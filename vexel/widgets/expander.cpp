@@ -13,6 +13,11 @@ namespace
 
 int const g_StepWait = 10;  // milliseconds
 
+bool HasNoRoom(rectangle<int> const& rect)
+{
+    return rect.right < rect.left || rect.bottom < rect.top;
+}
+
 }  // namespace
 
 CExpander::CExpander(CVisualElement* parent, size<int> const& extent, Alignment alignment)
@@ -137,8 +142,15 @@ void CExpander::SetPos(rectangle<int> const& rect, bool force)
 
 void CExpander::ProcessRearrange(CVisualElement** element)
 {
-    if (*element && (*element == GetTitle() || *element == GetBody()))
+    CVisualElement* const body = GetBody();
+    if (*element && (*element == GetTitle() || *element == body))
+    {
         AdoptSize();
+        return;
+    }
+    // On its own, a body without room would be laid out over the title and beside the frame.
+    if (body && IsAncestor(*element, body) && HasNoRoom(body->GetPos()))
+        *element = body;
 }
 
 // State ---------------------------------------------------------------------------------------------------------------------
