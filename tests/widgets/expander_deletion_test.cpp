@@ -157,8 +157,14 @@ public:
         if (m_Host->HasWindow())
             m_Host->DestroyWindow();
     }
-    void DropTitle() { With([](CExpander& it) { it.SetTitle(nullptr); }); }
-    void DropBody() { With([](CExpander& it) { it.SetBody(nullptr); }); }
+    void DropTitle()
+    {
+        With([](CExpander& it) { it.SetTitle(nullptr); });
+    }
+    void DropBody()
+    {
+        With([](CExpander& it) { it.SetBody(nullptr); });
+    }
     void SetParts()
     {
         if (!IsThere(m_Expander) || !IsAlive(m_Title) || !IsAlive(m_Body))
@@ -177,13 +183,34 @@ public:
         if (IsThere(m_Parent) && IsAlive(m_Title))
             m_Title->ReParent(m_Parent, true);
     }
-    void Open() { With([](CExpander& it) { it.Expand(true, false); }); }
-    void Close() { With([](CExpander& it) { it.Expand(false, false); }); }
-    void OpenInSteps() { With([](CExpander& it) { it.Expand(true, true); }); }
-    void CloseInSteps() { With([](CExpander& it) { it.Expand(false, true); }); }
-    void Stop() { With([](CExpander& it) { it.StopSizing(); }); }
-    void Step() { With([](CExpander& it) { it.UpdateSize(); }); }
-    void Turn() { With([](CExpander& it) { it.SetExpandDirection(CExpander::ExpandLeftRight); }); }
+    void Open()
+    {
+        With([](CExpander& it) { it.Expand(true, false); });
+    }
+    void Close()
+    {
+        With([](CExpander& it) { it.Expand(false, false); });
+    }
+    void OpenInSteps()
+    {
+        With([](CExpander& it) { it.Expand(true, true); });
+    }
+    void CloseInSteps()
+    {
+        With([](CExpander& it) { it.Expand(false, true); });
+    }
+    void Stop()
+    {
+        With([](CExpander& it) { it.StopSizing(); });
+    }
+    void Step()
+    {
+        With([](CExpander& it) { it.UpdateSize(); });
+    }
+    void Turn()
+    {
+        With([](CExpander& it) { it.SetExpandDirection(CExpander::ExpandLeftRight); });
+    }
     void HideBody()
     {
         if (IsAlive(m_Body))
@@ -264,9 +291,9 @@ INSTANTIATE_TEST_SUITE_P(ByDeed, ExpanderDeedDeletion,
                              {"Cancel", [](CExpanderScene&) { throw vexel::cancel_processing(); }}}),
                          NameOfDeed());
 
-char const* const g_Signals[] = {"told",           "laid out",     "title shown", "title laid out", "title docked",
-                                 "title leaves",   "title arrived", "body shown", "body laid out",  "body docked",
-                                 "body leaves",    "body arrived", "asked",       "changed"};
+char const* const g_Signals[] = {"told",         "laid out",      "title shown", "title laid out", "title docked",
+                                 "title leaves", "title arrived", "body shown",  "body laid out",  "body docked",
+                                 "body leaves",  "body arrived",  "asked",       "changed"};
 
 // Whatever was done: a thread runs only for steps, and the steps that are under way come to their end.
 void ExpectOrder(CExpanderScene& scene)
