@@ -30,8 +30,7 @@ int const g_WindowSize = 400;
 class CNestedGame
 {
 public:
-    CNestedGame(CTestRandom& random, double scale)
-        : m_Random(random), m_Host(g_WindowSize, g_WindowSize, scale)
+    CNestedGame(CTestRandom& random, double scale) : m_Random(random), m_Host(g_WindowSize, g_WindowSize, scale)
     {
         Fill(m_Host.Root(), 4);
         m_Host.Paint();
@@ -335,8 +334,7 @@ private:
                 NewPage(3)->ReParent(&book, true);
             break;
         case 1:
-            if (count > 1)
-                delete book.RemovePage(index);
+            delete book.RemovePage(index);
             break;
         case 2:
         {
@@ -351,6 +349,9 @@ private:
             book.SetPageIndex(index);
             break;
         }
+        // An owner sees to it that a page shows.
+        if (!FindShown(&book, [](CVisualElement*) { return true; }))
+            book.SetPageIndex(0);
         ++m_Turned;
     }
     void UseGauge(CGauge& gauge)
