@@ -10,13 +10,29 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <limits>
+#include <utility>
 
 using namespace vexel;
 using namespace vexel::test;
 
 namespace
 {
+
+// Does something when one below asks for a layout.
+class CMeddler : public CVisualElement
+{
+public:
+    using CVisualElement::CVisualElement;
+    std::function<void()> m_Deed;
+
+    void ProcessRearrange(CVisualElement**) override
+    {
+        if (m_Deed)
+            std::exchange(m_Deed, nullptr)();
+    }
+};
 
 class CTellingGauge : public CGauge
 {
@@ -215,4 +231,31 @@ TEST(GaugeBoxText, StandsAtTheFootWithASpaceAboveIt)
     box->GetTextSpacer().SetHeight(14, false);
     EXPECT_EQ(box->GetSize().height, 44);
     EXPECT_EQ(host.CompareWithFullPaint(), "");
+}
+
+TEST(GaugeBoxDeletion, WhileItAsksForALayoutIsSurvived)
+{
+    for (int way = 0; way < 6; ++way)
+    {
+        CTestHost host(200, 100);
+        auto* const parent = new CMeddler(host.Root(), {0, 0}, alClient);
+        auto* const box = new CGaugeBoxEx(parent, {0, 0}, alTop);
+        box->GetText().SetCaption("Copying");
+        host.Paint();
+        parent->m_Deed = [&] { delete box; };
+        if (way == 0)
+            box->SetMaxWidth(100);
+        else if (way == 1)
+            box->GetText().SetCaption("two\nlines");
+        else if (way == 2)
+            box->GetButton().SetCaption("Stop");
+        else if (way == 3)
+            box->GetButton().SetVisible(true);
+        else if (way == 4)
+            box->GetStrip().SetHeight(30, false);
+        else
+            box->SetAlignment(alBottom);
+        EXPECT_EQ(parent->GetChildren()->GetCount(), 0) << way;
+        host.Paint();
+    }
 }

@@ -105,7 +105,7 @@ TEST_P(SplitterStepOnSide, AStepWithoutRoomIsAStepAllTheSame)
 
 TEST_P(SplitterStepOnSide, TheBarIsHeldWhereItWasPressed)
 {
-    m_Host.Mouse().Press(m_Bar, 4, 4);
+    m_Host.Mouse().Press(m_Bar, IsSideways() ? 4 : 1, IsSideways() ? 1 : 4);
     m_Host.Mouse().Move(m_Bar, 6, 6);
     EXPECT_EQ(m_Log.Take(), "");
     m_Host.Mouse().Move(m_Bar, 12, 12);
@@ -239,6 +239,62 @@ TEST(SplitterBesideAHiddenSibling, UncoversWhatIsBehind)
             }
             host.Mouse().Release();
             EXPECT_EQ(host.CompareWithFullPaint(), "");
+        }
+}
+
+TEST_F(SplitterStep, WithoutLiveResizeAReleaseRefreshesTheWindowWhateverMoved)
+{
+    m_Bar.SetElements(nullptr, &m_Second);
+    for (bool const live : {true, false})
+    {
+        m_Bar.SetLiveResize(live);
+        Press();
+        m_Host.Paint();
+        m_Host.Mouse().Release();
+        EXPECT_EQ(m_Host.IsFramePending(), !live);
+        m_Host.Paint();
+    }
+}
+
+namespace
+{
+
+// Siblings that are filled by what stands in them.
+class SplitterOfContainers : public testing::TestWithParam<Alignment>
+{
+protected:
+    CVisualElement* NewContainer(size<int> const& extent, Alignment alignment, int look)
+    {
+        auto* const container = new CVisualElement(m_Host.Root(), extent, alignment);
+        new CLeaf(container, {0, 0}, alClient, look);
+        return container;
+    }
+
+    CTestHost m_Host{200, 200};
+};
+INSTANTIATE_TEST_SUITE_P(AtEdge, SplitterOfContainers, testing::Values(alLeft, alRight, alTop, alBottom));
+
+}  // namespace
+
+TEST_P(SplitterOfContainers, LooksAsIfPaintedAtOnceHoweverOftenItMovedBefore)
+{
+    CVisualElement* const first = NewContainer({60, 60}, GetParam(), 1);
+    auto* const bar = new CSplitter(m_Host.Root(), {5, 5}, GetParam());
+    bar->SetBkColor(color_table[3]);
+    bar->SetElements(first, NewContainer({0, 0}, alClient, 2));
+    m_Host.Paint();
+    for (int const by : {1, 10, 60, -1, -10, -60})
+        for (int times = 1; times <= 3; ++times)
+        {
+            m_Host.Mouse().Press(*bar, 2, 2);
+            for (int i = 0; i < times; ++i)
+            {
+                m_Host.Mouse().Move(*bar, 2 + by + i, 2 + by + i);
+                bar->UpdateSplitterPos(by);
+            }
+            EXPECT_EQ(m_Host.CompareWithFullPaint(), "") << by << " " << times;
+            m_Host.Mouse().Release();
+            EXPECT_EQ(m_Host.CompareWithFullPaint(), "") << by << " " << times;
         }
 }
 

@@ -339,6 +339,8 @@ TEST_F(Splitter, AStepIsCutToWhatTheSiblingsCanGive)
     m_Bar.SetMinSize(100);
     EXPECT_EQ(m_Bar.CheckDelta(60), 32);  // 120 and 72: 28 short
     EXPECT_EQ(m_Bar.CheckDelta(30), 40);  // 90: the first one is asked first
+    EXPECT_EQ(m_Bar.CheckDelta(35), 40);  // 95 and 97: the first one alone
+    EXPECT_EQ(m_Bar.CheckDelta(40), 32);  // 100 and 92: the second one
 }
 
 TEST_F(Splitter, AtNoneOfTheEdgesNothingMoves)
