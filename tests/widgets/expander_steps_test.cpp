@@ -11,6 +11,7 @@
 
 #include <limits>
 #include <memory>
+#include <utility>
 
 using namespace vexel;
 using namespace vexel::test;
@@ -384,4 +385,132 @@ TEST_F(ExpanderStep, OfTwoThatMoveEachHasItsOwnSteps)
     EXPECT_EQ(Extent(), 50);
     EXPECT_EQ(other->GetSize().height, 50);
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(ExpanderStep, TurnedAroundAsTheBodyIsHiddenItOpensAgain)
+{
+    m_Expander.Expand(false, true);
+    bool turned = false;
+    auto const slot = Listen(m_Body.m_SigVisible, [&](CVisualElement*, bool shown) {
+        if (!shown && !std::exchange(turned, true))
+            m_Expander.Expand(true, true);
+    });
+    for (int i = 0; i < 5; ++i)
+        Step();
+    EXPECT_TRUE(turned);
+    EXPECT_TRUE(m_Expander.IsSizing());
+    EXPECT_TRUE(m_Expander.IsExpanded());
+    for (int i = 0; i < 4; ++i)
+        Step();
+    EXPECT_EQ(Extent(), 60);
+    EXPECT_FALSE(m_Expander.IsSizing());
+}
+
+TEST_F(ExpanderStep, TurnedAroundAsTheBodyIsShownItClosesAgain)
+{
+    m_Expander.Expand(false, false);
+    m_Expander.SetHeight(59, false);
+    m_Expander.Expand(true, true);
+    auto const slot = Listen(m_Body.m_SigVisible, [&](CVisualElement*, bool shown) {
+        if (shown)
+            m_Expander.Expand(false, true);
+    });
+    Step();  // the last one
+    EXPECT_EQ(Extent(), 60);
+    EXPECT_TRUE(m_Expander.IsSizing());
+    EXPECT_FALSE(m_Expander.IsExpanded());
+    for (int i = 0; i < 5; ++i)
+        Step();
+    EXPECT_EQ(Extent(), 20);
+    EXPECT_FALSE(m_Body.IsVisible());
+}
+
+TEST_P(ExpanderAtSide, TheFrameShowsBesideABodyWithoutExtent)
+{
+    // A step of 10 from 31 leaves a line of pixels beside the title.
+    CTestHost host(200, 200);
+    bool const sideways = GetParam() == alLeft || GetParam() == alRight;
+    auto* const expander = new CExpander(host.Root(), {0, 0}, GetParam());
+    new CLeaf(host.Root(), {0, 0}, alClient, 3);
+    expander->SetBkColor(color_table[3]);
+    expander->SetExpandDirection(sideways ? CExpander::ExpandLeftRight : CExpander::ExpandTopBottom);
+    expander->SetTitle(new CLeaf(nullptr, {20, 20}, alNone, 1));
+    expander->SetBody(new CLeaf(nullptr, {40, 40}, alNone, 2));
+    expander->SetSize({31, 31}, false);
+    host.Paint();
+    expander->Expand(false, true);
+    host.StepBackground();
+    host.RunPending();
+    EXPECT_EQ(expander->GetSize(), sideways ? (size<int>{21, 31}) : (size<int>{31, 21}));
+    EXPECT_EQ(host.CompareWithFullPaint(), "");
+    expander->StopSizing();
+}
+
+TEST(ExpanderLayout, AChangeWithinABodyWithRoomLaysOutTheBodyAlone)
+{
+    CTestHost host(200, 200);
+    auto* const expander = new CExpander(host.Root(), {0, 0}, alTop);
+    auto* const title = new CLeaf(nullptr, {20, 20}, alNone, 1);
+    auto* const body = new CVisualElement(nullptr, {40, 40}, alNone);
+    auto* const inside = new CLeaf(body, {0, 10}, alTop, 2);
+    expander->SetTitle(title);
+    expander->SetBody(body);
+    host.Paint();
+    int titles = 0;
+    int bodies = 0;
+    auto const titled = Listen(title->m_SigSize, [&](CVisualElement*) { ++titles; });
+    auto const bodied = Listen(body->m_SigSize, [&](CVisualElement*) { ++bodies; });
+    inside->SetHeight(15, false);
+    host.Paint();
+    EXPECT_EQ(titles, 0);
+    EXPECT_EQ(bodies, 1);
+    EXPECT_EQ(inside->GetPos(), (rectangle<int>{0, 0, 199, 15}));
+}
+
+namespace
+{
+
+// Makes the title larger as the expander asks for a layout.
+class CTitleGrower : public CVisualElement
+{
+public:
+    using CVisualElement::CVisualElement;
+    CVisualElement* m_Title = nullptr;
+
+    void ProcessRearrange(CVisualElement**) override
+    {
+        if (m_Title)
+            std::exchange(m_Title, nullptr)->SetHeight(30, false);
+    }
+};
+
+}  // namespace
+
+TEST(ExpanderLayout, APartThatChangesAsTheExpanderAsksForALayoutCounts)
+{
+    CTestHost host(200, 200);
+    auto* const parent = new CTitleGrower(host.Root(), {0, 0}, alClient);
+    auto* const expander = new CExpander(parent, {0, 0}, alTop);
+    expander->SetTitle(new CLeaf(nullptr, {20, 20}, alNone, 1));
+    auto* const body = new CLeaf(nullptr, {40, 40}, alNone, 2);
+    expander->SetBody(body);
+    host.Paint();
+    parent->m_Title = expander->GetTitle();
+    body->SetHeight(50, false);
+    EXPECT_EQ(expander->GetSize().height, 80);
+}
+
+TEST(ExpanderLayout, WidthsAreTakenAsTheyAskScaled)
+{
+    CTestHost host(200, 200, 1.5);
+    auto* const expander = new CExpander(host.Root(), {30, 10}, alLeft);
+    expander->SetExpandDirection(CExpander::ExpandLeftRight);
+    expander->SetTitle(new CLeaf(nullptr, {20, 30}, alNone, 1));
+    expander->SetBody(new CLeaf(nullptr, {40, 30}, alNone, 2));
+    EXPECT_EQ(expander->GetSize(), (size<int>{90, 15}));  // 30 and 60
+    expander->Expand(false, true);
+    expander->UpdateSize();
+    EXPECT_EQ(expander->GetSize(), (size<int>{75, 15}));
+    expander->Expand(false, false);
+    EXPECT_EQ(expander->GetSize(), (size<int>{30, 15}));
 }

@@ -110,22 +110,8 @@ void CExpander::SetExpandDirection(ExpandDirection direction)
 // Steps under way take what the parts ask for by themselves.
 void CExpander::AdoptSize()
 {
-    if (m_Adopting || m_Sizing != SizingNone)
-        return;
-    CAliveGuard const alive(this);
-    m_Adopting = true;
-    try
-    {
+    if (m_Sizing == SizingNone)
         GetLogic().Expand(this, IsExpanded());
-    }
-    catch (...)
-    {
-        if (alive)
-            m_Adopting = false;
-        throw;
-    }
-    if (alive)
-        m_Adopting = false;
 }
 
 // A body that is left without extent covers nothing: amid the steps that may be a line of pixels that shows the frame.
