@@ -91,6 +91,31 @@ TEST(GaugeBar, OfEndsFarApartIsSurvived)
     EXPECT_EQ(gauge.GetValue(), -most);
 }
 
+TEST(GaugeBar, OfAnEmptyRangeHasNoLengthWhateverTheValue)
+{
+    CGauge gauge(nullptr, {10, 10}, alNone);
+    gauge.SetPos({0, 0, 100, 10}, false);
+    gauge.SetMax(40);
+    gauge.SetMin(50);
+    gauge.SetMin(40);
+    ASSERT_EQ(gauge.GetValue(), 50);
+    EXPECT_EQ(gauge.GetDrawingVal(), 0);
+}
+
+TEST(GaugePaint, TheBarOfAValueBeyondTheMaximumEndsWhereTheGaugeDoes)
+{
+    CTestHost host(200, 100);
+    auto* const gauge = new CGauge(host.Root(), {100, 0}, alLeft);
+    NameElement(*gauge, "gauge");
+    gauge->SetMax(40);
+    gauge->SetMin(50);
+    gauge->SetMin(0);
+    ASSERT_EQ(gauge->GetDrawingVal(), 125);
+    PaintLog const log = host.Paint();
+    EXPECT_EQ(log.Of("gauge").Count("FillRect 0 0 100 99"), 2);  // ground and bar
+    EXPECT_EQ(log.Of("gauge").Count("FillRect*"), 2);
+}
+
 TEST(GaugeBar, BelowZeroCountsFromTheMinimum)
 {
     CGauge gauge(nullptr, {10, 10}, alNone);

@@ -368,3 +368,36 @@ TEST(SplitterAlone, HighlightingIsDoneBeforeItIsTold)
     host.Mouse().Leave();
     EXPECT_EQ(bar->m_Calls, "on off ");
 }
+
+namespace
+{
+
+class CRepaintingLeaf : public CLeaf
+{
+public:
+    using CLeaf::CLeaf;
+
+    void SetSize(size<int> const& extent, bool scale) override
+    {
+        CLeaf::SetSize(extent, scale);
+        OnChange(this, utElement);
+    }
+};
+
+}  // namespace
+
+TEST(SplitterAlone, WhatTheFirstSiblingRepaintsForItsNewSizeIsDropped)
+{
+    CTestHost host(200, 200);
+    auto* const first = new CRepaintingLeaf(host.Root(), {60, 0}, alLeft, 1);
+    auto* const bar = new CSplitter(host.Root(), {5, 0}, alLeft);
+    bar->SetElements(first, new CLeaf(host.Root(), {0, 0}, alClient, 2));
+    host.Paint();
+    first->SetPos({0, 0, 80, 199}, false);
+    host.Paint();
+    int const waiting = bar->GetControl()->GetUpdatesLastPos();
+    bar->RefreshElementSize();
+    EXPECT_EQ(first->GetSize().width, 80);
+    EXPECT_EQ(bar->GetControl()->GetUpdatesLastPos(), waiting + 1);
+    EXPECT_EQ(host.CompareWithFullPaint(), "");
+}
