@@ -110,8 +110,8 @@ TEST(GaugePaint, TheBarOfAValueBeyondTheMaximumEndsWhereTheGaugeDoes)
     gauge->SetMax(40);
     gauge->SetMin(50);
     gauge->SetMin(0);
-    ASSERT_EQ(gauge->GetDrawingVal(), 125);
     PaintLog const log = host.Paint();
+    ASSERT_EQ(gauge->GetDrawingVal(), 125);
     EXPECT_EQ(log.Of("gauge").Count("FillRect 0 0 100 99"), 2);  // ground and bar
     EXPECT_EQ(log.Of("gauge").Count("FillRect*"), 2);
 }
