@@ -6,6 +6,7 @@
 #include "tests/support/slot.h"
 #include "tests/support/virtual_order.h"
 #include "tests/widgets/expander_bench.h"
+#include "vexel/controls/caption.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
 #include "vexel/platform/memory/memory_system.h"
@@ -565,5 +566,38 @@ TEST(ExpanderDeletion, WhileItAsksForALayoutIsSurvived)
         EXPECT_EQ(parent->GetChildren()->GetCount(), 0) << way;
         EXPECT_EQ(CTestHost::System().GetRunningRunners(), 0);
         host.Paint();
+    }
+}
+
+TEST(ExpanderSteps, RepaintTheirOwnColumnAlone)
+{
+    CTestHost host(300, 200);
+    CVisualElement other(host.Root(), {100, 0}, alLeft);
+    CCaption neighbour(&other, {0, 20}, alTop);
+    CVisualElement column(host.Root(), {0, 0}, alClient);
+    CExpander expander(&column, {0, 24}, alTop);
+    CCaption title(nullptr, {0, 20}, alTop);
+    CCaption body(nullptr, {0, 80}, alClient);
+    CCaption below(&column, {0, 0}, alClient);
+    title.SetDynamic(false);
+    body.SetDynamic(false);
+    expander.SetTitle(&title);
+    expander.SetBody(&body);
+    expander.Expand(false, false);
+    NameElement(other, "other");
+    NameElement(neighbour, "neighbour");
+    NameElement(title, "title");
+    NameElement(below, "below");
+    host.Paint();
+
+    expander.Expand(true, true);
+    for (int step = 0; step < 3; ++step)
+    {
+        expander.UpdateSize();
+        PaintLog const log = host.Paint();
+        EXPECT_TRUE(log.Of("other").IsEmpty()) << step;
+        EXPECT_TRUE(log.Of("neighbour").IsEmpty()) << step;
+        EXPECT_FALSE(log.Of("below").IsEmpty()) << step;
+        EXPECT_EQ(host.CompareWithFullPaint(), "");
     }
 }

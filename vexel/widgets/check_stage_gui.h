@@ -20,16 +20,15 @@ namespace vexel
 ///     stage.SetButtons(goOnButton | quitButton, goOnButton);
 ///
 /// It makes one box at a time, which the next run replaces, and takes it along when it dies. All belongs to the GUI thread.
-class VEXEL_API CCheckStageGui : public ICheckStage,
-                                 public subscriber_base_t,
-                                 public CTimerNotify
+class VEXEL_API CCheckStageGui : public ICheckStage, public subscriber_base_t, public CTimerNotify
 {
 public:
     CCheckStageGui() = default;
     ~CCheckStageGui() override;
 
     // Signals: a slot may delete the stage, the box and their parents -----------------------------------------------------------
-    signal_t<bool&> m_Check;                  ///< Whether the check fails: false at the first check, true at later ones.
+    /// Whether the check fails: false at the first check, true at later ones.
+    signal_t<bool&> m_Check;
     signal_t<CCheckStageGui*, int> m_Result;  ///< The bit of the button that was pressed.
     signal_t<CMessageBox*> m_BoxCreated;      ///< The box is ready and not docked yet.
 

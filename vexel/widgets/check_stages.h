@@ -36,9 +36,9 @@ public:
     CCheckStages& operator=(CCheckStages const&) = delete;
     ~CCheckStages() override;
 
-    signal_t<> m_Finished;            ///< All stages have passed.
-    signal_t<> m_Aborted;             ///< A stage has failed.
-    signal_t<int> m_StageStarting;    ///< The stage with this number is about to run; a slot may change the chain.
+    signal_t<> m_Finished;          ///< All stages have passed.
+    signal_t<> m_Aborted;           ///< A stage has failed.
+    signal_t<int> m_StageStarting;  ///< The stage with this number is about to run; a slot may change the chain.
 
     /// Before the stage that stands at `position`, or at the end if there is none. Null is ignored.
     void AddStage(ICheckStage* stage, int position = -1);
@@ -46,9 +46,10 @@ public:
     void Clear();
     int GetStageCount() const { return static_cast<int>(m_Stages.size()); }
     int GetCurrentStage() const { return m_CurrentStage; }  ///< -1 before the first.
-    void StartProcessing();                                 ///< From the first stage on. An empty chain finishes at once.
+    /// From the first stage on. An empty chain finishes at once.
+    void StartProcessing();
 
-public:  // From IStageNotify
+public:                               // From IStageNotify
     void Complete(bool ok) override;  ///< The present stage has ended: goes on with the next one, or aborts.
 
 private:

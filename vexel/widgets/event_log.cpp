@@ -1,9 +1,9 @@
 #include "vexel/widgets/event_log.h"
 
-#include "vexel/controls/detail/rects.h"
 #include "vexel/core/clip_holder.h"
 #include "vexel/core/control.h"
 #include "vexel/core/measure_bracket.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/sys_window.h"
 
 #include <algorithm>
@@ -233,10 +233,11 @@ void CEventLog::SetPos(rectangle<int> const& rect, bool force)
 
 void CEventLog::ProcessRearrange(CVisualElement** element)
 {
-    rectangle<int> const bounds = GetBounds();
-    if (!m_Built || !IsChildrenAvailable(0) || bounds.right <= 0 || bounds.bottom <= 0)
+    if (!m_Built || !IsChildrenAvailable(0))
         return;
-    bool const follows = m_AutoScroll && IsEndInView();
+    // One without an extent has no end to follow, but takes its size like any other: nothing else would give it one.
+    rectangle<int> const bounds = GetBounds();
+    bool const follows = m_AutoScroll && bounds.right > 0 && bounds.bottom > 0 && IsEndInView();
     CAliveGuard const alive(this);
     CVertBox::ProcessRearrange(element);
     if (alive && m_TitledList.IsVisible() && m_TitledList.GetSize().width > GetSize().width)
@@ -255,7 +256,7 @@ void CEventLog::ProcessRearrange(CVisualElement** element)
 
 void CEventLog::DrawContent(IPainter* painter)
 {
-    CClipHolder const clip(painter, detail::ToDouble(GetBounds()));
+    CClipHolder const clip(painter, ToDouble(GetBounds()));
     CVertBox::DrawContent(painter);
 }
 

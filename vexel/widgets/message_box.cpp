@@ -16,7 +16,8 @@ size<int> const g_PartSize{12, 12};
 
 std::map<CMessageBox::ImageType, vexel_ptr<IRasterPicture>>& GetPictures()
 {
-    static auto* const pictures = new std::map<CMessageBox::ImageType, vexel_ptr<IRasterPicture>>;  // outlives static boxes
+    static auto* const pictures =
+        new std::map<CMessageBox::ImageType, vexel_ptr<IRasterPicture>>;  // outlives static boxes
     return *pictures;
 }
 

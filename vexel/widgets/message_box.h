@@ -44,7 +44,7 @@ public:
 
     // Class-wide, not locked: to be filled by the GUI thread before the first box. Boxes that show a picture keep it -------
     static void SetPicture(ImageType type, vexel_ptr<IRasterPicture> picture);  ///< Null: none.
-    static vexel_ptr<IRasterPicture> GetPicture(ImageType type);               ///< Null if there is none.
+    static vexel_ptr<IRasterPicture> GetPicture(ImageType type);                ///< Null if there is none.
     static void SetButtonCaption(ButtonType type, std::string const& caption);
     static std::string GetButtonCaption(ButtonType type);  ///< Empty if there is none.
 

@@ -61,8 +61,9 @@ void CMessageBoxBase::CheckImageAlign()
     if (!alive || !m_Constructed)
         return;
     int const spacerHeight = m_TitleSpacer.GetSize().height;
-    int const left = imageHeight + above -
-                     (detail::GetTextSizeCorrection() + titleHeight + m_TopSpacer.GetSize().height - below + spacerHeight);
+    int const left =
+        imageHeight + above -
+        (detail::GetTextSizeCorrection() + titleHeight + m_TopSpacer.GetSize().height - below + spacerHeight);
     if (left != 0)
         m_TitleSpacer.SetHeight(left + spacerHeight, false);
 }

@@ -20,11 +20,16 @@ int CNotebook::GetPageIndex(CVisualElement* page) const
     return GetChildren()->GetIndex(page);
 }
 
+// The number alone says nothing once the page that it meant has moved, was deleted or taken away.
+bool CNotebook::IsPresent(int index) const
+{
+    return IsShown(m_Shown.get()) ? GetPage(index) == m_Shown.get() : index == m_PageIndex;
+}
+
 void CNotebook::SetPageIndex(int index)
 {
     CVisualElement* const page = GetPage(index);
-    // The number alone says nothing once the page that it meant has been deleted or taken away.
-    bool const current = m_PageIndex >= 0 && m_Shown && m_Shown->GetParent() == this;
+    bool const current = m_PageIndex >= 0 && IsShown(m_Shown.get());
     if (!page || (index == m_PageIndex && current))
         return;
 
@@ -60,7 +65,7 @@ CVisualElement* CNotebook::RemovePage(int index)
         return nullptr;
     CAliveGuard const alive(this);
     CAlivePtr<CVisualElement> const removed(page);
-    bool const shown = index == m_PageIndex;
+    bool const shown = IsPresent(index);
     page->ReParent(nullptr, true);
     if (!alive || !shown)
         return removed.get();
@@ -79,7 +84,7 @@ CVisualElement* CNotebook::ReplacePage(int index, CVisualElement* page)
     CAliveGuard const alive(this);
     CAlivePtr<CVisualElement> const former(old);
     CAlivePtr<CVisualElement> const next(page);
-    bool const shown = index == m_PageIndex;
+    bool const shown = IsPresent(index);
 
     old->SetVisible(false);
     if (former && alive)

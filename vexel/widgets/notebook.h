@@ -20,7 +20,7 @@ public:
     int GetPageIndex() const { return m_PageIndex; }
     /// Shows a page instead of the one before. An index without a page, or that of the page shown, changes nothing.
     void SetPageIndex(int index);
-    CVisualElement* GetPage(int index) const;  ///< Null outside the range.
+    CVisualElement* GetPage(int index) const;      ///< Null outside the range.
     int GetPageIndex(CVisualElement* page) const;  ///< -1: no page of this notebook.
     /// Detaches a page, which belongs to the caller then; null: there is none. In the place of one that showed the next one
     /// shows, or the new last one.
@@ -37,6 +37,7 @@ public:  // From CVisualElement
     void ProcessRearrange(CVisualElement** element) override;  ///< A hidden page asks for no layout.
 
 private:
+    bool IsPresent(int index) const;
     bool IsShown(CVisualElement* page) const { return page && page == m_Shown.get() && page->GetParent() == this; }
 
     int m_PageIndex = -1;

@@ -1,12 +1,12 @@
 #include "vexel/widgets/slider.h"
 
-#include "vexel/controls/detail/rects.h"
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/core/clip_holder.h"
 #include "vexel/core/control.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace vexel
 {
@@ -23,6 +23,12 @@ enum : int
 };
 
 double const g_CaptionGap = 2;  // along, beside the text; unscaled
+
+// Values that are no numbers come last.
+bool IsBefore(double a, double b)
+{
+    return a < b || (std::isnan(b) && !std::isnan(a));
+}
 
 }  // namespace
 
@@ -47,7 +53,8 @@ void CSlider::SetDirection(SliderDirection direction)
 void CSlider::SetModel(ISliderModel* model)
 {
     m_Model->m_SigChanged.disconnect(this, &CSlider::ProcessModelChange);
-    m_Model->m_SigDestroy.disconnect(this, &CSlider::ModelDies);
+    if (m_Model != &s_DefSliderModel)
+        m_Model->m_SigDestroy.disconnect(this, &CSlider::ModelDies);
     m_Model = model ? model : &s_DefSliderModel;
     m_Model->m_SigChanged.connect(this, &CSlider::ProcessModelChange);
     if (m_Model != &s_DefSliderModel)
@@ -69,15 +76,22 @@ void CSlider::SetDrawingModel(ISliderDrawingModel* model)
 
 void CSlider::ProcessModelChange(ISliderModel* model)
 {
+    // A model may change, die or be exchanged while it is asked: then a later call has read the points.
+    unsigned const reading = ++m_Readings;
+    CAliveGuard const alive(this);
     m_Items.clear();
+    std::vector<std::pair<double, SItem>> items;
     int const count = model->GetPointCount();
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count && alive && reading == m_Readings; ++i)
     {
         SItem item;
         item.index = i;
-        m_Items.emplace_back(model->GetPointValue(i), item);
+        items.emplace_back(model->GetPointValue(i), item);
     }
-    std::sort(m_Items.begin(), m_Items.end(), [](auto const& a, auto const& b) { return a.first < b.first; });
+    if (!alive || reading != m_Readings)
+        return;
+    std::sort(items.begin(), items.end(), [](auto const& a, auto const& b) { return IsBefore(a.first, b.first); });
+    m_Items = std::move(items);
 }
 
 int CSlider::GetPointCount() const
@@ -89,11 +103,13 @@ double CSlider::GetPointValue(int point) const
 {
     if (!m_Items.empty())
         return point >= 0 && point < GetPointCount() ? m_Items[static_cast<std::size_t>(point)].first : 0.0;
+    CAliveGuard const alive(this);
     int const length = GetTrackLength();
     if (length <= 1)
         return 0.0;
     double const low = m_Model->GetMinValue();
-    return low + point * (m_Model->GetMaxValue() - low) / (length - 1);
+    double const high = alive ? m_Model->GetMaxValue() : low;
+    return low + point * (high - low) / (length - 1);
 }
 
 std::string CSlider::GetPointCaption(int point) const
@@ -107,12 +123,15 @@ std::string CSlider::GetPointCaption(int point) const
 
 rectangle<int> CSlider::GetTrack() const
 {
-    return m_DrawingModel->GetSlotRect(detail::ToDouble(GetBounds()), const_cast<CSlider*>(this));
+    return m_DrawingModel->GetSlotRect(ToDouble(GetBounds()), const_cast<CSlider*>(this));
 }
 
 int CSlider::GetTrackLength() const
 {
+    CAliveGuard const alive(this);
     rectangle<int> const track = GetTrack();
+    if (!alive)
+        return 0;
     return ToInt(GetAlong(SubtractSaturated(track.right, track.left), SubtractSaturated(track.bottom, track.top)));
 }
 
@@ -129,7 +148,11 @@ int CSlider::CalcPosByPoint(int point) const
     if (point < 0 || point >= GetPointCount())
         return 0;
     double const value = m_Items[static_cast<std::size_t>(point)].first;
-    return ToInt(GetTrackLength() * (value / (m_Model->GetMaxValue() - m_Model->GetMinValue())));
+    CAliveGuard const alive(this);
+    double const high = m_Model->GetMaxValue();
+    double const low = alive ? m_Model->GetMinValue() : 0.0;
+    int const length = alive ? GetTrackLength() : 0;
+    return ToInt(length * (value / (high - low)));
 }
 
 int CSlider::CalcPointByPos(int position)
@@ -147,11 +170,14 @@ int CSlider::CalcPointByPos(int position)
 
 rectangle<int> CSlider::CalcPointerRect(rectangle<int> const& track) const
 {
+    CAliveGuard const alive(this);
     size<int> const pointer = m_DrawingModel->GetPointerSize(const_cast<CSlider*>(this));
+    int const position = alive ? CalcPosByPoint(m_Pos) : 0;
+    if (!alive)
+        return {};
     int const along = ToInt(GetAlong(pointer.width, pointer.height));
     int const across = ToInt(GetAcross(pointer.width, pointer.height));
-    double const alongStart =
-        static_cast<double>(ToInt(GetAlong(track.left, track.top))) + CalcPosByPoint(m_Pos) - along / 2;
+    double const alongStart = static_cast<double>(ToInt(GetAlong(track.left, track.top))) + position - along / 2;
     int const thickness =
         ToInt(GetAcross(SubtractSaturated(track.right, track.left), SubtractSaturated(track.bottom, track.top)));
     double const acrossStart = thickness * 0.5 + ToInt(GetAcross(track.left, track.top)) - across / 2;
@@ -163,10 +189,10 @@ rectangle<int> CSlider::CalcPointerRect(rectangle<int> const& track) const
 
 void CSlider::UpdateSliderPos(int position, bool tracking)
 {
-    if (position < 0 || position >= GetPointCount() || position == m_Pos)
+    CAliveGuard const alive(this);
+    if (position < 0 || position == m_Pos || position >= GetPointCount() || !alive)
         return;
     m_Pos = position;
-    CAliveGuard const alive(this);
     (tracking ? m_PosTracking : m_PosChanged)(this, static_cast<double>(position));
     if (alive)
         OnChange(this, utElement);
@@ -181,11 +207,19 @@ bool CSlider::HandleButtonDown(int x, int y, int, MouseButton button)
 {
     if (button != mbLeft)
         return false;
+    CAliveGuard const alive(this);
     rectangle<int> const track = GetTrack();
-    if (CalcPointerRect(track).Contains(x, y))
+    alive.Check();
+    bool const onPointer = CalcPointerRect(track).Contains(x, y);
+    alive.Check();
+    if (onPointer)
+    {
         CaptureMouse();
-    else
-        UpdateSliderPos(CalcPointByPos(GetOffset(track, x, y)), false);
+        return true;
+    }
+    int const point = CalcPointByPos(GetOffset(track, x, y));
+    alive.Check();
+    UpdateSliderPos(point, false);
     return true;
 }
 
@@ -193,13 +227,16 @@ bool CSlider::HandleMouseMove(int x, int y, int, MouseButton)
 {
     if (!IsCapturing())
         return true;
+    CAliveGuard const alive(this);
     rectangle<int> const track = GetTrack();
+    alive.Check();
     int const along = ToInt(GetAlong(x, y));
     int point = 0;
     if (along > GetAlong(track.right, track.bottom))
         point = GetPointCount() - 1;
     else if (along >= GetAlong(track.left, track.top))
         point = CalcPointByPos(GetOffset(track, x, y));
+    alive.Check();
     UpdateSliderPos(point, true);
     return true;
 }
@@ -226,7 +263,9 @@ bool CSlider::HandleKeyDown(int, int key)
         step = -1;
     else
         return false;
+    CAliveGuard const alive(this);
     int const last = GetPointCount() - 1;
+    alive.Check();
     UpdateSliderPos(std::max(0, std::min(AddSaturated(m_Pos, step), last)), false);
     return true;
 }
@@ -275,18 +314,21 @@ void CSlider::DrawContent(IPainter* painter)
     if (!alive)
         return;
     // A look may draw more than a small slider has room for.
-    CClipHolder const clip(painter, detail::ToDouble(GetBounds()));
+    CClipHolder const clip(painter, ToDouble(GetBounds()));
     rectangle<int> const track = GetTrack();
-    m_DrawingModel->OnDrawSlot(painter, detail::ToDouble(track), state, this);
-    rectangle<int> const pointer = CalcPointerRect(track);
-    m_DrawingModel->OnDrawPointer(painter, detail::ToDouble(pointer), state, this);
-    DrawCaptions(painter, track, pointer, state);
+    if (alive)
+        m_DrawingModel->OnDrawSlot(painter, ToDouble(track), state, this);
+    rectangle<int> const pointer = alive ? CalcPointerRect(track) : rectangle<int>();
+    if (alive)
+        m_DrawingModel->OnDrawPointer(painter, ToDouble(pointer), state, this);
+    if (alive)
+        DrawCaptions(painter, track, pointer, state);
 }
 
 void CSlider::DrawCaptions(IPainter* painter, rectangle<int> const& track, rectangle<int> const& pointer, int state)
 {
     // The text's height is the measure of both directions.
-    int const length = ToInt(painter->GetTextSize("W", nullptr).height) + detail::Scaled(g_CaptionGap);
+    int const length = ToInt(painter->GetTextSize("W", nullptr).height) + ToDevicePixels(g_CaptionGap);
     rectangle<int> const bounds = GetBounds();
     double const bandStart = GetAcross(pointer.right, pointer.bottom) + 1.0;
     double const bandEnd = GetAcross(bounds.right, bounds.bottom);
@@ -295,26 +337,41 @@ void CSlider::DrawCaptions(IPainter* painter, rectangle<int> const& track, recta
     _color const ownColor = GetFgColor();
     _color const ownBackground = GetBkColor();
 
+    // A look or a model may exchange the points, or end the slider: what is drawn is then of no use.
+    CAliveGuard const alive(this);
+    unsigned const reading = m_Readings;
+    auto const isOver = [&] { return !alive || reading != m_Readings; };
     for (int i = 0; i < static_cast<int>(m_Items.size()); ++i)
     {
-        SItem& item = m_Items[static_cast<std::size_t>(i)].second;
+        int const index = m_Items[static_cast<std::size_t>(i)].second.index;
         font textFont = ownFont;
         _color color = ownColor;
         _color background = ownBackground;
         int pointState = state;
-        m_DrawingModel->GetAttr(item.index, textFont, color, background, pointState);
+        m_DrawingModel->GetAttr(index, textFont, color, background, pointState);
         painter->SetFont(textFont);
         painter->SetTextColor(color);
         painter->SetBkColor(background);
         painter->SetBrush({background, brush::bsSolid});
+        if (isOver())
+            return;
 
         double const start = CalcPosByPoint(i) + trackStart - length / 2;
+        if (isOver())
+            return;
         rectangle<double> place = MakeRect(start, bandStart, start + length, bandEnd);
-        m_DrawingModel->GetContentRect(item.index, pointState, place, this);
+        m_DrawingModel->GetContentRect(index, pointState, place, this);
+        if (isOver())
+            return;
+        SItem& item = m_Items[static_cast<std::size_t>(i)].second;
         item.start = ToInt(GetAlong(place.left, place.top) - trackStart);
         item.end = ToInt(GetAlong(place.right, place.bottom) - trackStart);
-        m_DrawingModel->OnDrawPointCaption(painter, place, item.index, pointState,
-                                           m_Model->GetPointCaption(item.index), this);
+        std::string const caption = m_Model->GetPointCaption(index);
+        if (isOver())
+            return;
+        m_DrawingModel->OnDrawPointCaption(painter, place, index, pointState, caption, this);
+        if (isOver())
+            return;
     }
 }
 

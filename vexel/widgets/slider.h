@@ -45,8 +45,8 @@ public:
     void SetSliderPos(int position) { UpdateSliderPos(position, false); }
     /// A position that doesn't exist, or the present one, changes nothing.
     void UpdateSliderPos(int position, bool tracking);
-    int GetPointCount() const;                ///< Without points the length of the track.
-    double GetPointValue(int point) const;    ///< 0 for points that don't exist.
+    int GetPointCount() const;              ///< Without points the length of the track.
+    double GetPointValue(int point) const;  ///< 0 for points that don't exist.
     std::string GetPointCaption(int point) const;
 
     // Models: not owned; null means the shared default ------------------------------------------------------------------------
@@ -93,6 +93,7 @@ private:
     ISliderModel* m_Model = &s_DefSliderModel;
     ISliderDrawingModel* m_DrawingModel = &s_DefSliderDrawingModel;
     std::vector<std::pair<double, SItem>> m_Items;
+    unsigned m_Readings = 0;  // of the model's points
 };
 
 }  // namespace vexel

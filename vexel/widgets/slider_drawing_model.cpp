@@ -1,8 +1,8 @@
 #include "vexel/widgets/slider_drawing_model.h"
 
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/core/types.h"
 #include "vexel/platform/border.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 
 namespace vexel
@@ -38,7 +38,7 @@ CDefSliderDrawingModel s_DefSliderDrawingModel;
 
 void CDefSliderDrawingModel::GetContentRect(int, int, rectangle<double>& rect, ILayout* layout) const
 {
-    MoveAcrossStart(rect, OrDefault(layout), detail::Scaled(g_CaptionGap));
+    MoveAcrossStart(rect, OrDefault(layout), ToDevicePixels(g_CaptionGap));
 }
 
 void CDefSliderDrawingModel::OnDrawPointCaption(IPainter* painter, rectangle<double> const& rect, int, int,
@@ -48,15 +48,15 @@ void CDefSliderDrawingModel::OnDrawPointCaption(IPainter* painter, rectangle<dou
         return;
     painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
     rectangle<double> place = rect;
-    MoveAcrossStart(place, OrDefault(layout), detail::Scaled(g_TextGap));
+    MoveAcrossStart(place, OrDefault(layout), ToDevicePixels(g_TextGap));
     int const flags = OrDefault(layout).ConvTextAlign(g_TextFlags) | IPainter::AlignFitText;
     painter->DrawStringEx(place, caption.c_str(), flags, -1, " \n", nullptr);
 }
 
 size<int> CDefSliderDrawingModel::GetPointerSize(ILayout* layout) const
 {
-    double const width = detail::Scaled(g_PointerSize.width);
-    double const height = detail::Scaled(g_PointerSize.height);
+    double const width = ToDevicePixels(g_PointerSize.width);
+    double const height = ToDevicePixels(g_PointerSize.height);
     ILayout const& used = OrDefault(layout);
     return {ToInt(used.GetAlong(width, height)), ToInt(used.GetAcross(width, height))};
 }
@@ -73,8 +73,8 @@ rectangle<int> CDefSliderDrawingModel::GetSlotRect(rectangle<double> const& boun
     size<int> const pointer = GetPointerSize(&OrDefault(layout));
     int const along = ToInt(used.GetAlong(pointer.width, pointer.height));
     int const across = ToInt(used.GetAcross(pointer.width, pointer.height));
-    int const thickness = detail::Scaled(g_SlotThickness);
-    double const end = static_cast<double>(detail::Scaled(g_SlotMargin)) + along;
+    int const thickness = ToDevicePixels(g_SlotThickness);
+    double const end = static_cast<double>(ToDevicePixels(g_SlotMargin)) + along;
 
     rectangle<double> slot = bounds;
     used.GetAlongRef(slot.left, slot.top) += end;

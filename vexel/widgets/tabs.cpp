@@ -5,6 +5,7 @@
 #include "vexel/core/measure_bracket.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/sys_window.h"
+#include "vexel/widgets/detail/system_color.h"
 
 namespace vexel
 {
@@ -24,12 +25,6 @@ template <class T> int GetSlant(rectangle<T> const& content)
 double GetTextWidth(IPainter& painter, std::string const& text)
 {
     return painter.GetTextSize(text, nullptr).width;
-}
-
-_color GetSystemColor(ISysPalette::SysColor number)
-{
-    ISysPalette const* const palette = GetSysPalette();
-    return palette ? palette->GetColor(number) : GetDefaultPalette()->GetColor(number);
 }
 
 void SetPenColor(IPainter& painter, _color const& color)
@@ -57,11 +52,11 @@ CTabs::CTabs(CVisualElement* parent, size<int> const& extent, Alignment alignmen
 void CTabs::TakeSystemColors()
 {
     if (!m_OwnActiveColor)
-        m_ActiveColor = GetSystemColor(ISysPalette::scWindow);
+        m_ActiveColor = detail::GetSystemColor(ISysPalette::scWindow);
     if (!m_OwnInactiveColor)
-        m_InactiveColor = GetSystemColor(ISysPalette::scFace);
+        m_InactiveColor = detail::GetSystemColor(ISysPalette::scFace);
     bool const isDefault = m_DefaultBkColor == _color() || GetBkColor() == m_DefaultBkColor;
-    m_DefaultBkColor = GetSystemColor(ISysPalette::scFace).Lighter(g_BkLightening);
+    m_DefaultBkColor = detail::GetSystemColor(ISysPalette::scFace).Lighter(g_BkLightening);
     if (isDefault)
         SetBkColor(m_DefaultBkColor);
 }
@@ -118,9 +113,9 @@ void CTabs::ModelDies(IItemsModel*)
 
 void CTabs::SetCurrentTab(int tab)
 {
-    if (tab == m_CurrentTab || tab < 0 || tab >= GetTabCount())
-        return;
     CAliveGuard const alive(this);
+    if (tab == m_CurrentTab || tab < 0 || tab >= GetTabCount() || !alive)
+        return;
     bool allowed = true;
     m_TabChanging(this, m_CurrentTab, tab, &allowed);
     if (!alive || !allowed)
@@ -128,7 +123,7 @@ void CTabs::SetCurrentTab(int tab)
     m_CurrentTab = tab;
     if (tab < m_FirstVisibleTab)
         SetFirstVisibleTab(tab);
-    else if (GetLastVisibleTab() < tab)
+    else if (GetLastVisibleTab() < tab && alive)
         SetLastVisibleTab(tab);
     if (!alive)
         return;
@@ -139,7 +134,8 @@ void CTabs::SetCurrentTab(int tab)
 
 void CTabs::SetFirstVisibleTab(int tab)
 {
-    if (tab == m_FirstVisibleTab || tab < 0 || tab >= GetTabCount())
+    CAliveGuard const alive(this);
+    if (tab == m_FirstVisibleTab || tab < 0 || tab >= GetTabCount() || !alive)
         return;
     m_FirstVisibleTab = tab;
     OnChange(this, utElement);
@@ -151,9 +147,16 @@ IPainter* CTabs::FindPainter() const
     return window ? window->GetPainter() : nullptr;
 }
 
+// Empty if the model has died while it was asked for something else.
+std::string CTabs::GetTabText(int tab) const
+{
+    return m_Items ? m_Items->GetItemCaption(tab) : std::string();
+}
+
 int CTabs::GetTabWidth(IPainter* painter, int tab) const
 {
-    return GetSlant(GetContentRect()) + ToInt(GetTextWidth(*painter, m_Items->GetItemCaption(tab))) + g_TextMargin;
+    int const slant = GetSlant(GetContentRect());
+    return slant + ToInt(GetTextWidth(*painter, GetTabText(tab))) + g_TextMargin;
 }
 
 int CTabs::GetLastVisibleTab() const
@@ -161,15 +164,15 @@ int CTabs::GetLastVisibleTab() const
     IPainter* const painter = FindPainter();
     if (!painter)
         return -1;
+    CAliveGuard const alive(this);
     CMeasureBracket const measuring(painter, GetFont());
     rectangle<int> const content = GetContentRect();
     int room = SubtractSaturated(content.right, content.left);
     int last = -1;
-    int const count = GetTabCount();
-    for (int tab = m_FirstVisibleTab; tab < count; ++tab)
+    for (int tab = m_FirstVisibleTab; tab < GetTabCount() && alive; ++tab)
     {
         room = SubtractSaturated(room, GetTabWidth(painter, tab));
-        if (room < 0)
+        if (room < 0 || !alive)
             break;
         last = tab;
     }
@@ -179,7 +182,8 @@ int CTabs::GetLastVisibleTab() const
 void CTabs::SetLastVisibleTab(int tab)
 {
     IPainter* const painter = FindPainter();
-    if (!painter || tab < 0 || tab >= GetTabCount())
+    CAliveGuard const alive(this);
+    if (!painter || tab < 0 || tab >= GetTabCount() || !alive)
         return;
     int first = -1;
     {
@@ -189,6 +193,8 @@ void CTabs::SetLastVisibleTab(int tab)
         for (int candidate = tab; candidate >= 0; --candidate)
         {
             room = SubtractSaturated(room, GetTabWidth(painter, candidate));
+            if (!alive)
+                return;
             if (room < 0)
                 break;
             first = candidate;
@@ -204,7 +210,7 @@ void CTabs::SetLastVisibleTab(int tab)
 
 void CTabs::DrawContent(IPainter* painter)
 {
-    SetPenColor(*painter, GetSystemColor(ISysPalette::scShadow));
+    SetPenColor(*painter, detail::GetSystemColor(ISysPalette::scShadow));
     rectangle<int> const bounds = GetBounds();
     painter->FillRect(bounds.left, bounds.top, bounds.right, bounds.bottom);
     painter->MoveTo(0, 0);
@@ -219,7 +225,7 @@ void CTabs::DrawContent(IPainter* painter)
     rectangle<double> const content = GetDrawRect(painter);
     int const room = ToInt(content.right - content.left);
     int x = 0;
-    for (int tab = m_FirstVisibleTab; alive && tab < GetTabCount() && x < room; ++tab)
+    for (int tab = m_FirstVisibleTab; tab < GetTabCount() && alive && x < room; ++tab)
     {
         int const advance = DrawTab(painter, tab, x);
         if (!alive || advance >= SubtractSaturated(room, x))
@@ -242,7 +248,10 @@ int CTabs::DrawTab(IPainter* painter, int tab, int x)
 {
     rectangle<double> const content = GetDrawRect(painter);
     int const slant = GetSlant(content);
-    std::string const text = m_Items->GetItemCaption(tab);
+    CAliveGuard const alive(this);
+    std::string const text = GetTabText(tab);
+    if (!alive || !m_Items)
+        return 0;
     double const textWidth = GetTextWidth(*painter, text);
     double const width = textWidth + g_TextMargin;
     double const left = x;
@@ -262,8 +271,11 @@ int CTabs::DrawTab(IPainter* painter, int tab, int x)
     else
     {
         // Tucked under its left neighbour.
-        point<double> const corners[] = {
-            {start, 0}, {slant * 0.5 + left, static_cast<double>(slant)}, {start, foot}, {start + width, foot}, {end, 0}};
+        point<double> const corners[] = {{start, 0},
+                                         {slant * 0.5 + left, static_cast<double>(slant)},
+                                         {start, foot},
+                                         {start + width, foot},
+                                         {end, 0}};
         painter->Polygon(corners, 5);
     }
     if (current)
@@ -271,7 +283,7 @@ int CTabs::DrawTab(IPainter* painter, int tab, int x)
         SetPenColor(*painter, m_ActiveColor);
         painter->MoveTo(left + 1, 0);
         painter->LineTo(end - 1, 0);
-        SetPenColor(*painter, GetSystemColor(ISysPalette::scShadow));
+        SetPenColor(*painter, detail::GetSystemColor(ISysPalette::scShadow));
     }
     double const textLeft = ToInt(start);
     painter->DrawString({textLeft, content.top, textLeft + width, content.bottom - 1}, text, g_TextFlags, -1);
@@ -285,19 +297,22 @@ int CTabs::HitTest(point<int> const& position)
     IPainter* const painter = FindPainter();
     if (!painter)
         return -1;
+    CAliveGuard const alive(this);
     CMeasureBracket const measuring(painter, GetFont());
-    if (m_Items && FirstTabHitTest(position, painter, m_FirstVisibleTab - 1))
-        return m_FirstVisibleTab - 1;
+    int const hidden = m_FirstVisibleTab - 1;
+    if (m_Items && FirstTabHitTest(position, painter, hidden))
+        return hidden;
+    if (!alive)
+        return -1;
     rectangle<int> const content = GetContentRect();
     if (content.right <= content.left)
         return -1;
     int x = 0;
-    int const count = GetTabCount();
-    for (int tab = m_FirstVisibleTab; tab < count; ++tab)
+    for (int tab = m_FirstVisibleTab; tab < GetTabCount() && alive; ++tab)
     {
         if (TabHitTest(position, painter, tab, &x))
             return tab;
-        if (position.x < 0)
+        if (position.x < 0 || !alive)
             return -1;
     }
     return -1;
@@ -309,8 +324,11 @@ bool CTabs::TabHitTest(point<int> const& position, IPainter* painter, int tab, i
     int const slant = GetSlant(content);
     int const before = *x;
     int const start = AddSaturated(slant, before);
-    int const end = AddSaturated(start, ToInt(GetTextWidth(*painter, m_Items->GetItemCaption(tab))) + g_TextMargin);
+    CAliveGuard const alive(this);
+    int const end = AddSaturated(start, ToInt(GetTextWidth(*painter, GetTabText(tab))) + g_TextMargin);
     *x = end;
+    if (!alive)
+        return false;
 
     if (position.x >= start && position.x <= end && position.y >= content.top && position.y <= content.bottom - 1)
         return true;
@@ -339,7 +357,8 @@ bool CTabs::HandleButtonDown(int x, int y, int, MouseButton)
 {
     if (!m_Items)
         return false;
-    if (int const tab = HitTest({x, y}); tab != -1)
+    CAliveGuard const alive(this);
+    if (int const tab = HitTest({x, y}); tab != -1 && alive)
         SetCurrentTab(tab);
     return true;
 }
@@ -347,10 +366,12 @@ bool CTabs::HandleButtonDown(int x, int y, int, MouseButton)
 std::string CTabs::HandleAsString() const
 {
     std::string result;
-    int const count = GetTabCount();
-    for (int tab = 0; tab < count; ++tab)
+    CAliveGuard const alive(this);
+    for (int tab = 0; tab < GetTabCount() && alive; ++tab)
     {
-        std::string const text = m_Items->GetItemCaption(tab);
+        std::string const text = GetTabText(tab);
+        if (!alive)
+            break;
         if (tab > 0)
             result += '\t';
         result += tab == m_CurrentTab ? "[" + text + "]" : text;

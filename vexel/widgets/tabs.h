@@ -10,8 +10,7 @@ namespace vexel
 /// A strip of slanted tabs that hang from its top edge and overlap each other. It tells which one is current and holds no
 /// pages. The tabs that have room are shown from the first visible one on; of the one before that a sliver shows. A press
 /// of any button makes a tab current. Tabs are as wide as their text; half of a tab's height is its slant.
-class VEXEL_API CTabs : public CVisualElement,
-                        public CLayoutFlavor
+class VEXEL_API CTabs : public CVisualElement, public CLayoutFlavor
 {
 public:
     CTabs(CVisualElement* parent, size<int> const& extent, Alignment alignment);
@@ -29,8 +28,8 @@ public:
     void SetCurrentTab(int tab);  ///< Scrolls it into view. A tab that doesn't exist changes nothing.
     int GetFirstVisibleTab() const { return m_FirstVisibleTab; }
     void SetFirstVisibleTab(int tab);
-    int GetLastVisibleTab() const;     ///< The last one that fits entirely; -1: none, or there is no window.
-    void SetLastVisibleTab(int tab);   ///< Scrolls so that this one is the last that fits, if it fits at all.
+    int GetLastVisibleTab() const;            ///< The last one that fits entirely; -1: none, or there is no window.
+    void SetLastVisibleTab(int tab);          ///< Scrolls so that this one is the last that fits, if it fits at all.
     int HitTest(point<int> const& position);  ///< Own pixels; -1: none.
 
     // Look: system colours at first, which follow the desktop ------------------------------------------------------------------
@@ -45,7 +44,8 @@ public:  // From CVisualElement
     void SetCoordSystem(IPainter*) override {}
     void SysColorsChanged() override;
     bool HandleButtonDown(int x, int y, int keys, MouseButton button) override;
-    std::string HandleAsString() const override;  ///< The texts with tab characters between, the current one in brackets.
+    /// The texts with tab characters between, the current one in brackets.
+    std::string HandleAsString() const override;
 
 public:  // Overridable: x is where a tab begins, counted from the strip's left edge; texts in the painter's font
     /// Returns how far the next one is.
@@ -57,6 +57,7 @@ public:  // Overridable: x is where a tab begins, counted from the strip's left 
     virtual int GetTabWidth(IPainter* painter, int tab) const;
 
 private:
+    std::string GetTabText(int tab) const;
     int GetTabCount() const { return m_Items ? m_Items->GetItemCount() : 0; }
     void SetColor(_color& member, bool& own, _color const& color);
     void TakeSystemColors();
