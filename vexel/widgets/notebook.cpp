@@ -114,6 +114,11 @@ void CNotebook::SetPos(rectangle<int> const& rect, bool force)
         m_Shown->SetPos(GetBounds(), false);
 }
 
+bool CNotebook::IsTransparent() const
+{
+    return !m_Shown || !IsShown(m_Shown.get()) || !m_Shown->IsVisible();
+}
+
 void CNotebook::AddNewChild(CVisualElement* child)
 {
     CAliveGuard const alive(this);

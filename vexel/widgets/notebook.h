@@ -32,6 +32,7 @@ public:
 public:  // From CVisualElement
     void SetPos(rectangle<int> const& rect, bool force) override;
     void DrawContent(IPainter*) override {}
+    bool IsTransparent() const override;  ///< Without a page that shows.
     void AddNewChild(CVisualElement* child) override;
     void ProcessRearrange(CVisualElement** element) override;  ///< A hidden page asks for no layout.
 
