@@ -41,10 +41,13 @@ void CEventLogPage::Build(CVisualElement* parent)
     AddButton(row, "A line")->m_Clicked.connect(this, &CEventLogPage::AddLine);
     AddButton(row, "100,000 lines")->m_Clicked.connect(this, &CEventLogPage::AddMany);
     AddButton(row, "A box below")->m_Clicked.connect(this, &CEventLogPage::AddBox);
-    AddButton(row, "Clear")->m_Clicked.connect(this, &CEventLogPage::Clear);
+    CButton* const clear = AddButton(row, "Clear");
+    clear->m_Clicked.connect(this, &CEventLogPage::Clear);
+    Report(clear->m_Clicked, "clear.clicked");
     auto* const follow = new CToggle(row, {160, 0}, alLeft, "Follow the end");
     follow->SetOn(true);
     follow->m_SigToggled.connect(this, &CEventLogPage::FollowToggled);
+    Report(follow->m_SigToggled, "follow");
     new CPanel(parent, {0, 10}, alTop);
 
     auto* const view = new CScrollContainer(parent, {0, 0}, alClient);
