@@ -72,6 +72,7 @@ public:
     {
         auto* const view = new CScrollContainer(m_Window.Root(), {0, 0}, alClient);
         view->GetCentralPart().SetFitMode(CScrollContainer::fmWidth);
+        view->GetCentralPart().SetFillAroundChild(true);
         m_Log = new CEventLog(nullptr, {10, 10}, alNone);
         view->SetScrolled(m_Log);
         m_Log->SetAutoScroll(true);

@@ -120,6 +120,7 @@ void CWorkbench::BuildLog(CVisualElement* parent)
     m_LogPane = new CVisualElement(parent, {0, m_State.logHeight}, alBottom);
     auto* const view = new CScrollContainer(m_LogPane, {0, 0}, alClient);
     view->GetCentralPart().SetFitMode(CScrollContainer::fmWidth);
+    view->GetCentralPart().SetFillAroundChild(true);
     m_Log = new CEventLog(nullptr, {10, 10}, alNone);
     view->SetScrolled(m_Log);
     m_Log->SetAutoScroll(m_State.follow);

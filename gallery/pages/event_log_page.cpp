@@ -52,6 +52,7 @@ void CEventLogPage::Build(CVisualElement* parent)
 
     auto* const view = new CScrollContainer(parent, {0, 0}, alClient);
     view->GetCentralPart().SetFitMode(CScrollContainer::fmWidth);
+    view->GetCentralPart().SetFillAroundChild(true);
     m_Log = new CEventLog(nullptr, {10, 10}, alNone);
     view->SetScrolled(m_Log);
     m_Log->SetBkColor(ISysPalette::scWindow);
