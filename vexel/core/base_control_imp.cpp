@@ -179,6 +179,14 @@ void CBaseControlImp::UpdateElement(CVisualElement* element, UpdateType type)
     InvalidateWindow();
 }
 
+std::vector<CVisualElement*> CBaseControlImp::ListItems(CElementList& list)
+{
+    std::vector<CVisualElement*> items;
+    for (int i = 0; i < list.GetCount(); ++i)
+        items.push_back(list.GetItem(i));
+    return items;
+}
+
 // No list and none of the remembered pointers has the element afterwards.
 void CBaseControlImp::Forget(CVisualElement* element)
 {
