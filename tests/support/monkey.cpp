@@ -284,9 +284,10 @@ private:
         switch (m_Random.Index(14))
         {
         case 0:
-            return m_Resizes
-                       ? Say("resize", m_Random.Int(least.width, most.width), m_Random.Int(least.height, most.height))
-                       : Say("focus");
+        {
+            size<int> const extent{m_Random.Int(least.width, most.width), m_Random.Int(least.height, most.height)};
+            return m_Resizes ? Say("resize", extent.width, extent.height) : Say("focus");
+        }
         case 1:
             return m_Resizes ? Say("resize", most.width, most.height) : Say("focus");
         case 2:
