@@ -107,8 +107,8 @@ std::string CMonkeyChecks::FindPending() const
 {
     for (memory::CMemoryWindow const* const window : CTestHost::System().GetWindows())
     {
-        CBaseControlImp* const control =
-            window->IsNodeVisible() && !window->IsDrawingLocked() ? FindControl(*window) : nullptr;
+        bool const painted = window->IsNodeVisible() && !window->IsDrawingLocked() && !window->GetRect().IsEmpty();
+        CBaseControlImp* const control = painted ? FindControl(*window) : nullptr;
         if (!control)
             continue;
         if (window->IsFramePending())
