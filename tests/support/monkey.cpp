@@ -8,9 +8,10 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <set>
-#include <sstream>
 
 namespace vexel::test
 {
@@ -116,7 +117,7 @@ public:
             Fail(m_Checks.FindPending());
         }
         else if (verb == "change")
-            m_Scene->Change(std::stoull(line.substr(verb.size())));
+            m_Scene->Change(std::strtoull(line.c_str() + verb.size(), nullptr, 10));
         else if (verb == "lost")
             host.Window().LoseSurface();
         else if (verb == "compare")

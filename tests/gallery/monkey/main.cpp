@@ -158,18 +158,17 @@ double SecondsSince(std::chrono::steady_clock::time_point start)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// What there is to see at once: of a stack, where it is our own, and no more than a screen.
+/// What there is to see at once: of a stack that a sanitizer printed, where it is our own, and no more than a screen.
 std::string Shortly(std::string const& failure)
 {
+    bool const stack = failure.find("\n    #0 0x") != std::string::npos;
     std::istringstream lines(failure);
     std::string text, line;
     for (int count = 0; count < 12 && std::getline(lines, line);)
     {
-        bool const stack = line.find("    #") != std::string::npos;
-        if (count > 0 && failure.find("\n    #") != std::string::npos &&
-            (!stack || line.find("/vexel/") == std::string::npos))
-            continue;
-        text += (count++ ? "  " : "") + line + "\n";
+        bool const own = line.find("    #") == 0 && line.find("/vexel/") != std::string::npos;
+        if (count == 0 || !stack || own)
+            text += (count++ ? "  " : "") + line + "\n";
     }
     return text;
 }
@@ -216,7 +215,7 @@ int Replay(SOptions const& options)
                                                                  ("vexel-monkey-" + std::to_string(getpid()) + ".log"))
                                                                     .string());
     std::printf("%s: %s%s\n", options.file.c_str(),
-                result.IsGood() ? "nothing failed" : "FAILED: ", Shortly(result.failure).c_str());
+                result.IsGood() ? "nothing failed" : "FAILED: ", result.failure.c_str());
     return result.IsGood() ? 0 : 1;
 }
 
