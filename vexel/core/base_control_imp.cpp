@@ -181,9 +181,9 @@ void CBaseControlImp::UpdateElement(CVisualElement* element, UpdateType type)
 
 std::vector<CVisualElement*> CBaseControlImp::ListItems(CElementList& list)
 {
-    std::vector<CVisualElement*> items;
-    for (int i = 0; i < list.GetCount(); ++i)
-        items.push_back(list.GetItem(i));
+    std::vector<CVisualElement*> items(static_cast<std::size_t>(list.GetCount()));
+    for (std::size_t i = 0; i < items.size(); ++i)
+        items[i] = list.GetItem(static_cast<int>(i));
     return items;
 }
 
