@@ -9,10 +9,12 @@
 #include "gallery/pages/captions_page.h"
 #include "gallery/pages/chart_page.h"
 #include "gallery/pages/choices_page.h"
+#include "gallery/pages/configuration_page.h"
 #include "gallery/pages/docking_page.h"
 #include "gallery/pages/drag_drop_page.h"
 #include "gallery/pages/dropdowns_page.h"
 #include "gallery/pages/edges_page.h"
+#include "gallery/pages/event_log_page.h"
 #include "gallery/pages/expanders_page.h"
 #include "gallery/pages/flashing_page.h"
 #include "gallery/pages/flow_grid_page.h"
@@ -26,7 +28,9 @@
 #include "gallery/pages/lines_page.h"
 #include "gallery/pages/list_boxes_page.h"
 #include "gallery/pages/lists_page.h"
+#include "gallery/pages/messages_page.h"
 #include "gallery/pages/native_controls_page.h"
+#include "gallery/pages/notebook_page.h"
 #include "gallery/pages/overlap_page.h"
 #include "gallery/pages/painter_page.h"
 #include "gallery/pages/panes_page.h"
@@ -36,7 +40,10 @@
 #include "gallery/pages/round_buttons_page.h"
 #include "gallery/pages/scrolling_page.h"
 #include "gallery/pages/selection_page.h"
+#include "gallery/pages/slanted_tabs_page.h"
+#include "gallery/pages/sliders_page.h"
 #include "gallery/pages/splitter_page.h"
+#include "gallery/pages/stages_page.h"
 #include "gallery/pages/strips_page.h"
 #include "gallery/pages/tab_pane_page.h"
 #include "gallery/pages/tooltip_page.h"
@@ -112,7 +119,8 @@ SPage const g_Pages[] = {
     {"selection", "Selection", "Click, Shift and Control, Control+A, Space; drag past the edge.",
      &Make<CSelectionPage>},
     {"grid", "A grid of two billion rows",
-     "Scroll, click, shift-click, drag past the edge; resize, drag and click the sections of the header.",
+     "Scroll, click, drag past the edge; resize, drag and click the sections of the header; rest on a cell for its "
+     "tip.",
      &Make<CGridPage>},
     {"header", "Headers of several levels",
      "Expand groups, sort by a click, resize, drag a section among its siblings; double-click a grip for the best "
@@ -135,6 +143,18 @@ SPage const g_Pages[] = {
     {"expanders", "Expanders", "Click the titles: bodies open and close in steps, one of them at once.",
      &Make<CExpandersPage>},
     {"gauges", "Gauges", "Press the buttons to move the bars.", &Make<CGaugesPage>},
+    {"slanted_tabs", "Slanted tabs", "Click the tabs; a sliver at the left leads back to the ones before.",
+     &Make<CSlantedTabsPage>},
+    {"notebook", "Notebook", "One page at a time. Pages are added, removed and replaced.", &Make<CNotebookPage>},
+    {"sliders", "Sliders", "Drag the pointers, press beside them, or use the arrow keys.", &Make<CSlidersPage>},
+    {"messages", "Message boxes", "Boxes that are elements, with pictures, buttons and a gauge. Answer the first one.",
+     &Make<CMessagesPage>},
+    {"eventlog", "Event log", "Add lines: the view follows the end until you scroll away from it.",
+     &Make<CEventLogPage>},
+    {"stages", "Check stages", "A chain of checks, each with its box. Answer them, or switch the causes off.",
+     &Make<CStagesPage>},
+    {"configuration", "Configuration viewer", "Click a category to open it; the editors scroll along.",
+     &Make<CConfigurationPage>},
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "table_view.h"
 
 #include "vexel/controls/bevel.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 #include "vexel/views/item_walks.h"
 
@@ -176,7 +177,7 @@ void CTableView::ShowState(CTableFile::SState const& state)
         return;
     m_Problems->SetCaption(text);
     int const lines = m_Problems->GetTextLineHeight() * static_cast<int>(problems.size());
-    m_Problems->SetHeight(lines + ToInt(s_ProblemsMargin * GetSystemScale()), false);
+    m_Problems->SetHeight(lines + ToDevicePixels(s_ProblemsMargin), false);
     m_Problems->SetVisible(!problems.empty());
     for (std::string const& problem : problems)
         Report("problem: " + problem);

@@ -10,12 +10,6 @@
 namespace gallery
 {
 
-rectangle<double> ToDouble(rectangle<int> const& rect)
-{
-    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.right),
-            static_cast<double>(rect.bottom)};
-}
-
 CPanel::CPanel(CVisualElement* parent, size<int> const& extent, Alignment alignment)
     : CVisualElement(parent, extent, alignment)
 {}

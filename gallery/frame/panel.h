@@ -2,6 +2,7 @@
 
 #include "vexel/core/transparent_flavor.h"
 #include "vexel/core/visual_element.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 
 #include <functional>
@@ -11,9 +12,6 @@ namespace gallery
 {
 
 using namespace vexel;
-
-/// The rectangle of an element for the painter: own pixels, edges included.
-rectangle<double> ToDouble(rectangle<int> const& rect);
 
 /// An area filled with its background colour, with a text that stands by the alignment flags.
 class CPanel : public CVisualElement

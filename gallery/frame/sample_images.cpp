@@ -1,6 +1,7 @@
 #include "gallery/frame/sample_images.h"
 
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/system.h"
 
@@ -18,7 +19,7 @@ public:
     int GetCount() const override { return 3; }
     size<int> GetSize(int index) const override
     {
-        int const side = ToInt(16 * GetSystemScale());
+        int const side = ToDevicePixels(16);
         return index >= 0 && index < GetCount() ? size<int>{side, side} : size<int>{};
     }
     void Draw(IPainter* painter, int index, double x, double y) override

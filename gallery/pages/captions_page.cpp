@@ -3,6 +3,7 @@
 #include "gallery/frame/panel.h"
 #include "vexel/controls/caption.h"
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/system.h"
 
 namespace gallery
@@ -55,7 +56,7 @@ void CCaptionsPage::Build(CVisualElement* parent)
             g_Left | g_VCenter);
     fitted->SetTooltipFromCaption(true);
     Add(grid, "No wider than ninety pixels, and wrapped there", g_Left | g_VCenter)
-        ->SetMaxTextWidth(ToInt(90 * GetSystemScale()));
+        ->SetMaxTextWidth(ToDevicePixels(90));
     Add(grid, "Transparent", g_HCenter | g_VCenter, 0)->SetTransparent(true);
 
     auto* const links = new CCaption(parent, {0, 30}, alTop);

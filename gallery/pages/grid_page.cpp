@@ -1,5 +1,6 @@
 #include "gallery/pages/grid_page.h"
 
+#include "vexel/core/control.h"
 #include "vexel/platform/system.h"
 #include "vexel/scroll/scroll_box.h"
 #include "vexel/views/item_walks.h"
@@ -21,6 +22,21 @@ CGridPage::CGridPage() : m_Columns(s_Columns) {}
 
 CGridPage::~CGridPage() = default;
 
+void CGridPage::CCellTips::GetTooltipAttr(CTooltipEvent* event)
+{
+    IDiscreteItemViewModel const* const rows = m_Grid->GetRowViewModel();
+    IDiscreteItemViewModel const* const columns = m_Grid->GetColumnViewModel();
+    int const row = Utils::HitTest(rows, event->m_Y);
+    int const column = Utils::HitTest(columns, event->m_X);
+    if (row < 0 || column < 0)
+        return;
+    event->m_Text = "Row " + std::to_string(row + 1LL) + ", column " + std::to_string(column + 1);
+    rectangle<int> const bounds = m_Grid->GetBounds();
+    range<int> const across = Utils::GetItemIndexRangeEx(columns, column, {0, bounds.right});
+    range<int> const along = Utils::GetItemIndexRangeEx(rows, row, {0, bounds.bottom});
+    event->m_HotRect = {across.first, along.first, across.second, along.second};
+}
+
 void CGridPage::Build(CVisualElement* parent)
 {
     m_Columns.SetItemCount(s_Columns);
@@ -41,6 +57,8 @@ void CGridPage::Build(CVisualElement* parent)
     columns->SetCount(s_Columns);
     columns->SetItemSize(0, static_cast<int>(90 * GetSystemScale()));
     m_Grid->GetRowHandler().SetNotifySelection(true);
+    m_Grid->AddEventHandler(&m_Tips);
+    m_Tips.SetWindow(parent->GetControl() ? parent->GetControl()->GetWindow() : nullptr);
 
     header->SetModel(&m_Columns);
     header->SetViewModel(columns);

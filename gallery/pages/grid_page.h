@@ -2,6 +2,7 @@
 
 #include "gallery/frame/page.h"
 #include "gallery/frame/table.h"
+#include "vexel/views/tooltip_event_handler.h"
 
 namespace gallery
 {
@@ -15,6 +16,19 @@ public:
     void Build(CVisualElement* parent) override;
 
 private:
+    /// Tells which cell the pointer rests on.
+    class CCellTips : public CTooltipEventHandler
+    {
+    public:
+        explicit CCellTips(CTextGrid*& grid) : m_Grid(grid) {}
+
+    protected:
+        void GetTooltipAttr(CTooltipEvent* event) override;
+
+    private:
+        CTextGrid*& m_Grid;  // the page's
+    };
+
     void SectionClicked(CSimpleHeader* header, int section);
     void SectionMoved(CSimpleHeader* header, int from, int to);
     void RowsChanged();
@@ -26,6 +40,7 @@ private:
 
     CTextHeaderModel m_Columns;
     CTextGrid* m_Grid = nullptr;
+    CCellTips m_Tips{m_Grid};
     range<int> m_Shown;
 };
 

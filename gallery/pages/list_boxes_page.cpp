@@ -2,6 +2,7 @@
 
 #include "gallery/frame/panel.h"
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/system.h"
 
 #include <limits>
@@ -56,7 +57,7 @@ void CListBoxesPage::Build(CVisualElement* parent)
     Report(links->m_SigItemClicked, "links.clicked");
     pane = AddColumn(top, "With images");
     auto* const pictured = new CPicturedList(pane, {0, 0}, alTop);
-    pictured->SetMinLineHeight(ToInt(18 * GetSystemScale()));
+    pictured->SetMinLineHeight(ToDevicePixels(18));
     pictured->SetModel(&m_Shapes);
     pictured->RecalcSize();
     Report(pictured->m_SigItemClicked, "pictured.clicked");
@@ -70,7 +71,7 @@ void CListBoxesPage::Build(CVisualElement* parent)
     pane = AddColumn(bottom, "Scrolls to the side");
     auto* const wide = new CListBox(pane, {0, 0}, alClient);
     wide->GetViewer().SetModel(&m_Long);
-    wide->GetViewer().SetLineWidth(ToInt(460 * GetSystemScale()));
+    wide->GetViewer().SetLineWidth(ToDevicePixels(460));
     Report(wide->GetViewer().m_SigItemActivated, "wide.activated");
     pane = AddColumn(bottom, "Lines drawn by the page");
     auto* const drawn = new CListBox(pane, {0, 0}, alClient);

@@ -3,6 +3,7 @@
 #include "gallery/frame/panel.h"
 #include "vexel/core/dpi.h"
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/system.h"
 #include "vexel/scroll/scroll_box.h"
 
@@ -16,7 +17,7 @@ namespace
 
 int Scaled(int value)
 {
-    return ToInt(value * GetSystemScale());
+    return ToDevicePixels(value);
 }
 
 // A quarter of the page: a caption, and below it a box for a list.

@@ -5,6 +5,7 @@
 #include "vexel/controls/image.h"
 #include "vexel/controls/picture_button.h"
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/system.h"
 
 #include <cmath>
@@ -39,7 +40,7 @@ char const* g_Lines[] = {
 /// A picture with a chequered ground and a diagonal.
 vexel_ptr<IRasterPicture> MakePicture(int color)
 {
-    int const side = ToInt(32 * GetSystemScale());
+    int const side = ToDevicePixels(32);
     vexel_ptr<IRasterPicture> picture = GetCurrentSystem()->CreateRasterPicture(size<int>{side, side});
     IPainter* const painter = picture->GetPainter();
     painter->BeginPaint(IPainter::ssPaint);
@@ -67,13 +68,13 @@ public:
     void NextFrame() override { m_Frame = (m_Frame + 1) % g_Dots; }
     size<int> GetSize() const override
     {
-        int const side = ToInt(40 * GetSystemScale());
+        int const side = ToDevicePixels(40);
         return {side, side};
     }
     void Draw(IPainter* painter, double x, double y) override
     {
         double const side = GetSize().width;
-        double const dot = ToInt(6 * GetSystemScale());
+        double const dot = ToDevicePixels(6);
         double const radius = (side - dot) / 2 - 1;
         for (int i = 0; i < g_Dots; ++i)
         {

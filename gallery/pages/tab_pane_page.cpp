@@ -5,6 +5,7 @@
 #include "vexel/core/clip_holder.h"
 #include "vexel/core/control.h"
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/system.h"
 
 #include <algorithm>
@@ -27,7 +28,7 @@ public:
     void NextFrame() override { m_Frame = (m_Frame + 1) % s_Dots; }
     size<int> GetSize() const override
     {
-        int const side = ToInt(16 * GetSystemScale());
+        int const side = ToDevicePixels(16);
         return {side, side};
     }
     void Draw(IPainter* painter, double x, double y) override
@@ -87,8 +88,8 @@ protected:
     {
         rectangle<int> const rect = GetBounds();
         CPanel::DrawContent(painter);
-        int const step = ToInt(12 * GetSystemScale());
-        painter->SetPen({color_table[27], pen::psSolid, ToInt(4 * GetSystemScale())});
+        int const step = ToDevicePixels(12);
+        painter->SetPen({color_table[27], pen::psSolid, ToDevicePixels(4)});
         CClipHolder const clip(painter, ToDouble(rect));  // lines are thicker than their ends
         for (int x = -rect.bottom; x < rect.right; x += step)
         {

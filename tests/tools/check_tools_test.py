@@ -119,7 +119,8 @@ class Text(unittest.TestCase):
 class Snippets(unittest.TestCase):
     def check(self, readme):
         tree = Tree({"README.md": readme, "examples/hello/main.cpp": "int main() {}\n", "vexel/low/a.h":
-                     "#pragma once\nnamespace vexel\n{\ninline int Two() { return 2; }\n} // namespace vexel\n"})
+                     "#pragma once\nnamespace vexel\n{\ninline int Two() { return 2; }\n} // namespace vexel\n",
+                     "vexel/testing/test_kit.h": "#pragma once\nnamespace vexel::test\n{\n}\n"})
         command = [{"directory": str(tree.root), "file": str(tree.root / "examples/hello/main.cpp"),
                     "command": f"env A=1 c++ -I{tree.root} -std=c++20 -o x -c main.cpp"}]
         (tree.root / "b").mkdir()
@@ -142,6 +143,41 @@ class Snippets(unittest.TestCase):
 
     def test_documents_without_any_code_are_no_success(self):
         self.assertEqual(self.check("# Title\n")[0], 1)
+
+    def test_a_piece_of_a_test_that_does_not_compile_is_found_with_its_place(self):
+        code, text = self.check("# Title\n\n```cpp test\nint const three = Three();\n```\n")
+        self.assertEqual(code, 1)
+        self.assertIn("README.md:4", text)
+        self.assertIn("1 pieces of a test program, 1 errors", text)
+
+
+class Links(unittest.TestCase):
+    def check(self, link, more="# A `title`, two\n\n# Again\n\n# Again\n"):
+        return Tree({"a/one.md": f"```\n[code](nowhere)\n```\n{link}\n", "a/two.md": more}).run("check_links.py")
+
+    def test_links_to_files_folders_and_headings_pass(self):
+        for link in ("two.md", "../a/two.md", "..", "two.md#a-title-two", "two.md#again-1", "https:" + "//www.w3.org/"):
+            code, text = self.check(f"[x]({link}) and [y](two.md)")
+            self.assertEqual(code, 0, text)
+
+    def test_a_link_to_a_file_that_is_not_there_is_found(self):
+        code, text = self.check("[x](three.md)")
+        self.assertEqual(code, 1)
+        self.assertIn("a/one.md:4: no such file: three.md", text)
+
+    def test_a_link_to_a_heading_that_is_not_there_is_found(self):
+        for link in ("two.md#nothing", "#own"):
+            code, text = self.check(f"[x]({link})")
+            self.assertEqual(code, 1)
+            self.assertIn(f"no such heading: {link}", text)
+
+    def test_a_link_whose_text_goes_over_the_end_of_a_line_is_found(self):
+        code, text = self.check("[x\ny](two.md)")
+        self.assertEqual(code, 1)
+        self.assertIn("a link on two lines: two.md", text)
+
+    def test_documents_without_any_link_are_no_success(self):
+        self.assertEqual(self.check("none")[0], 1)
 
 
 class Ratios(unittest.TestCase):

@@ -5,6 +5,8 @@
 #include "tests/support/leaf.h"
 #include "tests/support/slot.h"
 #include "tests/support/virtual_order.h"
+#include "tests/widgets/expander_bench.h"
+#include "vexel/controls/caption.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
 #include "vexel/platform/memory/memory_system.h"
@@ -23,62 +25,6 @@ using namespace vexel::test;
 
 namespace
 {
-
-/// Notes what it is told of, and may do something then.
-class CTestExpander : public CExpander
-{
-public:
-    using CExpander::CExpander;
-    std::string m_Calls;
-    std::function<void()> m_Deed;
-
-    void HandleExpand(bool expand) override
-    {
-        m_Calls += expand ? "open " : "close ";
-        if (m_Deed)
-            std::exchange(m_Deed, nullptr)();
-    }
-};
-
-// At the top of a window of 200 x 200: a title 20 high and a body of 40, both of 30 and 50 width, in a frame 30 x 10.
-class CExpanderBench : public testing::Test
-{
-protected:
-    explicit CExpanderBench(CExpander::ExpandDirection direction = CExpander::ExpandTopBottom)
-        : m_Parent(*new CVisualElement(m_Host.Root(), {0, 0}, alClient)),
-          m_Expander(*new CTestExpander(&m_Parent, {30, 10}, IsSideways(direction) ? alLeft : alTop)),
-          m_Title(*new CLeaf(nullptr, {30, 20}, alNone, 1)), m_Body(*new CLeaf(nullptr, {50, 40}, alNone, 2))
-    {
-        m_Expander.SetExpandDirection(direction);
-        NameElement(m_Expander, "expander");
-        NameElement(m_Title, "title");
-        NameElement(m_Body, "body");
-        m_Expander.SetTitle(&m_Title);
-        m_Expander.SetBody(&m_Body);
-        auto* const rest = new CLeaf(&m_Parent, {0, 0}, alClient, 3);
-        NameElement(*rest, "rest");
-        m_Host.Paint();
-    }
-    static bool IsSideways(CExpander::ExpandDirection direction)
-    {
-        return direction == CExpander::ExpandLeftRight || direction == CExpander::ExpandRightLeft;
-    }
-    int Extent() const { return m_Expander.GetSize().height; }
-    // A round of the background, and what it posted.
-    void Step()
-    {
-        m_Host.StepBackground();
-        m_Host.RunPending();
-        m_Host.Clock().Advance(10);
-    }
-    bool IsRunning() const { return m_Host.Pending().find("runner") != std::string::npos; }
-
-    CTestHost m_Host{200, 200};
-    CVisualElement& m_Parent;
-    CTestExpander& m_Expander;
-    CLeaf& m_Title;
-    CLeaf& m_Body;
-};
 
 using Expander = CExpanderBench;
 
@@ -620,5 +566,38 @@ TEST(ExpanderDeletion, WhileItAsksForALayoutIsSurvived)
         EXPECT_EQ(parent->GetChildren()->GetCount(), 0) << way;
         EXPECT_EQ(CTestHost::System().GetRunningRunners(), 0);
         host.Paint();
+    }
+}
+
+TEST(ExpanderSteps, RepaintTheirOwnColumnAlone)
+{
+    CTestHost host(300, 200);
+    CVisualElement other(host.Root(), {100, 0}, alLeft);
+    CCaption neighbour(&other, {0, 20}, alTop);
+    CVisualElement column(host.Root(), {0, 0}, alClient);
+    CExpander expander(&column, {0, 24}, alTop);
+    CCaption title(nullptr, {0, 20}, alTop);
+    CCaption body(nullptr, {0, 80}, alClient);
+    CCaption below(&column, {0, 0}, alClient);
+    title.SetDynamic(false);
+    body.SetDynamic(false);
+    expander.SetTitle(&title);
+    expander.SetBody(&body);
+    expander.Expand(false, false);
+    NameElement(other, "other");
+    NameElement(neighbour, "neighbour");
+    NameElement(title, "title");
+    NameElement(below, "below");
+    host.Paint();
+
+    expander.Expand(true, true);
+    for (int step = 0; step < 3; ++step)
+    {
+        expander.UpdateSize();
+        PaintLog const log = host.Paint();
+        EXPECT_TRUE(log.Of("other").IsEmpty()) << step;
+        EXPECT_TRUE(log.Of("neighbour").IsEmpty()) << step;
+        EXPECT_FALSE(log.Of("below").IsEmpty()) << step;
+        EXPECT_EQ(host.CompareWithFullPaint(), "");
     }
 }

@@ -2,10 +2,10 @@
 
 #include "vexel/widgets/splitter.h"
 
-#include "tests/support/deed_scene.h"
 #include "tests/support/leaf.h"
 #include "tests/support/slot.h"
 #include "tests/support/virtual_order.h"
+#include "tests/widgets/splitter_bench.h"
 #include "vexel/core/base_control.h"
 #include "vexel/core/control.h"
 #include "vexel/testing/test_kit.h"
@@ -18,46 +18,6 @@ using namespace vexel::test;
 
 namespace
 {
-
-// In a window of 200 x 200: the first sibling 60 thick at an edge, the bar 5 before it, the second one in the rest.
-class CSplitterBench : public testing::Test
-{
-protected:
-    explicit CSplitterBench(Alignment edge = alLeft)
-        : m_First(*new CLeaf(m_Host.Root(), {60, 60}, edge, 1)), m_Bar(*new CSplitter(m_Host.Root(), {5, 5}, edge)),
-          m_Second(*new CLeaf(m_Host.Root(), {0, 0}, alClient, 2))
-    {
-        NameElement(m_First, "first");
-        NameElement(m_Bar, "bar");
-        NameElement(m_Second, "second");
-        m_Bar.SetElements(&m_First, &m_Second);
-        m_Host.Paint();
-        m_Log.Add(m_Bar.m_SizeProposed, "proposed");
-        m_Log.Add(m_Bar.m_Delta, "delta");
-        m_Log.Add(m_Bar.m_Moved, "moved");
-        m_Log.Add(m_Bar.m_Finished, "finished");
-        m_Log.Add(m_Bar.m_Highlighted, "highlighted");
-    }
-    bool IsSideways() const { return m_Bar.GetAlignment() == alLeft || m_Bar.GetAlignment() == alRight; }
-    int Thickness(CVisualElement const& element) const
-    {
-        return IsSideways() ? element.GetPos().Width() : element.GetPos().Height();
-    }
-    void Press() { m_Host.Mouse().Press(m_Bar, 2, 2); }
-    // The pointer, so many pixels away from the edge, from where it holds the bar.
-    void Pull(int pixels)
-    {
-        Alignment const edge = m_Bar.GetAlignment();
-        int const by = edge == alRight || edge == alBottom ? -pixels : pixels;
-        m_Host.Mouse().Move(m_Bar, IsSideways() ? 2 + by : 2, IsSideways() ? 2 : 2 + by);
-    }
-
-    CTestHost m_Host{200, 200};
-    CLeaf& m_First;
-    CSplitter& m_Bar;
-    CLeaf& m_Second;
-    CSignalLog m_Log;
-};
 
 using Splitter = CSplitterBench;
 
@@ -379,6 +339,8 @@ TEST_F(Splitter, AStepIsCutToWhatTheSiblingsCanGive)
     m_Bar.SetMinSize(100);
     EXPECT_EQ(m_Bar.CheckDelta(60), 32);  // 120 and 72: 28 short
     EXPECT_EQ(m_Bar.CheckDelta(30), 40);  // 90: the first one is asked first
+    EXPECT_EQ(m_Bar.CheckDelta(35), 40);  // 95 and 97: the first one alone
+    EXPECT_EQ(m_Bar.CheckDelta(40), 32);  // 100 and 92: the second one
 }
 
 TEST_F(Splitter, AtNoneOfTheEdgesNothingMoves)
@@ -504,80 +466,4 @@ TEST_F(Splitter, TheSwapGoesByTheCallsAndNotByTheArgument)
     m_Bar.DrawHighlighted(false);
     EXPECT_EQ(m_Bar.GetBkColor(), color_table[3]);
     EXPECT_EQ(m_Bar.GetFgColor(), color_table[5]);
-}
-
-// Slots that do away with things ----------------------------------------------------------------------------------------------
-
-namespace
-{
-
-class CScene : public CDeedScene
-{
-public:
-    explicit CScene(bool live)
-    {
-        m_Bar->SetElements(m_First, m_Second);
-        m_Bar->SetHighlight(true);
-        m_Bar->SetLiveResize(live);
-        m_Bar->SetRefreshWhileMoving(true);
-        NameElement(*m_Bar, "bar");
-        On<CSplitter*, size<int> const&>("proposed", m_Bar->m_SizeProposed);
-        On<CSplitter*, int>("delta", m_Bar->m_Delta);
-        On<CSplitter*>("moved", m_Bar->m_Moved);
-        On<CSplitter*>("finished", m_Bar->m_Finished);
-        On<CSplitter*, bool>("highlighted", m_Bar->m_Highlighted);
-        On<CVisualElement*>("first laid out", m_First->m_SigSize);
-        On<CVisualElement*>("second laid out", m_Second->m_SigSize);
-        On<CVisualElement*>("bar laid out", m_Bar->m_SigSize);
-        m_Host.Paint();
-    }
-    void Play()
-    {
-        m_Host.Mouse().Move(70, 20);
-        m_Host.Mouse().Move(63, 20);
-        m_Host.Mouse().Press(63, 20);
-        m_Host.Mouse().Move(83, 20);
-        m_Host.Mouse().Release();
-        m_Host.Mouse().Leave();
-        if (m_Host.HasControl())
-            m_Host.Paint();
-    }
-
-    CTestHost m_Host{200, 200};
-    CVisualElement* const m_Parent = new CVisualElement(m_Host.Root(), {0, 0}, alClient);
-    CLeaf* const m_First = new CLeaf(m_Parent, {60, 60}, alLeft, 1);
-    CSplitter* const m_Bar = new CSplitter(m_Parent, {5, 5}, alLeft);
-    CLeaf* const m_Second = new CLeaf(m_Parent, {0, 0}, alClient, 2);
-};
-
-}  // namespace
-
-TEST(SplitterDeletion, OfAnythingInAnySlotIsSurvived)
-{
-    for (bool const live : {true, false})
-        for (char const* const signal : {"proposed", "delta", "moved", "finished", "highlighted", "first laid out",
-                                         "second laid out", "bar laid out"})
-            for (int deed = 0; deed < 6; ++deed)
-            {
-                CScene scene(live);
-                int done = 0;
-                auto const slot = scene.m_Connect.at(signal)([&] {
-                    if (done++ > 0)
-                        return;
-                    if (deed == 0)
-                        delete scene.m_Bar;
-                    else if (deed == 1)
-                        delete scene.m_First;
-                    else if (deed == 2)
-                        delete scene.m_Second;
-                    else if (deed == 3)
-                        delete scene.m_Parent;
-                    else if (deed == 4)
-                        scene.m_Host.DestroyControl();
-                    else
-                        scene.m_Host.DestroyWindow();
-                });
-                scene.Play();
-                EXPECT_GT(done, 0) << signal << " " << deed;
-            }
 }

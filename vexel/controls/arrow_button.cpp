@@ -1,14 +1,14 @@
 #include "vexel/controls/arrow_button.h"
 
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/core/dpi.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 
 namespace vexel
 {
 
 CArrowButton::CArrowButton(CVisualElement* parent, size<int> const& extent, Alignment alignment)
-    : CButton(parent, extent, alignment), m_ArrowSize(detail::Scaled(8.0))
+    : CButton(parent, extent, alignment), m_ArrowSize(ToDevicePixels(8.0))
 {}
 
 void CArrowButton::SetArrowType(ArrowType type)

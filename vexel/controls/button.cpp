@@ -2,10 +2,9 @@
 
 #include "vexel/controls/detail/focus_frame.h"
 #include "vexel/controls/detail/painter_colors.h"
-#include "vexel/controls/detail/rects.h"
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/core/control.h"
 #include "vexel/platform/border.h"
+#include "vexel/platform/device_pixels.h"
 
 namespace vexel
 {
@@ -95,7 +94,7 @@ rectangle<int> CButton::GetInternalRect() const
 
 size<int> CButton::GetAutoSizeAdditionalExtent() const
 {
-    return {detail::Scaled(GetImageIndex() != -1 ? 9.0 : 22.0), detail::Scaled(9.0)};
+    return {ToDevicePixels(GetImageIndex() != -1 ? 9.0 : 22.0), ToDevicePixels(9.0)};
 }
 
 // Drawing -----------------------------------------------------------------------------------------------------------------
@@ -113,7 +112,7 @@ void CButton::DrawContent(IPainter* painter)
     int inset = ToInt(painter->GetDPIScale() * 3.0);
     if (m_Style == BorderFlat && !IsNativeDrawing())
         --inset;
-    rectangle<double> rect = detail::ToDouble(GetBounds());
+    rectangle<double> rect = ToDouble(GetBounds());
     rect.Normalize();
     detail::DrawFocusFrame(painter, rect, inset);
 }
@@ -144,7 +143,7 @@ void CButton::DrawEdged(IPainter* painter)
         palette = m_EdgePalette;
     }
     detail::CPaletteHolder const holder(painter, palette);
-    rectangle<double> const bounds = detail::ToDouble(GetBounds());
+    rectangle<double> const bounds = ToDouble(GetBounds());
     if (GetClickStage() == StagePressed)
         DrawBorder(painter, bounds, bsBox, bsSunken, true);
     else if (m_Shape < ShapeNoFrame)

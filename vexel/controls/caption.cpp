@@ -1,8 +1,8 @@
 #include "vexel/controls/caption.h"
 
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/core/control.h"
 #include "vexel/core/measure_bracket.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/native_controls.h"
 #include "vexel/platform/sys_window.h"
 
@@ -18,7 +18,7 @@ namespace
 
 int GetDefaultImageSpace()
 {
-    return detail::Scaled(4.0);
+    return ToDevicePixels(4.0);
 }
 
 }  // namespace
@@ -193,7 +193,7 @@ std::string CCaption::HandleAsString() const
 
 size<int> CCaption::GetAutoSizeExtent()
 {
-    return {detail::Scaled(2), detail::Scaled(2)};
+    return {ToDevicePixels(2), ToDevicePixels(2)};
 }
 
 size<int> CCaption::GetAutoSizeAdditionalExtent() const

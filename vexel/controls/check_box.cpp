@@ -1,7 +1,7 @@
 #include "vexel/controls/check_box.h"
 
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/core/control.h"
+#include "vexel/platform/device_pixels.h"
 
 #include <algorithm>
 
@@ -50,7 +50,7 @@ size<int> CCheckBox::GetImageSize() const
 
 size<int> CCheckBox::GetAutoSizeAdditionalExtent() const
 {
-    return {detail::Scaled(8.0), detail::Scaled(2.0)};
+    return {ToDevicePixels(8.0), ToDevicePixels(2.0)};
 }
 
 std::string CCheckBox::HandleAsString() const

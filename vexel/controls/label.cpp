@@ -1,7 +1,7 @@
 #include "vexel/controls/label.h"
 
-#include "vexel/controls/detail/rects.h"
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/native_controls.h"
 
 #include <algorithm>
@@ -158,7 +158,7 @@ void ProcessLabel(Operation& operation, rectangle<int> const& rect, std::string 
     m.hasText = !text.empty();
     m.imageSpace = imageSpace;
     SLabelImage image{images, imageIndex, {}};
-    rectangle<double> textRect = detail::ToDouble(rect);
+    rectangle<double> textRect = ToDouble(rect);
     if (imageIndex != -1 && images)
     {
         image.extent = images->GetSize(imageIndex);
@@ -190,8 +190,7 @@ void ProcessLabel(Operation& operation, rectangle<int> const& rect, std::string 
     if (imageIndex == -1)
         return;
 
-    rectangle<double> const place =
-        (flags & IPainter::AlignLeft) != 0 || !m.hasText ? detail::ToDouble(rect) : textRect;
+    rectangle<double> const place = (flags & IPainter::AlignLeft) != 0 || !m.hasText ? ToDouble(rect) : textRect;
     m.rectAlong = layout->GetAlong(place.Width(), place.Height());
     m.rectAcross = layout->GetAcross(place.Width(), place.Height());
     m.originAlong = layout->GetAlong(place.left, place.top);

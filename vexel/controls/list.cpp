@@ -1,11 +1,10 @@
 #include "vexel/controls/list.h"
 
 #include "vexel/controls/detail/painter_colors.h"
-#include "vexel/controls/detail/rects.h"
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/controls/label.h"
 #include "vexel/core/control.h"
 #include "vexel/core/measure_bracket.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/sys_window.h"
 
 #include <algorithm>
@@ -21,7 +20,7 @@ namespace
 IItemDrawing::~IItemDrawing() = default;
 
 CList::CList(CVisualElement* parent, size<int> const& extent, Alignment alignment)
-    : CVisualElement(parent, extent, alignment), m_LineSpacing(detail::Scaled(5.0)), m_LineHeight(detail::Scaled(14.0))
+    : CVisualElement(parent, extent, alignment), m_LineSpacing(ToDevicePixels(5.0)), m_LineHeight(ToDevicePixels(14.0))
 {}
 
 // Model -------------------------------------------------------------------------------------------------------------------
@@ -229,8 +228,8 @@ bool CList::AsksDrawing(IPainter* painter, int item, rectangle<int> const& rect)
 void CList::DrawItem(IPainter* painter, int item, rectangle<int> const& rect)
 {
     if (AsksDrawing(painter, item, rect))
-        painter->DrawString(detail::ToDouble(rect), m_Model->GetItemCaption(item),
-                            IPainter::AlignLeft | IPainter::AlignVCenter, -1);
+        painter->DrawString(ToDouble(rect), m_Model->GetItemCaption(item), IPainter::AlignLeft | IPainter::AlignVCenter,
+                            -1);
 }
 
 // Mouse -------------------------------------------------------------------------------------------------------------------

@@ -1,11 +1,11 @@
 #include "vexel/controls/round_bg_button.h"
 
 #include "vexel/controls/detail/painter_colors.h"
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/controls/detail/shaded_pictures.h"
 #include "vexel/core/clip_holder.h"
 #include "vexel/core/control.h"
 #include "vexel/core/measure_bracket.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/native_controls.h"
 
 #include <algorithm>
@@ -215,7 +215,7 @@ void CRoundBgButton::UpdateBgImgDimensions(CVisualElement*)
 
 size<int> CRoundBgButton::GetAutoSizeAdditionalExtent() const
 {
-    return {detail::Scaled(22.0), detail::Scaled(6.0)};
+    return {ToDevicePixels(22.0), ToDevicePixels(6.0)};
 }
 
 int CRoundBgButton::GetBlurRadius(InternalBgImageIndex index) const

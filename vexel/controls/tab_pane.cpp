@@ -2,10 +2,10 @@
 
 #include "vexel/controls/tab_pane.h"
 
-#include "vexel/controls/detail/scaled.h"
 #include "vexel/core/control.h"
 #include "vexel/core/measure_bracket.h"
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/native_controls.h"
 #include "vexel/platform/sys_window.h"
 #include "vexel/views/item_walks.h"
@@ -190,7 +190,7 @@ IDiscreteItemViewModel& CTabPane::GetWidthModel(bool equal)
     if (equal && !m_EqualModel)
     {
         m_EqualModel = std::make_unique<CEqualItemsViewModel>();
-        m_EqualModel->SetItemSizeBounds(detail::Scaled(g_MinWidth), detail::Scaled(g_MaxWidth));
+        m_EqualModel->SetItemSizeBounds(ToDevicePixels(g_MinWidth), ToDevicePixels(g_MaxWidth));
         m_EqualModel->SetAnchorModel(GetColumnSelectionModel());
         m_EqualModel->SetAnchorItem(GetStableTab());
         m_EqualModel->m_SigChanged.connect(this, &CTabPane::ViewModelChanged);

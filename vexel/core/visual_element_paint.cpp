@@ -6,6 +6,7 @@
 #include "vexel/core/scroll_on_set_pos.h"
 #include "vexel/core/visual_element.h"
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/raster_picture.h"
 #include "vexel/platform/sys_window.h"
@@ -38,12 +39,6 @@ public:
 private:
     CAlivePtr<IPainter> const& m_Painter;
 };
-
-rectangle<double> ToDouble(rectangle<int> const& rect)
-{
-    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.right),
-            static_cast<double>(rect.bottom)};
-}
 
 bool IsOutside(rectangle<int> const& pos, rectangle<int> const& clip)
 {

@@ -349,7 +349,7 @@ void CHeader::ExpandItem(IHeaderItem* item, bool expand)
 
 rectangle<double> CHeader::GetHeaderRect() const
 {
-    rectangle<double> rect = detail::ToDouble(GetBounds());
+    rectangle<double> rect = ToDouble(GetBounds());
     if (IScrollModel* const model = GetScrollModel())
         rect.left -= CScrollConverter(model).L2P(model->GetStart());
     return rect;

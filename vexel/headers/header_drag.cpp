@@ -199,8 +199,7 @@ void CHeader::HandleDrawDragItem(IPainter* painter, DragInfo& info, bool, CVisua
         return;
     rectangle<int> clip = info.m_Bounds;
     ControlToElement(&clip);
-    DrawDraggingPointer(painter, GetIndex().GetItem(GetIndex().GetParent(node)), m_Drag.m_Target,
-                        detail::ToDouble(clip));
+    DrawDraggingPointer(painter, GetIndex().GetItem(GetIndex().GetParent(node)), m_Drag.m_Target, ToDouble(clip));
 }
 
 void CHeader::DrawDraggingPointer(IPainter* painter, IHeaderItem const* parent, int index,

@@ -35,11 +35,6 @@ constexpr int s_TextRoom = 6;  // beside an element in the middle; what there mu
 constexpr int s_ImageRoom = 2;
 rectangle<double> const g_Probe{0.0, 0.0, 200.0, 20.0};
 
-int Scaled(double value)
-{
-    return ToInt(GetSystemScale() * value);
-}
-
 int MixChannel(int a, int b, float fraction)
 {
     return static_cast<int>(static_cast<float>(a) + static_cast<float>(b - a) * fraction);
@@ -89,7 +84,7 @@ void CHeader::DrawContent(IPainter* painter)
     if (!GetScrollModel())
         return;
     painter->SetTextColor(GetSectionTextColor());
-    CClipHolder const clip(painter, detail::ToDouble(bounds));
+    CClipHolder const clip(painter, ToDouble(bounds));
     detail::CHeaderGeometry const geometry = GetGeometry();
     unsigned long const version = m_Index->GetVersion();
     geometry.ForEachBetween(bounds.left, bounds.right, [&](int node, rectangle<double> const& rect) {
@@ -140,8 +135,8 @@ rectangle<double> CHeader::GetExpandBtnRect(rectangle<double> const& section, IH
         return {};
     rectangle<double> rect = section;
     CutRectByBounds(rect);
-    int const margin = Scaled(s_ButtonMargin);
-    int const side = Scaled(s_ButtonSide);
+    int const margin = ToDevicePixels(s_ButtonMargin);
+    int const side = ToDevicePixels(s_ButtonSide);
     rectangle<double> button;
     button.right = rect.right - margin;
     button.left = button.right - side;
@@ -201,7 +196,7 @@ void CHeader::DrawSectionContent(IPainter* painter, rectangle<double> const& con
     if (!item)
         return;
     int const direction = item->GetSortingDirection();
-    ContentParts parts{content, true, true, direction != 0 ? Scaled(s_MarkRoom) : 0};
+    ContentParts parts{content, true, true, direction != 0 ? ToDevicePixels(s_MarkRoom) : 0};
     double const end = parts.rect.right;
     parts.rect.right -= parts.markWidth;
     Prepare2DrawSectionContent(item, &parts);
@@ -210,8 +205,9 @@ void CHeader::DrawSectionContent(IPainter* painter, rectangle<double> const& con
     rectangle<int> label;
     if (parts.text || parts.image)
         label = DrawLabel(painter, detail::Truncate(parts.rect), parts.text ? item->GetText() : std::string(),
-                          item->GetTextAlign(), Scaled(s_LabelSpace), images, parts.image ? item->GetImageIndex() : -1,
-                          CLayoutManager::GetLayout(alTop), DefaultDelimiters, nullptr);
+                          item->GetTextAlign(), ToDevicePixels(s_LabelSpace), images,
+                          parts.image ? item->GetImageIndex() : -1, CLayoutManager::GetLayout(alTop), DefaultDelimiters,
+                          nullptr);
     if (parts.markWidth <= 0 || direction == 0)
         return;
     double const gap = GetSystemScale() * s_LabelSpace;
@@ -318,7 +314,7 @@ size<int> CHeader::GetImageSize(IHeaderItem const* item) const
 
 int CHeader::GetItemOptimalWidth(IHeaderItem const* item) const
 {
-    return AddSaturated(GetItemOptimalWidthInt(item), Scaled(s_MarkRoom) + s_OptimalSpace);
+    return AddSaturated(GetItemOptimalWidthInt(item), ToDevicePixels(s_MarkRoom) + s_OptimalSpace);
 }
 
 int CHeader::GetItemOptimalWidthInt(IHeaderItem const* item) const
@@ -331,9 +327,9 @@ int CHeader::GetItemOptimalWidthInt(IHeaderItem const* item) const
     CMeasureBracket const measuring(painter, GetFont());
     int width = ToInt(painter->DrawString({0, 0, 10000, 0}, item->GetText(), flags, -1).width);
     if (int const image = GetImageSize(item).width; image > 0)
-        width = AddSaturated(width, image + Scaled(s_LabelSpace));
+        width = AddSaturated(width, image + ToDevicePixels(s_LabelSpace));
     if (item->GetSortingDirection() != 0)
-        width = AddSaturated(width, Scaled(s_MarkRoom));
+        width = AddSaturated(width, ToDevicePixels(s_MarkRoom));
     return ContentWidth2SectionWidth(item, width, m_Visualisation);
 }
 

@@ -1,6 +1,7 @@
 #include "vexel/views/editor_event_handler.h"
 
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/system.h"
 #include "vexel/views/viewer_base.h"
 
@@ -47,7 +48,7 @@ void CEditorEventHandler::ProcessScroll(int dx, int dy)
     m_EditorPos = {AddSaturated(m_EditorPos.left, dx), AddSaturated(m_EditorPos.top, dy),
                    AddSaturated(m_EditorPos.right, dx), AddSaturated(m_EditorPos.bottom, dy)};
     rectangle<int> const part = GetVisiblePart();
-    int const least = ToInt(g_LeastExtent * GetSystemScale());
+    int const least = ToDevicePixels(g_LeastExtent);
     bool const enough = !part.IsEmpty() && SubtractSaturated(part.right, part.left) >= least &&
                         SubtractSaturated(part.bottom, part.top) >= least;
     if (!enough)

@@ -13,6 +13,11 @@ namespace
 
 int const g_StepWait = 10;  // milliseconds
 
+bool HasNoRoom(rectangle<int> const& rect)
+{
+    return rect.right < rect.left || rect.bottom < rect.top;
+}
+
 }  // namespace
 
 CExpander::CExpander(CVisualElement* parent, size<int> const& extent, Alignment alignment)
@@ -105,22 +110,8 @@ void CExpander::SetExpandDirection(ExpandDirection direction)
 // Steps under way take what the parts ask for by themselves.
 void CExpander::AdoptSize()
 {
-    if (m_Adopting || m_Sizing != SizingNone)
-        return;
-    CAliveGuard const alive(this);
-    m_Adopting = true;
-    try
-    {
+    if (m_Sizing == SizingNone)
         GetLogic().Expand(this, IsExpanded());
-    }
-    catch (...)
-    {
-        if (alive)
-            m_Adopting = false;
-        throw;
-    }
-    if (alive)
-        m_Adopting = false;
 }
 
 // A body that is left without extent covers nothing: amid the steps that may be a line of pixels that shows the frame.
@@ -137,8 +128,15 @@ void CExpander::SetPos(rectangle<int> const& rect, bool force)
 
 void CExpander::ProcessRearrange(CVisualElement** element)
 {
-    if (*element && (*element == GetTitle() || *element == GetBody()))
+    CVisualElement* const body = GetBody();
+    if (*element && (*element == GetTitle() || *element == body))
+    {
         AdoptSize();
+        return;
+    }
+    // On its own, a body without room would be laid out over the title and beside the frame.
+    if (body && IsAncestor(*element, body) && HasNoRoom(body->GetPos()))
+        *element = body;
 }
 
 // State ---------------------------------------------------------------------------------------------------------------------

@@ -85,7 +85,6 @@ private:
     CElementPtr<> m_Body;
     std::atomic<int> m_Sizing{SizingNone};  // read by the thread that waits
     vexel_ptr<IRunner> m_OwnRunner;         // while the task has it
-    bool m_Adopting = false;
 };
 
 }  // namespace vexel

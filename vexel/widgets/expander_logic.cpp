@@ -85,6 +85,8 @@ bool CExpanderLogic::IsExpanded(CExpander const* expander) const
 
 void CExpanderLogic::UpdateTitle(CExpander* expander, CVisualElement* title)
 {
+    if (!title)
+        return;
     CAlivePtr<CVisualElement> const part(title);
     CAlivePtr<CVisualElement> const owner(expander);
     title->SetAlignment(GetTitleAlignment());
@@ -94,6 +96,8 @@ void CExpanderLogic::UpdateTitle(CExpander* expander, CVisualElement* title)
 
 void CExpanderLogic::UpdateBody(CExpander* expander, CVisualElement* body)
 {
+    if (!body)
+        return;
     CAlivePtr<CVisualElement> const part(body);
     CAlivePtr<CVisualElement> const owner(expander);
     body->SetAlignment(alClient);

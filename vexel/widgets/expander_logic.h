@@ -25,8 +25,9 @@ public:
     virtual bool UpdateSize(CExpander* expander, bool opening) = 0;
     virtual Alignment GetTitleAlignment() const = 0;
 
-    void UpdateTitle(CExpander* expander, CVisualElement* title);  ///< Docks the title and makes it a child.
-    void UpdateBody(CExpander* expander, CVisualElement* body);    ///< The same with the body, which fills the rest.
+    /// Docks the title and makes it a child. Null: nothing.
+    void UpdateTitle(CExpander* expander, CVisualElement* title);
+    void UpdateBody(CExpander* expander, CVisualElement* body);  ///< The same with the body, which fills the rest.
 };
 
 /// Works on heights.

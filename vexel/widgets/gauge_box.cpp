@@ -50,7 +50,7 @@ void CGaugeBox::SetMaxWidth(int width)
 
 void CGaugeBox::SetPos(rectangle<int> const& rect, bool force)
 {
-    int const excess = SubtractSaturated(rect.Width(), m_MaxWidth);
+    int const excess = SubtractSaturated(SubtractSaturated(rect.right, rect.left), m_MaxWidth);
     if (m_MaxWidth > 0 && excess > 0 && excess != GetOffset().right)
     {
         CAliveGuard const alive(this);

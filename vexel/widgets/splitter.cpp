@@ -215,11 +215,17 @@ bool CSplitter::UpdateSplitterPos(int delta)
         SetPos(bar, false);
     if (other)
         other->SetPos(second, false);
+    if (step == 0)
+        return true;
     // One's moved picture may have come over what another has moved on: nothing of theirs stands.
-    if (step != 0 && one)
+    if (one)
         one->OnChange(one.get(), utElement);
-    if (step != 0 && other)
+    if (other)
         other->OnChange(other.get(), utElement);
+    // The place of a hidden one shows what is behind.
+    bool const isSomeHidden = (one && !one->IsVisible()) || (other && !other->IsVisible());
+    if (alive && isSomeHidden && GetParent())
+        GetParent()->OnChange(GetParent(), utElement);
     return true;
 }
 

@@ -208,6 +208,38 @@ TEST(QtSystem, AThemeChangeIsToldOnceAndShows)
     EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scFace), _color::FromRgb(0x30, 0x40, 0x50));
 }
 
+TEST(QtSystem, AProgramMayBeLightOrDarkWhateverTheDesktopIs)
+{
+    using vexelbase::qt::CApplication;
+    CKeepLook const keep;
+    CHosted hosted;
+    CApplication application;
+    auto const brightness = [](ISysPalette::SysColor number) {
+        _color const color = GetSysPalette()->GetColor(number);
+        return color.Red() + color.Green() + color.Blue();
+    };
+    _color const before = GetSysPalette()->GetColor(ISysPalette::scFace);
+
+    application.SetTheme(CApplication::Theme::Dark);
+    Settle();
+    EXPECT_EQ(hosted.Control().Take(), "colors");
+    for (ISysPalette::SysColor const ground :
+         {ISysPalette::scWindow, ISysPalette::scFace, ISysPalette::scTooltip, ISysPalette::scDarkShadow})
+        EXPECT_LT(brightness(ground), 300) << ground;
+    for (ISysPalette::SysColor const text : {ISysPalette::scWindowText, ISysPalette::scControlText,
+                                             ISysPalette::scTooltipText, ISysPalette::scHighlightText})
+        EXPECT_GT(brightness(text), 600) << text;
+
+    application.SetTheme(CApplication::Theme::Light);
+    Settle();
+    EXPECT_EQ(hosted.Control().Take(), "colors");
+    EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scWindow), _color::FromRgb(255, 255, 255));
+    EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scWindowText), _color::FromRgb(0, 0, 0));
+
+    application.SetTheme(CApplication::Theme::Desktop);
+    EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scFace), before);
+}
+
 TEST(QtSystem, TheDefaultFontIsTheApplicationsAndFollowsIt)
 {
     CKeepLook const keep;

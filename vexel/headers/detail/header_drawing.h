@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vexel/platform/color.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/geometry.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/palette.h"
@@ -39,11 +40,5 @@ void FillTriangle(IPainter* painter, point<double> const (&corners)[3], _color c
 void DrawSortTriangle(IPainter* painter, bool up, int x, int y, int side, _color const& color);
 
 rectangle<int> Truncate(rectangle<double> const& rect);
-
-inline rectangle<double> ToDouble(rectangle<int> const& rect)
-{
-    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.right),
-            static_cast<double>(rect.bottom)};
-}
 
 }  // namespace vexel::detail

@@ -6,11 +6,69 @@
 #include "vexel/platform/qt/detail/qt_window.h"
 
 #include <QApplication>
+#include <QPalette>
 
 #include <algorithm>
+#include <utility>
 
 namespace vexelbase::qt
 {
+
+namespace
+{
+
+struct SThemeColors
+{
+    QRgb window;  // of dialogs: the face of controls
+    QRgb text;
+    QRgb base;  // of lists and fields
+    QRgb button;
+    QRgb light;
+    QRgb midlight;
+    QRgb mid;
+    QRgb dark;
+    QRgb shadow;
+    QRgb highlight;
+    QRgb tooltip;
+    QRgb link;
+    QRgb disabled;
+};
+
+SThemeColors const g_Light{0xFFEFEFEF, 0xFF000000, 0xFFFFFFFF, 0xFFEFEFEF, 0xFFFFFFFF, 0xFFE3E3E3, 0xFFB8B8B8,
+                           0xFF9F9F9F, 0xFF767676, 0xFF308CC6, 0xFFFFFFDC, 0xFF0000FF, 0xFF8A8A8A};
+SThemeColors const g_Dark{0xFF2E2F33, 0xFFE6E6E6, 0xFF1F2023, 0xFF3A3B40, 0xFF5A5B62, 0xFF46474D, 0xFF26272A,
+                          0xFF7A7B82, 0xFF101114, 0xFF2F6FB0, 0xFF45464C, 0xFF7FB4F0, 0xFF808288};
+
+QPalette MakePalette(SThemeColors const& colors)
+{
+    QPalette palette;
+    for (auto const& [role, color] : {std::pair{QPalette::Window, colors.window},
+                                      {QPalette::WindowText, colors.text},
+                                      {QPalette::Base, colors.base},
+                                      {QPalette::AlternateBase, colors.midlight},
+                                      {QPalette::Text, colors.text},
+                                      {QPalette::Button, colors.button},
+                                      {QPalette::ButtonText, colors.text},
+                                      {QPalette::BrightText, 0xFFFFFFFF},
+                                      {QPalette::Light, colors.light},
+                                      {QPalette::Midlight, colors.midlight},
+                                      {QPalette::Mid, colors.mid},
+                                      {QPalette::Dark, colors.dark},
+                                      {QPalette::Shadow, colors.shadow},
+                                      {QPalette::Highlight, colors.highlight},
+                                      {QPalette::HighlightedText, 0xFFFFFFFF},
+                                      {QPalette::ToolTipBase, colors.tooltip},
+                                      {QPalette::ToolTipText, colors.text},
+                                      {QPalette::Link, colors.link},
+                                      {QPalette::LinkVisited, colors.link},
+                                      {QPalette::PlaceholderText, colors.disabled}})
+        palette.setColor(role, QColor::fromRgb(color));
+    for (QPalette::ColorRole const role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor::fromRgb(colors.disabled));
+    return palette;
+}
+
+}  // namespace
 
 struct CApplication::SData
 {
@@ -51,6 +109,19 @@ void CApplication::SetZoom(double factor)
 {
     CQtSystem::Get().SetZoom(factor);
     CQtWindow::SyncAllScales();
+}
+
+void CApplication::SetTheme(Theme theme)
+{
+    switch (theme)
+    {
+    case Theme::Light:
+        return QApplication::setPalette(MakePalette(g_Light));
+    case Theme::Dark:
+        return QApplication::setPalette(MakePalette(g_Dark));
+    case Theme::Desktop:
+        return QApplication::setPalette(QPalette());  // sets nothing, so that the desktop's shows
+    }
 }
 
 void CApplication::SetShowRepaints(bool show)

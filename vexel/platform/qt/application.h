@@ -35,6 +35,14 @@ public:
     /// Makes everything larger or smaller than the desktop says: multiplies the scale of the system, from 0.25 to 8 (others
     /// count as the nearest). Controls hear of it as of a theme change; elements made before keep their sizes.
     void SetZoom(double factor);
+    enum class Theme
+    {
+        Desktop,  ///< As the user has chosen; also follows later choices. At first.
+        Light,
+        Dark
+    };
+    /// The colours of the whole program, native controls included. Controls hear of a change as of one of the desktop's.
+    void SetTheme(Theme theme);
     /// Shows for a moment, in colour over the windows, what each paint has changed. For finding needless repaints.
     void SetShowRepaints(bool show);
 

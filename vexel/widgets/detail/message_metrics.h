@@ -2,6 +2,7 @@
 
 #include "vexel/controls/caption.h"
 #include "vexel/platform/convert.h"
+#include "vexel/platform/device_pixels.h"
 #include "vexel/platform/system.h"
 
 namespace vexel::detail
@@ -10,7 +11,7 @@ namespace vexel::detail
 /// What stands around the parts of boxes with messages; device pixels.
 inline int GetBaseOffset()
 {
-    return ToInt(10 * GetSystemScale());
+    return ToDevicePixels(10);
 }
 
 /// What captions that size themselves bring along of it; device pixels.

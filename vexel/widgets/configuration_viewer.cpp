@@ -1,0 +1,363 @@
+#include "vexel/widgets/configuration_viewer.h"
+
+#include "vexel/core/clip_holder.h"
+#include "vexel/core/control.h"
+#include "vexel/core/measure_bracket.h"
+#include "vexel/platform/device_pixels.h"
+#include "vexel/platform/painter.h"
+#include "vexel/platform/sys_window.h"
+#include "vexel/views/item_walks.h"
+
+#include <limits>
+#include <utility>
+
+namespace vexel
+{
+
+namespace
+{
+
+double const g_CategoryWidth = 370;  // unscaled
+int const g_SmallestView = 9;        // pixels; a view that isn't higher is not laid out yet
+int const g_ViewWithoutLayout = 600;
+
+CDefConfigModel& GetEmptyModel()
+{
+    static auto* const model = new CDefConfigModel;  // outlives static viewers
+    return *model;
+}
+
+CDefCategoryVis& GetDefaultVisualisation()
+{
+    static auto* const visualisation = new CDefCategoryVis;
+    return *visualisation;
+}
+
+// The category at the end of a path; `Set` and `Category` may both be const. Null: the model has no such one any more.
+template <class Category, class Set> Category* WalkPath(Set* set, std::vector<int> const& path)
+{
+    Category* category = nullptr;
+    for (int const index : path)
+    {
+        category = index < set->GetCategoryCount() ? set->GetCategory(index) : nullptr;
+        if (!category)
+            return nullptr;
+        set = category;
+    }
+    return category;
+}
+
+// Nothing of what happens meanwhile reaches the screen.
+class CDrawingLock
+{
+public:
+    explicit CDrawingLock(ISysWindow* window) : m_Window(window)
+    {
+        if (m_Window)
+            m_Window->LockDrawing(true);
+    }
+    ~CDrawingLock()
+    {
+        if (m_Window)
+            m_Window->LockDrawing(false);
+    }
+    CDrawingLock(CDrawingLock const&) = delete;
+    CDrawingLock& operator=(CDrawingLock const&) = delete;
+
+private:
+    ISysWindow* const m_Window;
+};
+
+}  // namespace
+
+// While rows change, editors are arranged at the end and don't scroll.
+class CConfigurationViewer::CUpdating
+{
+public:
+    explicit CUpdating(CConfigurationViewer& viewer)
+        : m_Alive(&viewer), m_Viewer(viewer), m_Before(std::exchange(viewer.m_Updating, true))
+    {}
+    ~CUpdating()
+    {
+        if (m_Alive)
+            m_Viewer.m_Updating = m_Before;
+    }
+    CUpdating(CUpdating const&) = delete;
+    CUpdating& operator=(CUpdating const&) = delete;
+
+private:
+    CAliveGuard const m_Alive;
+    CConfigurationViewer& m_Viewer;
+    bool const m_Before;
+};
+
+CConfigurationViewer::CConfigurationViewer(CVisualElement* parent, size<int> const& extent, Alignment alignment)
+    : CRowViewer(parent, extent, alignment), m_CategoryWidth(ToDevicePixels(g_CategoryWidth)),
+      m_Model(&GetEmptyModel()), m_Visualisation(&GetDefaultVisualisation())
+{
+    SetAutoRowHeight(false);
+    MarkAllDirty();
+    Update(utElement);
+    SetCanHaveFocus(false);
+    GetRowSelectionModel()->ClearSelection();
+    SetSelectionType(CEventHandlerBase::stOneItem);
+    SetBkColor(ISysPalette::scWindow);
+    GetRowViewModel()->m_SigSizeChanged.connect(this, &CConfigurationViewer::ModelScrolledVert);
+    GetRowSelectionModel()->m_SigCurrentChanged.connect(this, &CConfigurationViewer::CategoryChanged);
+}
+
+CConfigurationViewer::~CConfigurationViewer()
+{
+    while (GetChildren()->GetCount() > 0)
+        GetChildren()->GetItem(0)->ReParent(nullptr, false);
+}
+
+ISysWindow* CConfigurationViewer::FindWindow() const
+{
+    return GetControl() ? GetControl()->GetWindow() : nullptr;
+}
+
+IPainter* CConfigurationViewer::FindPainter() const
+{
+    ISysWindow* const window = FindWindow();
+    return window ? window->GetPainter() : nullptr;
+}
+
+// The model -------------------------------------------------------------------------------------------------------------------
+
+void CConfigurationViewer::SetModel(IConfigModel* model)
+{
+    m_Model = model ? model : &GetEmptyModel();
+    CAliveGuard const alive(this);
+    if (IPainter* const painter = FindPainter())
+    {
+        CMeasureBracket const measuring(painter, GetFont());
+        FillCategories(painter);
+    }
+    else
+        FillCategories(nullptr);
+    if (alive)
+        GetRowViewModel()->SetCount(static_cast<int>(m_Categories.size()));
+    if (alive)
+        GetRowSelectionModel()->SetCurrent(-1);
+    if (alive)
+        UpdateAll();
+}
+
+void CConfigurationViewer::FillCategories(IPainter* painter)
+{
+    CUpdating const updating(*this);
+    std::vector<int> path;
+    AddCategory(m_Model, path, painter);
+}
+
+void CConfigurationViewer::AddCategory(ICategorySet const* set, std::vector<int>& path, IPainter* painter)
+{
+    if (!set)
+        return;
+    CAliveGuard const alive(this);
+    if (!path.empty())
+    {
+        int const row = static_cast<int>(m_Categories.size());
+        m_Categories.push_back(path);
+        auto const* const category = dynamic_cast<IConfigCategory const*>(set);
+        if (painter && category)
+            GetRowViewModel()->SetItemSize(row, m_Visualisation->GetCollapsedSize(painter, category, m_CategoryWidth));
+        m_Unmeasured = m_Unmeasured || !painter;
+    }
+    path.push_back(0);
+    int const count = set->GetCategoryCount();
+    for (int i = 0; i < count && alive; ++i)
+    {
+        path.back() = i;
+        AddCategory(set->GetCategory(i), path, painter);
+    }
+    path.pop_back();
+}
+
+// Rows that came while there was no window.
+void CConfigurationViewer::MeasureCategories()
+{
+    IPainter* const painter = FindPainter();
+    if (!painter)
+        return;
+    m_Unmeasured = false;
+    CAliveGuard const alive(this);
+    {
+        CUpdating const updating(*this);
+        CMeasureBracket const measuring(painter, GetFont());
+        for (int row = 0; alive && row < static_cast<int>(m_Categories.size()); ++row)
+            if (IConfigCategory const* const category = GetCategoryByRow(row))
+                GetRowViewModel()->SetItemSize(row,
+                                               m_Visualisation->GetCollapsedSize(painter, category, m_CategoryWidth));
+    }
+    if (alive && GetRowSelectionModel()->GetCurrent() >= 0)
+        RefreshActiveCategory();
+}
+
+void CConfigurationViewer::AfterSetControl()
+{
+    CAliveGuard const alive(this);
+    CRowViewer::AfterSetControl();
+    if (alive && m_Unmeasured)
+        MeasureCategories();
+}
+
+void CConfigurationViewer::SetVisualisation(ICategoryVis* visualisation)
+{
+    m_Visualisation = visualisation ? visualisation : &GetDefaultVisualisation();
+    UpdateAll();
+}
+
+void CConfigurationViewer::UpdateAll()
+{
+    MarkAllDirty();
+    Update(utElement);
+}
+
+IConfigCategory const* CConfigurationViewer::GetCategoryByRow(int row) const
+{
+    if (row < 0 || row >= static_cast<int>(m_Categories.size()))
+        return nullptr;
+    return WalkPath<IConfigCategory const, ICategorySet const>(m_Model, m_Categories[static_cast<std::size_t>(row)]);
+}
+
+IConfigCategory* CConfigurationViewer::GetCategoryByRow(int row)
+{
+    if (row < 0 || row >= static_cast<int>(m_Categories.size()))
+        return nullptr;
+    return WalkPath<IConfigCategory, ICategorySet>(m_Model, m_Categories[static_cast<std::size_t>(row)]);
+}
+
+// Opening and closing -----------------------------------------------------------------------------------------------------------
+
+void CConfigurationViewer::CategoryChanged(int oldRow, int newRow)
+{
+    IPainter* const painter = FindPainter();
+    if (!painter)
+        return;
+    CAliveGuard const alive(this);
+    CUpdating const updating(*this);
+    CMeasureBracket const measuring(painter, GetFont());
+    if (oldRow != newRow)
+        CloseCategory(oldRow, painter);
+    if (alive)
+        OpenCategory(newRow, painter);
+}
+
+void CConfigurationViewer::CloseCategory(int row, IPainter* painter)
+{
+    if (row < 0 || row >= static_cast<int>(m_Categories.size()))
+        return;
+    CAliveGuard const alive(this);
+    if (IConfigCategory* const category = GetCategoryByRow(row))
+        category->Deactivate();
+    for (int i = 0; alive && i < GetChildren()->GetCount(); ++i)
+        GetChildren()->GetItem(i)->SetVisible(false);
+    if (alive)
+        GetRowViewModel()->SetItemSize(
+            row, m_Visualisation->GetCollapsedSize(painter, GetCategoryByRow(row), m_CategoryWidth));
+}
+
+void CConfigurationViewer::OpenCategory(int row, IPainter* painter)
+{
+    if (row < 0 || row >= static_cast<int>(m_Categories.size()))
+        return;
+    CAliveGuard const alive(this);
+    if (IConfigCategory* const category = GetCategoryByRow(row))
+        category->Activate();
+    if (!alive)
+        return;
+    GetRowViewModel()->SetItemSize(row,
+                                   m_Visualisation->GetExpandedSize(painter, GetCategoryByRow(row), m_CategoryWidth));
+    if (!alive)
+        return;
+    int const height = GetBounds().bottom > g_SmallestView ? GetBounds().bottom : g_ViewWithoutLayout;
+    range<int> const extent = Utils::GetItemIndexRangeEx(GetRowViewModel(), row, {0, height});
+    m_Visualisation->ArrangeEditors(painter, GetCategoryByRow(row), this,
+                                    {0.0, static_cast<double>(extent.first), static_cast<double>(m_CategoryWidth),
+                                     static_cast<double>(extent.second)});
+}
+
+void CConfigurationViewer::RefreshActiveCategory()
+{
+    int const current = GetRowSelectionModel()->GetCurrent();
+    CategoryChanged(current, current);
+}
+
+// Scrolling -----------------------------------------------------------------------------------------------------------------------
+
+void CConfigurationViewer::ModelScrolledVert(int position, int delta, bool* moved)
+{
+    // Where the pixels were not moved, as they are not below editors, the rows are at other places all the same: all of
+    // them, or those behind one that has another height.
+    if (*moved || position <= 0)
+        ScrollElements(0, delta);
+    else
+        MoveEditors(0, delta, position);
+}
+
+void CConfigurationViewer::ModelScrolledHorz(int, int delta, bool* moved)
+{
+    if (*moved)
+        ScrollElements(delta, 0);
+}
+
+void CConfigurationViewer::ScrollElements(int dx, int dy)
+{
+    MoveEditors(dx, dy, std::numeric_limits<int>::min());
+}
+
+// Those whose top isn't above `from`.
+void CConfigurationViewer::MoveEditors(int dx, int dy, int from)
+{
+    if (m_Updating)
+        return;
+    CAliveGuard const alive(this);
+    {
+        CDrawingLock const lock(FindWindow());
+        for (int i = 0; alive && i < GetChildren()->GetCount(); ++i)
+        {
+            CVisualElement* const editor = GetChildren()->GetItem(i);
+            rectangle<int> rect = editor->GetPos();
+            rect.Normalize();
+            if (rect.top < from)
+                continue;
+            editor->SetPos({AddSaturated(rect.left, dx), AddSaturated(rect.top, dy), AddSaturated(rect.right, dx),
+                            AddSaturated(rect.bottom, dy)},
+                           true);
+        }
+    }
+    ISysWindow* const window = alive ? FindWindow() : nullptr;
+    if (!window)
+        return;
+    rectangle<int> const area = window->GetRect();
+    window->InvalidateRect(area.left, area.top, area.right, area.bottom);
+}
+
+// Painting ------------------------------------------------------------------------------------------------------------------------
+
+void CConfigurationViewer::DrawRow(IPainter* painter, int row, int skip, int state, rectangle<double> const& rect,
+                                   IDirtyItemSet::DirtyType dirty)
+{
+    if (dirty == IDirtyItemSet::dirtyOther && GetRowViewModel()->GetItemType(row) == IDirtyItemSet::dirtyOther)
+        return;
+    rectangle<double> place = rect;
+    place.top -= skip;
+    // Rows begin above the view and end below it, and a category may be wider than the view.
+    CClipHolder const clip(painter, ToDouble(GetBounds()));
+    IConfigCategory const* const category = GetCategoryByRow(row);
+    if (!category)
+        return DrawRowEmptyArea(painter, rect);
+    unsigned int const open =
+        (state & (isSelected | isCurrent)) != 0 ? ICategoryVis::stOpen | ICategoryVis::stHighlighted : 0u;
+    m_Visualisation->Draw(painter, category, place, m_CategoryWidth, open);
+}
+
+void CConfigurationViewer::DrawRowEmptyArea(IPainter* painter, rectangle<double> const& rect)
+{
+    painter->SetBrush({GetBkColor(), brush::bsSolid});
+    painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
+}
+
+}  // namespace vexel
