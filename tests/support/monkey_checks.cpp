@@ -96,8 +96,9 @@ std::string CMonkeyChecks::FindStray(bool changed)
         focused[control] = now;
         auto const before = m_Focused.find(control);
         bool const moved = before == m_Focused.end() || before->second != now;
-        if (now && moved && !changed && !CanHaveFocus(now))
-            return "The focus went to " + ElementName(now) + ", which is hidden, disabled or never has it.";
+        // It may have been disabled since, as all of a page is that was made while the gallery's switch is off.
+        if (now && moved && !changed && !(now->GetCanHaveFocus() && now->IsDisplayable()))
+            return "The focus went to " + ElementName(now) + ", which is hidden or never has it.";
     }
     m_Focused = std::move(focused);
     return {};
