@@ -12,8 +12,10 @@
 #include "vexel/platform/qt/load_animation.h"
 #include "vexel/platform/threads.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QDir>
+#include <QPalette>
 #include <QPixmap>
 #include <QWidget>
 
@@ -126,6 +128,25 @@ vexelbase::vexel_ptr<vexelbase::IAnimation> ReadAnimation(unsigned char const* d
     return vexelbase::qt::LoadAnimation(&buffer);
 }
 
+/// Colours for those who like it dark, on desktops of any theme.
+QPalette MakeDarkPalette()
+{
+    QColor const text(0xE8, 0xE8, 0xE8), dim(0x88, 0x88, 0x88);
+    QPalette palette(QColor(0x38, 0x3B, 0x40), QColor(0x2D, 0x2F, 0x33));
+    palette.setColor(QPalette::Base, QColor(0x20, 0x22, 0x25));
+    palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2C));
+    palette.setColor(QPalette::Highlight, QColor(0x2F, 0x65, 0xA8));
+    palette.setColor(QPalette::Link, QColor(0x7A, 0xB0, 0xF5));
+    palette.setColor(QPalette::ToolTipBase, QColor(0x48, 0x48, 0x38));
+    for (QPalette::ColorRole const role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::HighlightedText})
+    {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, dim);
+    }
+    return palette;
+}
+
 int Main(int argc, char** argv)
 {
     CAnimationPage::SetReader(&ReadAnimation);
@@ -153,6 +174,8 @@ int Main(int argc, char** argv)
     if (pictures)
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
     vexelbase::qt::CApplication app(argc, argv);
+    if (options.dark)
+        QApplication::setPalette(MakeDarkPalette());
     app.SetZoom(options.scale);
     CLog::Get().SetEcho(options.log);
     CProgram program(app, options, page);

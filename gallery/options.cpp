@@ -13,6 +13,7 @@ char const* GetUsage()
            "  --page NAME        start with this page; with --screenshots, paint only this one\n"
            "  --screenshots DIR  paint the pages into DIR/NAME.png and end; needs no display\n"
            "  --scale FACTOR     how large everything is, 0.5 to 4\n"
+           "  --dark             in dark colours\n"
            "  --log              print each signal and native event as a line\n"
            "  --help             this text\n";
 }
@@ -35,6 +36,8 @@ SOptions ReadOptions(int argc, char const* const* argv)
             options.list = true;
         else if (argument == "--log")
             options.log = true;
+        else if (argument == "--dark")
+            options.dark = true;
         else if (argument == "--page")
             options.page = value();
         else if (argument == "--screenshots")

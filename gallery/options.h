@@ -11,6 +11,7 @@ struct SOptions
     bool help = false;
     bool list = false;
     bool log = false;
+    bool dark = false;        ///< Light texts on dark grounds, whatever the desktop says.
     std::string page;         ///< Empty: the first.
     std::string screenshots;  ///< A folder; empty: show a window.
     double scale = 1.0;

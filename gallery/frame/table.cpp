@@ -10,9 +10,7 @@ namespace gallery
 namespace
 {
 
-_color const g_Line{0xE4E4E4};
-_color const g_Tint{0xFBF7F2};
-_color const g_Mark{0x66E0FF};
+_color const g_Yellow{0x66E0FF};
 
 _color SystemColor(ISysPalette::SysColor number)
 {
@@ -20,11 +18,23 @@ _color SystemColor(ISysPalette::SysColor number)
     return palette ? palette->GetColor(number) : _color();
 }
 
+/// The ground of the window with some sixteenths of another colour: what is pale on a light ground is dark on a dark one.
+_color Tinted(_color const& tint, int sixteenths)
+{
+    _color const ground = SystemColor(ISysPalette::scWindow);
+    auto const mix = [&](int shift) {
+        int const from = static_cast<int>(ground.m_Value >> shift & 0xFFu);
+        int const to = static_cast<int>(tint.m_Value >> shift & 0xFFu);
+        return (from * (16 - sixteenths) + to * sixteenths) / 16;
+    };
+    return _color::FromRgb(mix(0), mix(8), mix(16));
+}
+
 _color Background(CCellLook::SCell const& cell)
 {
     if (cell.state & isSelected)
         return SystemColor(cell.focused ? ISysPalette::scHighlight : ISysPalette::scHalfLight);
-    return cell.row % 2 == 1 ? g_Tint : SystemColor(ISysPalette::scWindow);
+    return cell.row % 2 == 1 ? Tinted(SystemColor(ISysPalette::scHighlight), 1) : SystemColor(ISysPalette::scWindow);
 }
 
 }  // namespace
@@ -35,7 +45,7 @@ void CCellLook::Draw(IPainter* painter, rectangle<double> const& rect, SCell con
     bool const selected = (cell.state & isSelected) != 0;
     painter->SetBrush({Background(cell), brush::bsSolid});
     painter->FillRect(rect.left, rect.top, rect.right, rect.bottom);
-    painter->SetBrush({g_Line, brush::bsSolid});
+    painter->SetBrush({Tinted(SystemColor(ISysPalette::scWindowText), 2), brush::bsSolid});
     painter->FillRect(rect.left, rect.bottom, rect.right, rect.bottom);
     painter->FillRect(rect.right, rect.top, rect.right, rect.bottom);
 
@@ -43,7 +53,7 @@ void CCellLook::Draw(IPainter* painter, rectangle<double> const& rect, SCell con
     rectangle<double> const box{rect.left + margin, rect.top, rect.right - margin, rect.bottom - 1};
     if (!highlight.empty())
     {
-        painter->SetBrush({g_Mark, brush::bsSolid});
+        painter->SetBrush({Tinted(g_Yellow, 9), brush::bsSolid});
         for (std::size_t at = text.find(highlight); at != std::string::npos; at = text.find(highlight, at + 1))
         {
             double const from = painter->GetTextSize(text, nullptr, static_cast<int>(at)).width;

@@ -35,7 +35,7 @@ std::string CNumberedLines::GetItemCaption(int index) const
 
 void CShareDrawing::DrawItem(IPainter* painter, int item, int, rectangle<double> const& rect, bool*)
 {
-    double const share = (item * 37 % 100 + 1) / 100.0;
+    double const share = (item % 100 * 37 % 100 + 1) / 100.0;
     painter->SetBrush({_color::FromRgb(140, 178, 214), brush::bsSolid});
     painter->FillRect(rect.left + 1, rect.top + 2, rect.left + 1 + (rect.right - rect.left - 2) * share,
                       rect.bottom - 2);

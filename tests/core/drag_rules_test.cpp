@@ -338,6 +338,24 @@ TEST_F(DragRules, ThePictureOfTheScreenIsDroppedWithTheFirstPaintAfterTheDrag)
     m_Host.Mouse().Release();
 }
 
+TEST_F(DragRules, TheItemIsWipedAlsoAfterAPressWhoseReleaseWasLost)
+{
+    m_Source.m_Wanted.m_GlobalUpdate = false;
+    m_Source.m_Wanted.m_UseBackground = true;
+    CPixelBuffer const clean = m_Host.Pixels();
+    m_Host.Mouse().Drag(5, 5, 40, 12);
+    m_Host.Paint();
+    m_Host.Mouse().Release();
+
+    // Before the next paint comes another press, whose end nobody tells.
+    m_Host.Mouse().Press(mbRight);
+    m_Host.Mouse().LoseRelease(mbRight);
+    m_Host.Mouse().Move(45, 12);
+    m_Host.Paint();
+
+    EXPECT_EQ_PIXELS(clean, m_Host.Pixels());
+}
+
 TEST_F(DragRules, ADragStartedByProgramBeforeTheLastItemWasWipedSavesTheScreenAnew)
 {
     StartByProgram(false);

@@ -208,14 +208,15 @@ TEST(Gallery, ATileDroppedOnTheLeftBinIsCounted)
 
 TEST(GalleryOptions, AreReadFromTheCommandLine)
 {
-    char const* const words[] = {"vexel-gallery", "--page", "focus",         "--log",
-                                 "--scale",       "1.5",    "--screenshots", "shots"};
+    char const* const words[] = {"vexel-gallery", "--page",        "focus", "--log", "--scale",
+                                 "1.5",           "--screenshots", "shots", "--dark"};
 
-    SOptions const options = ReadOptions(8, words);
+    SOptions const options = ReadOptions(9, words);
 
     EXPECT_EQ(options.error, "");
     EXPECT_EQ(options.page, "focus");
     EXPECT_TRUE(options.log);
+    EXPECT_TRUE(options.dark);
     EXPECT_FALSE(options.list);
     EXPECT_EQ(options.scale, 1.5);
     EXPECT_EQ(options.screenshots, "shots");

@@ -146,6 +146,27 @@ TEST_F(ContractWindow, ResizedTellsItKeepsPixelsAndAsksForAFullPaint)
     EXPECT_FALSE(Ear().m_WasFull);
 }
 
+TEST_F(ContractWindow, WithoutAnAreaIsPaintedOnceItHasOne)
+{
+    Bench().Resize(Window(), {120, 0});
+    Bench().Settle();
+    Ear().m_Draws = 0;
+    Ear().m_Draw = [this](IPainter&) {
+        if (Window().GetRect().IsEmpty() && Ear().m_Draws < 50)
+            Window().InvalidateRect(0, 0, 120, 120);  // as a layout does that finds another place for something
+    };
+    Window().InvalidateRect(0, 0, 120, 120);
+    Window().UpdateNow();
+    Bench().Settle();
+    EXPECT_EQ(Window().GetRect(), (rectangle<int>{0, 0, 120, 0}));
+    EXPECT_EQ(Ear().m_Draws, 0);
+    Bench().Resize(Window(), {120, 90});
+    Bench().Settle();
+    EXPECT_EQ(Ear().m_Draws, 1);
+    EXPECT_TRUE(Ear().m_WasFull);
+    Ear().m_Draw = nullptr;
+}
+
 // Paints -----------------------------------------------------------------------------------------------------------
 
 TEST_F(ContractWindow, ManyRequestsJoinToOnePaintThatComesLater)

@@ -453,6 +453,18 @@ TEST(MemorySystem, PaletteColoursAreFixedUntilSet)
     EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scFace), _color(0xFFC0C0C0));
 }
 
+TEST(MemorySystem, ADarkThemeHasLightTextsAndGoesWithAReset)
+{
+    CMemorySystem system;
+    system.GetMemoryPalette().SetDark();
+    EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scWindow), _color(0xFF202020));
+    EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scWindowText), _color(0xFFE8E8E8));
+    EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scFace), _color(0xFF383838));
+    EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scHighlight), _color(0xFFA05820));  // 20 58 A0
+    system.Reset();
+    EXPECT_EQ(GetSysPalette()->GetColor(ISysPalette::scWindow), _color(0xFFFFFFFF));
+}
+
 TEST(MemorySystem, PicturesStartWhiteAndMayBeEmpty)
 {
     CMemorySystem system;

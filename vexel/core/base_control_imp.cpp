@@ -179,6 +179,14 @@ void CBaseControlImp::UpdateElement(CVisualElement* element, UpdateType type)
     InvalidateWindow();
 }
 
+std::vector<CVisualElement*> CBaseControlImp::ListItems(CElementList& list)
+{
+    std::vector<CVisualElement*> items(static_cast<std::size_t>(list.GetCount()));
+    for (std::size_t i = 0; i < items.size(); ++i)
+        items[i] = list.GetItem(static_cast<int>(i));
+    return items;
+}
+
 // No list and none of the remembered pointers has the element afterwards.
 void CBaseControlImp::Forget(CVisualElement* element)
 {

@@ -14,6 +14,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace vexel
 {
@@ -69,6 +70,11 @@ public:
     void RearrangeInt();           ///< Lays out the elements that wait.
     rectangle<int> GetRealDrawRect() const;  ///< The window's rectangle, right and bottom less 1.
     void InvalidateWindow();
+    /// What waits for a repaint, or for a layout of its children: for tools that look for what doesn't belong there.
+    /// An entry that was taken out while the list was walked may be null.
+    std::vector<CVisualElement*> ListUpdates() { return ListItems(m_Updates); }
+    std::vector<CVisualElement*> ListRearranges() { return ListItems(m_Rearranges); }
+    bool IsRearrangeLocked() const { return m_RearrangeLock > 0; }
 
     // Mouse -----------------------------------------------------------------------------------------------------------------
     void ProcessMouseMove(CMouseEvent* event);
@@ -112,6 +118,7 @@ private:
     class CFlagScope;
     class CLayoutDebt;
 
+    static std::vector<CVisualElement*> ListItems(CElementList& list);
     ISysWindow* FindWindow() const;
     void SetWindowCursor(int cursor) const;
     CVisualElement* GetMouseTarget() const { return m_Capture ? m_Capture : m_Root; }

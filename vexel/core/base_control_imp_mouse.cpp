@@ -59,8 +59,8 @@ void CBaseControlImp::ProcessMouseMove(CMouseEvent* event)
     point<int> const position{event->m_X, event->m_Y};
     if (event->m_Button == mbNone && m_PressedElement)
     {
-        // The release was lost.
-        m_MouseFlags = 0;
+        // The release was lost. What the next paint has to do for a drag stays.
+        m_MouseFlags &= unsigned{mfMakeBackground | mfPutBackground};
         m_PressedElement = nullptr;
     }
     CAlivePtr<CBaseControlImp> const alive(this);

@@ -130,6 +130,9 @@ void CBaseWindow::PaintFrame()
     if (m_InPaint || m_DrawingLock > 0 || m_Destroying || !m_Device)
         return;
     m_FramePending = false;
+    // What is due without an area waits for one. The control would lay out in vain, and ask for the next frame by that.
+    if (GetRect().IsEmpty())
+        return;
     if (std::exchange(m_PaintDue, false) && !PaintTarget())
         return;
     // A frame that came during the paint, from a native loop of some handler, has brought nothing.

@@ -3,6 +3,16 @@
 namespace vexelbase::memory
 {
 
+namespace
+{
+
+_color Grey(int level)
+{
+    return _color::FromRgb(level, level, level);
+}
+
+}  // namespace
+
 _color CMemoryPalette::GetColor(SysColor number) const
 {
     int const index = number;
@@ -19,21 +29,38 @@ void CMemoryPalette::SetColor(SysColor number, _color const& color)
 
 void CMemoryPalette::Reset()
 {
-    auto const grey = [](int level) { return _color::FromRgb(level, level, level); };
     m_Colors = {color_table[1],
-                grey(0xFF),                          // window
-                grey(0x00),                          // window text
-                grey(0xC0),                          // face
-                grey(0xF0),                          // light
-                grey(0xE0),                          // half light
-                grey(0x80),                          // shadow
-                grey(0x40),                          // dark shadow
-                grey(0x10),                          // control text
+                Grey(0xFF),                          // window
+                Grey(0x00),                          // window text
+                Grey(0xC0),                          // face
+                Grey(0xF0),                          // light
+                Grey(0xE0),                          // half light
+                Grey(0x80),                          // shadow
+                Grey(0x40),                          // dark shadow
+                Grey(0x10),                          // control text
                 _color::FromRgb(0x30, 0x60, 0xC0),   // highlight
-                grey(0xFF),                          // highlight text
+                Grey(0xFF),                          // highlight text
                 _color::FromRgb(0xFF, 0xFF, 0xE0),   // tooltip
-                grey(0x20),                          // tooltip text
+                Grey(0x20),                          // tooltip text
                 _color::FromRgb(0x00, 0x00, 0xFF)};  // link
+}
+
+void CMemoryPalette::SetDark()
+{
+    m_Colors = {color_table[1],
+                Grey(0x20),                          // window
+                Grey(0xE8),                          // window text
+                Grey(0x38),                          // face
+                Grey(0x60),                          // light
+                Grey(0x50),                          // half light
+                Grey(0x18),                          // shadow
+                Grey(0x08),                          // dark shadow
+                Grey(0xE0),                          // control text
+                _color::FromRgb(0x20, 0x58, 0xA0),   // highlight
+                Grey(0xFF),                          // highlight text
+                _color::FromRgb(0x48, 0x48, 0x30),   // tooltip
+                Grey(0xD8),                          // tooltip text
+                _color::FromRgb(0x70, 0xA8, 0xFF)};  // link
 }
 
 }  // namespace vexelbase::memory

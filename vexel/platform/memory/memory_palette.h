@@ -24,7 +24,9 @@ public:
 
     _color GetColor(SysColor number) const override;
     void SetColor(SysColor number, _color const& color);  ///< As if the user had chosen another theme; tells nobody.
-    void Reset();
+    void Reset();                                         ///< The colours above.
+    /// To those of a dark theme: light texts on dark grounds; no two of them are equal.
+    void SetDark();
 
 private:
     std::array<_color, 14> m_Colors;
