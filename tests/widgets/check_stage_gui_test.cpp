@@ -2,11 +2,14 @@
 
 #include "vexel/widgets/check_stage_gui.h"
 
+#include "tests/support/leaf.h"
 #include "tests/support/virtual_order.h"
 #include "tests/widgets/stage_bench.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <utility>
 
 using namespace vexel;
 using namespace vexel::test;
@@ -190,6 +193,37 @@ TEST_F(CheckStageGui, ACheckThatFailsShowsItsBox)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+TEST_F(CheckStageGui, ABoxInTheDesktopsColoursGoesOnFollowingThem)
+{
+    Process();
+    EXPECT_EQ(m_Host.PixelAt(290, 5), _color(0xFFC0C0C0u));
+    CTestHost::System().GetMemoryPalette().SetColor(ISysPalette::scFace, color_table[13]);
+    CTestHost::System().GetMemoryPalette().SetColor(ISysPalette::scControlText, color_table[4]);
+    m_Host.SysColorChange();
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.PixelAt(290, 5), color_table[13]);
+    EXPECT_EQ(Box().GetTitle().GetFgColor(), color_table[4]);
+    EXPECT_EQ(Box().GetText().GetFgColor(), color_table[4]);
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(CheckStageGui, ABoxHasTheColoursThatItsParentAnswers)
+{
+    class CColouredPane : public CVisualElement
+    {
+    public:
+        using CVisualElement::CVisualElement;
+        _color GetBkColor() const override { return color_table[6]; }
+        _color GetFgColor() const override { return color_table[9]; }
+    };
+    CColouredPane pane(m_Host.Root(), {0, 100}, alTop);
+    m_Stage->SetParent(&pane);
+    Process();
+    EXPECT_EQ(Box().GetBkColor(), color_table[6]);
+    EXPECT_EQ(Box().GetTitle().GetFgColor(), color_table[9]);
+    EXPECT_EQ(Box().GetText().GetFgColor(), color_table[9]);
+}
+
 TEST_F(CheckStageGui, TheBoxHasRoomBelowItsButtons)
 {
     Process();
@@ -262,6 +296,56 @@ TEST_F(CheckStageGui, APressInTheSlotOfTheNewBoxCounts)
     Process();
     EXPECT_THAT(m_Log.Text(), testing::HasSubstr("result(2) focus() complete(false) told(false)"));
     EXPECT_FALSE(Box().IsVisible());
+}
+
+TEST_F(CheckStageGui, ARunInTheSlotOfTheNewBoxTakesOver)
+{
+    bool first = true;
+    auto const slot = Listen(m_Stage->m_BoxCreated, [&](CMessageBox*) {
+        if (std::exchange(first, false))
+            m_Stage->Process(&m_Notify);
+    });
+    GiveTimer();
+    Process();
+    EXPECT_EQ(m_Log.Take(), "check(false) created check(false) created");
+    EXPECT_EQ(BoxCount(), 1);
+    EXPECT_TRUE(m_Stage->GetTimer()->IsRunning());
+    Press(0);
+    EXPECT_EQ(m_Log.Take(), "check(true) result(1) focus() complete(true) told(true)");
+}
+
+TEST_F(CheckStageGui, ARunInTheSlotOfTheFocusTakesOver)
+{
+    m_Stage->SetButtons(0, 0);
+    bool first = true;
+    auto const slot = Listen(m_Pane.m_SigGetFocus, [&](CVisualElement*) {
+        if (!std::exchange(first, false))
+            return;
+        m_Stage->SetButtons(3, 1);
+        m_Stage->Process(&m_Notify);
+    });
+    Process();
+    EXPECT_EQ(BoxCount(), 1);
+    EXPECT_EQ(Box().GetButtons().GetButtonCount(), 2u);
+    EXPECT_TRUE(Box().IsVisible());
+}
+
+TEST_F(CheckStageGui, ABoxThatIsDeletedInTheSlotOfTheNewBoxFailsTheStage)
+{
+    auto const slot = Listen(m_Stage->m_BoxCreated, [](CMessageBox* box) { delete box; });
+    GiveTimer();
+    Process();
+    EXPECT_EQ(m_Log.Take(), "check(false) created focus() complete(false) told(false)");
+    EXPECT_EQ(m_Stage->GetBox(), nullptr);
+    EXPECT_FALSE(m_Stage->GetTimer()->IsRunning());
+}
+
+TEST_F(CheckStageGui, AParentThatIsTakenAwayInTheSlotOfTheNewBoxFailsTheStage)
+{
+    auto const slot = Listen(m_Stage->m_BoxCreated, [this](CMessageBox*) { m_Stage->SetParent(nullptr); });
+    Process();
+    EXPECT_EQ(m_Log.Take(), "check(false) created complete(false) told(false)");
+    EXPECT_EQ(BoxCount(), 0);
 }
 
 TEST_F(CheckStageGui, AParentThatCannotHaveTheFocusIsSurvived)
@@ -565,6 +649,37 @@ TEST_F(CheckStageGui, ABoxThatWasDeletedIsForgotten)
     EXPECT_FALSE(m_Stage->GetTimer()->IsRunning());
 }
 
+TEST_F(CheckStageGui, ABoxThatIsDeletedAsItsCheckClearsLeavesNoTimerRunning)
+{
+    GiveTimer();
+    Process();
+    m_Notify.m_Deed = [this](bool) { delete m_Stage->GetBox(); };
+    m_Stage->m_Fails = false;
+    m_Log.Clear();
+    m_Host.Clock().Advance(300);
+    EXPECT_EQ(m_Log.Take(), "check(true) focus() complete(true) told(true)");
+    EXPECT_FALSE(m_Stage->GetTimer()->IsRunning());
+}
+
+TEST_F(CheckStageGui, ARunThatBeginsAsTheCheckClearsPollsOn)
+{
+    GiveTimer();
+    Process();
+    m_Notify.m_Deed = [this](bool) {
+        m_Notify.m_Deed = nullptr;
+        m_Stage->m_Fails = true;
+        m_Stage->Process(&m_Notify);
+    };
+    m_Stage->m_Fails = false;
+    m_Log.Clear();
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(m_Log.Take(), "check(true) focus() complete(true) told(true) check(false) created");
+    EXPECT_TRUE(Box().IsVisible());
+    EXPECT_TRUE(m_Stage->GetTimer()->IsRunning());
+    m_Host.Clock().Advance(100);
+    EXPECT_EQ(m_Log.Take(), "check(true)");
+}
+
 TEST_F(CheckStageGui, ATimerThatIsReplacedIsNotHeardAnyMore)
 {
     vexel_ptr<ISysTimer> const first = CTestHost::System().CreateTimer(100, 0);
@@ -634,14 +749,19 @@ TEST_F(CheckStageGui, AStageThatDiesTakesItsBoxAlong)
 {
     vexel_ptr<ISysTimer> const timer = CTestHost::System().CreateTimer(100, 0);
     m_Stage->SetTimer(timer);
+    auto* const leaf = new CLeaf(&m_Pane, {0, 0}, alClient, 3);
     Process();
+    EXPECT_EQ(leaf->GetPos(), (Rect{0, 71, 299, 278}));
     m_Log.Clear();
     m_Stage.reset();
-    EXPECT_EQ(BoxCount(), 0);
+    EXPECT_EQ(BoxCount(), 1);
+    EXPECT_FALSE(timer->IsRunning());
+    m_Host.Paint();
+    EXPECT_EQ(leaf->GetPos(), (Rect{0, 0, 299, 278}));
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+    timer->SetRunning(true);
     m_Host.Clock().Advance(300);
     EXPECT_EQ(m_Log.Text(), "");
-    m_Host.Paint();
-    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
     timer->SetRunning(false);
 }
 

@@ -138,7 +138,8 @@ private:
         m_Log.Note("new", box);
         m_Boxes.push_back(box);
         m_Deaths.push_back(Listen(box->m_SigDestroy, [this](CVisualElement* dead) { std::erase(m_Boxes, dead); }));
-        m_Ears.push_back(Listen(box->m_ButtonPressed, [this](CMessageBox* pressed, int bit) { Pressed(*pressed, bit); }));
+        m_Ears.push_back(
+            Listen(box->m_ButtonPressed, [this](CMessageBox* pressed, int bit) { Pressed(*pressed, bit); }));
     }
     void Drop(CMessageBox* box)
     {
@@ -175,7 +176,7 @@ private:
     }
     std::string Words()
     {
-        static char const* const words[] = {"", "Disk", "a\nb", "About 200 MB", "one two three four five six seven",
+        static char const* const words[] = {"",    "Disk", "a\nb", "About 200 MB", "one two three four five six seven",
                                             "gone"};
         return m_Random.Pick(words);
     }

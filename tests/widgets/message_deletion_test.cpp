@@ -42,8 +42,8 @@ public:
 
     static std::vector<void (CBoxScene::*)()> Steps()
     {
-        return {&CBoxScene::Fill,  &CBoxScene::Focus, &CBoxScene::Press, &CBoxScene::Wait, &CBoxScene::ShowAgain,
-                &CBoxScene::Press, &CBoxScene::Level, &CBoxScene::Clear};
+        return {&CBoxScene::Fill,      &CBoxScene::Focus, &CBoxScene::Press, &CBoxScene::Wait,
+                &CBoxScene::ShowAgain, &CBoxScene::Press, &CBoxScene::Level, &CBoxScene::Clear};
     }
     void Run(int misdeedAt = -1, std::function<void(CBoxScene&)> const& misdeed = {})
     {
@@ -166,11 +166,11 @@ public:
     static std::vector<void (CStageScene::*)()> Steps()
     {
         using Scene = CStageScene;
-        return {&Scene::Start,     &Scene::Tick,  &Scene::Accept, &Scene::Start,  &Scene::Refuse,
-                &Scene::Start,     &Scene::Clear, &Scene::Tick,   &Scene::Start,  &Scene::Fail,
-                &Scene::NoButtons, &Scene::Start, &Scene::Clear,  &Scene::Tick,   &Scene::Fail,
-                &Scene::NoTexts,   &Scene::Start, &Scene::Texts,  &Scene::Start,  &Scene::Start,
-                &Scene::NoWait,    &Scene::Clear, &Scene::Accept, &Scene::Hand,   &Scene::Start};
+        return {&Scene::Start,     &Scene::Tick,  &Scene::Accept, &Scene::Start, &Scene::Refuse,
+                &Scene::Start,     &Scene::Clear, &Scene::Tick,   &Scene::Start, &Scene::Fail,
+                &Scene::NoButtons, &Scene::Start, &Scene::Clear,  &Scene::Tick,  &Scene::Fail,
+                &Scene::NoTexts,   &Scene::Start, &Scene::Texts,  &Scene::Start, &Scene::Start,
+                &Scene::NoWait,    &Scene::Clear, &Scene::Accept, &Scene::Hand,  &Scene::Start};
     }
     void Run(int misdeedAt = -1, std::function<void(CStageScene&)> const& misdeed = {})
     {
@@ -345,24 +345,25 @@ INSTANTIATE_TEST_SUITE_P(ByDeed, MessageBoxDeeds,
                                                                   {"ClearButtons", &CBoxScene::ClearButtons},
                                                                   {"Wait", &CBoxScene::Wait}})),
                          NameOfDeed());
-INSTANTIATE_TEST_SUITE_P(
-    ByDeed, CheckStageGuiDeeds,
-    testing::ValuesIn(WithCommon<CStageScene>({{"DeleteStage", &CStageScene::DeleteStage},
-                                               {"DeleteChainAndStage", &CStageScene::DeleteChainAndStage},
-                                               {"DeleteBox", &CStageScene::DeleteBox},
-                                               {"HideBox", &CStageScene::HideBox},
-                                               {"MoveBox", &CStageScene::MoveBox},
-                                               {"DropParent", &CStageScene::DropParent},
-                                               {"DropTimer", &CStageScene::DropTimer},
-                                               {"ClearButtons", &CStageScene::ClearButtons},
-                                               {"Restart", &CStageScene::Restart},
-                                               {"PassIt", &CStageScene::PassIt}})),
-    NameOfDeed());
+INSTANTIATE_TEST_SUITE_P(ByDeed, CheckStageGuiDeeds,
+                         testing::ValuesIn(WithCommon<CStageScene>({{"DeleteStage", &CStageScene::DeleteStage},
+                                                                    {"DeleteChainAndStage",
+                                                                     &CStageScene::DeleteChainAndStage},
+                                                                    {"DeleteBox", &CStageScene::DeleteBox},
+                                                                    {"HideBox", &CStageScene::HideBox},
+                                                                    {"MoveBox", &CStageScene::MoveBox},
+                                                                    {"DropParent", &CStageScene::DropParent},
+                                                                    {"DropTimer", &CStageScene::DropTimer},
+                                                                    {"ClearButtons", &CStageScene::ClearButtons},
+                                                                    {"Restart", &CStageScene::Restart},
+                                                                    {"PassIt", &CStageScene::PassIt}})),
+                         NameOfDeed());
 
 // In these nobody catches what a slot throws: layout and painting happen in frames.
 bool IsInFrame(std::string const& signal)
 {
-    static std::set<std::string> const names{"size", "titleSize", "spacerSize", "draw", "imageDraw", "boxSize", "paneSize"};
+    static std::set<std::string> const names{"size",      "titleSize", "spacerSize", "draw",
+                                             "imageDraw", "boxSize",   "paneSize"};
     return names.contains(signal);
 }
 
@@ -370,8 +371,8 @@ bool IsInFrame(std::string const& signal)
 
 TEST_P(MessageBoxDeeds, InASlotAreSurvived)
 {
-    static char const* const signals[] = {"pressed", "set",       "clicked",        "size", "titleSize", "spacerSize",
-                                          "draw",    "imageDraw", "buttonsVisible", "focus"};
+    static char const* const signals[] = {"pressed",    "set",  "clicked",   "size",           "titleSize",
+                                          "spacerSize", "draw", "imageDraw", "buttonsVisible", "focus"};
     DoInEachSlot(signals, [this](std::string const& signal) { return Is("Cancel") && IsInFrame(signal); });
 }
 
@@ -382,9 +383,9 @@ TEST_P(MessageBoxDeeds, BetweenTwoStepsAreSurvived)
 
 TEST_P(CheckStageGuiDeeds, InASlotAreSurvived)
 {
-    static char const* const signals[] = {"check",    "result",     "created", "starting",       "finished",
-                                          "aborted",  "focus",      "lost",    "complete",       "boxVisible",
-                                          "boxSize",  "boxPressed", "boxFocus", "buttonsVisible", "paneSize"};
+    static char const* const signals[] = {"check",   "result",     "created",  "starting",       "finished",
+                                          "aborted", "focus",      "lost",     "complete",       "boxVisible",
+                                          "boxSize", "boxPressed", "boxFocus", "buttonsVisible", "paneSize"};
     DoInEachSlot(signals, [this](std::string const& signal) { return Is("Cancel") && IsInFrame(signal); });
 }
 
