@@ -3,6 +3,7 @@
 #include "vexel/widgets/check_stage_gui.h"
 
 #include "tests/support/leaf.h"
+#include "tests/support/scripted_system.h"
 #include "tests/support/virtual_order.h"
 #include "tests/widgets/stage_bench.h"
 
@@ -254,6 +255,21 @@ TEST_F(CheckStageGui, TheParentsFontDoesNotChangeTheRoomBelowTheButtons)
     Process();
     EXPECT_EQ(Box().GetPos().bottom, 70);
     EXPECT_EQ(Box().GetFont().size, 16);
+}
+
+TEST_F(CheckStageGui, ALargerDefaultFontMakesMoreRoomBelowTheButtons)
+{
+    CVisualElement pane(nullptr, {100, 100}, alClient);
+    m_Stage->SetParent(&pane);
+    {
+        CScriptedSystem system;
+        font large = system.GetDefaultFont();
+        large.size = 16;
+        system.SetDefaultFont(large);
+        m_Stage->Process(nullptr);
+    }
+    pane.ReParent(m_Host.Root(), true);
+    EXPECT_EQ(Box().GetSize().height, 80);  // 20 less 6 below
 }
 
 TEST_F(CheckStageGui, ALongTextWrapsInTheBox)
@@ -707,6 +723,8 @@ TEST_F(CheckStageGui, TheSameTimerGivenTwiceTicksOnce)
     m_Log.Clear();
     m_Host.Clock().Advance(100);
     EXPECT_EQ(m_Log.Take(), "check(true)");
+    m_Stage->SetTimer(timer);
+    EXPECT_TRUE(timer->IsRunning());
 }
 
 // Several runs ------------------------------------------------------------------------------------------------------------------
