@@ -809,3 +809,25 @@ TEST_F(CheckStageGui, AChainGoesFromBoxToBox)
     EXPECT_EQ(m_Log.Take(), "starting(0) check(false) created result(2) focus() complete(false) aborted()");
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
+
+TEST_F(CheckStageGui, AStageMayDieInTheCheckThatClears)
+{
+    auto stage = std::make_unique<CCheckStageGui>();
+    bool fails = true;
+    auto const check = Listen(stage->m_Check, [&](bool& failed) {
+        failed = fails;
+        if (!fails)
+            stage.reset();
+    });
+    stage->SetParent(&m_Pane);
+    stage->SetMessage(0, "Disk", "About");
+    stage->SetButtons(1, 1);
+    stage->SetTimer(CTestHost::System().CreateTimer(100, 0));
+    stage->Process(&m_Notify);
+    EXPECT_EQ(BoxCount(), 1);
+    fails = false;
+    m_Host.Clock().Advance(300);
+    EXPECT_EQ(stage, nullptr);
+    EXPECT_EQ(BoxCount(), 0);
+    EXPECT_EQ(m_Log.Text(), "");
+}

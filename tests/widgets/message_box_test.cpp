@@ -397,19 +397,6 @@ TEST_F(MessageBox, AnOddTitleIsHalvedAsWholePixels)
     EXPECT_EQ(Spaces(), "20 13");  // 26 - 6; 42 - (6 + 13 + 20 - 10)
 }
 
-// What is hidden asks for no layout, so that one alignment shows alone.
-TEST_F(MessageBox, OneAlignmentIsEnough)
-{
-    m_Looks.NewPicture(1, {32, 32});
-    Show(1, "Disk", "About");
-    m_Box.GetImage().SetAutoSize(false);
-    m_Box.GetTopSpacer().SetVisible(false);
-    m_Box.GetTitleSpacer().SetVisible(false);
-    m_Box.GetImage().SetOffset({10, 20, 10, 14});
-    m_Box.CheckImageAlign();
-    EXPECT_EQ(Spaces(), "30 18");
-}
-
 TEST_F(MessageBox, EachArrangementLevelsAndCountsAsTheBoxs)
 {
     m_Looks.NewPicture(1, {32, 32});
