@@ -204,7 +204,7 @@ void CCheckStageGui::Pass()
     if (alive && waits && m_Notify)
         DoComplete(true);
     // The chain may have begun anew meanwhile, with another box.
-    if (alive && (!m_Box || m_Box.get() == box.get()))
+    if (alive && m_Box.get() == box.get())
         RunTimer(false);
 }
 
