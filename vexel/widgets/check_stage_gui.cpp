@@ -10,21 +10,19 @@ namespace
 
 size<int> const g_BoxSize{10, 10};
 
-// A colour of the system's as such, so that it goes on following the desktop.
+// The parent's colour; one of the system's as such, so that it goes on following the desktop.
 void TakeBkColor(CVisualElement& box, CVisualElement const& parent)
 {
-    if (parent.GetBkSysColor() == ISysPalette::scLiteral)
+    box.SetBkColor(parent.GetBkSysColor());
+    if (box.GetBkColor() != parent.GetBkColor())
         box.SetBkColor(parent.GetBkColor());
-    else
-        box.SetBkColor(parent.GetBkSysColor());
 }
 
 void TakeFgColor(CVisualElement& caption, CVisualElement const& parent)
 {
-    if (parent.GetFgSysColor() == ISysPalette::scLiteral)
+    caption.SetFgColor(parent.GetFgSysColor());
+    if (caption.GetFgColor() != parent.GetFgColor())
         caption.SetFgColor(parent.GetFgColor());
-    else
-        caption.SetFgColor(parent.GetFgSysColor());
 }
 
 }  // namespace
@@ -78,9 +76,11 @@ void CCheckStageGui::RunTimer(bool run)
 
 void CCheckStageGui::DropBox()
 {
-    CMessageBox* const box = m_Box.get();
+    CAlivePtr<CMessageBox> const box(m_Box.get());
     m_Box.Watch(nullptr);
-    delete box;
+    if (box)
+        box->ReParent(nullptr, true);  // its room is given away
+    delete box.get();
 }
 
 void CCheckStageGui::DoCheck(bool& failed)
@@ -125,17 +125,18 @@ void CCheckStageGui::ShowBox()
     TakeFgColor(box->GetTitle(), *m_Parent);
     TakeFgColor(box->GetText(), *m_Parent);
     box->m_ButtonPressed.connect(this, &CCheckStageGui::ProcessResult);
+    auto const isLast = [&] { return alive && m_Box.get() == box.get(); };  // no slot has begun another run
     m_BoxCreated(box.get());
-    if (!alive)
+    if (!isLast())
         return;
     if (!box || !m_Parent)  // nobody can answer
         return DoComplete(false);
     box->ReParent(m_Parent.get(), true);
-    if (!alive)
+    if (!isLast())
         return;
     if (CVisualElement* const first = box ? box->GetFirstTabElement() : nullptr)
         first->SetFocus(true);
-    if (!alive)
+    if (!isLast())
         return;
     RunTimer(true);
     if (m_ButtonMask == 0)
@@ -196,14 +197,14 @@ void CCheckStageGui::OnTimer(CTimerEvent*)
 void CCheckStageGui::Pass()
 {
     CAlivePtr<CCheckStageGui> const alive(this);
-    CMessageBox* const box = m_Box.get();
+    CAlivePtr<CMessageBox> const box(m_Box.get());
     bool const waits = box && box->IsVisible() && box->IsButtonsVisible();
     if (box)
         box->SetVisible(false);
     if (alive && waits && m_Notify)
         DoComplete(true);
     // The chain may have begun anew meanwhile, with another box.
-    if (alive && m_Box.get() == box)
+    if (alive && m_Box.get() == box.get())
         RunTimer(false);
 }
 
