@@ -730,3 +730,38 @@ TEST_F(ScrollContainer, ContainersMayStandInContainers)
 }
 
 }  // namespace
+
+// Asks for its own width whatever it is given.
+class CStubborn : public CPlaced
+{
+public:
+    using CPlaced::CPlaced;
+    int m_Wanted = 300;
+    void ProcessRearrange(CVisualElement**) override
+    {
+        if (GetSize().width < m_Wanted)
+            SetWidth(m_Wanted, false);
+    }
+};
+
+TEST_F(ScrollContainer, AnElementThatInsistsOnItsWidthIsAskedOnceForEachView)
+{
+    auto* const stubborn = new CStubborn(nullptr, {300, 400}, alNone);
+    Part().SetFitMode(CScrollContainer::fmWidth);
+    m_Container->SetScrolled(stubborn);
+    delete m_Content;
+    m_Host.Paint();  // fails if it goes on asking for frames
+    EXPECT_FALSE(m_Host.IsFramePending());
+    EXPECT_EQ(stubborn->GetSize().width, 300);
+    EXPECT_EQ(Part().GetHorzTo(), 301);
+    ExpectPainted();
+
+    stubborn->m_Wanted = 0;
+    m_Host.Resize(120, 80);
+    m_Host.Paint();
+    EXPECT_EQ(stubborn->GetSize().width, 101);  // the other view is taken
+    stubborn->SetWidth(250, false);
+    m_Host.Paint();
+    EXPECT_EQ(stubborn->GetSize().width, 101);  // also after a change of its own
+    ExpectPainted();
+}

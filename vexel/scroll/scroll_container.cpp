@@ -47,6 +47,12 @@ CVisualElement* CScrollContainer::CCentralPart::GetScrolled() const
     return m_Scrolled && m_Scrolled->GetParent() == this ? m_Scrolled : nullptr;
 }
 
+void CScrollContainer::CCentralPart::SetScrolled(CVisualElement* element)
+{
+    m_Scrolled = element;
+    m_FittedChild = nullptr;
+}
+
 void CScrollContainer::CCentralPart::SetSteps(int horizontal, int vertical)
 {
     m_HorzStep = horizontal;
@@ -59,6 +65,7 @@ void CScrollContainer::CCentralPart::SetFitMode(FitMode mode)
     if (mode == m_FitMode)
         return;
     m_FitMode = mode;
+    m_FittedChild = nullptr;
     OnRearrange(this);
 }
 
@@ -141,16 +148,33 @@ void CScrollContainer::CCentralPart::SetPos(rectangle<int> const& rect, bool for
         return;
     rectangle<int> const bounds = GetBounds();
     CAliveGuard const childAlive(child);
-    if (m_FitMode == fmHeight)
-        child->SetHeight(SubtractSaturated(bounds.bottom, 1), false);
-    else if (m_FitMode == fmWidth)
-        child->SetWidth(SubtractSaturated(bounds.right, 1), false);
+    if (m_FitMode != fmNone)
+        FitChild(*child);
     if (!alive || !childAlive)
         return;
     int const left = ToInt(-CutStart(GetHorzStart(), GetHorzTo(), bounds.right));
     int const top = ToInt(-CutStart(GetVertStart(), GetVertTo(), bounds.bottom));
     size<int> const extent = child->GetSize();
     child->SetPos({left, top, AddSaturated(left, extent.width), AddSaturated(top, extent.height)}, force);
+}
+
+// An element that insists on a size of its own is asked once for each size of the view: both would go on laying out.
+void CScrollContainer::CCentralPart::FitChild(CVisualElement& child)
+{
+    size<int> const view{GetBounds().right, GetBounds().bottom};
+    if (&child == m_FittedChild && view == m_FittedView && child.GetSize() == m_FittedSize)
+        return;
+    CAliveGuard const alive(this);
+    CAliveGuard const childAlive(&child);
+    if (m_FitMode == fmHeight)
+        child.SetHeight(SubtractSaturated(view.height, 1), false);
+    else if (m_FitMode == fmWidth)
+        child.SetWidth(SubtractSaturated(view.width, 1), false);
+    if (!alive || !childAlive)
+        return;
+    m_FittedChild = &child;
+    m_FittedView = view;
+    m_FittedSize = child.GetSize();
 }
 
 // Native controls in the tree below follow.

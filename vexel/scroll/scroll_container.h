@@ -28,7 +28,7 @@ public:
         CCentralPart(CVisualElement* parent, size<int> const& extent, Alignment alignment);
 
         CVisualElement* GetScrolled() const;  ///< Null also for one that has another parent now.
-        void SetScrolled(CVisualElement* element) { m_Scrolled = element; }  ///< Called by the container.
+        void SetScrolled(CVisualElement* element);  ///< Called by the container.
         void SetSteps(int horizontal, int vertical);  ///< Line steps in pixels; 10 at first. 0: no range on that axis.
         FitMode GetFitMode() const { return m_FitMode; }
         void SetFitMode(FitMode mode);  ///< fmNone at first. Lays out.
@@ -67,6 +67,7 @@ public:
 
     private:
         void MoveChild(rectangle<int> const& rect);
+        void FitChild(CVisualElement& child);
         bool DrawsOnlyChanges(IPainter* painter) const;
 
         CVisualElement* m_Scrolled = nullptr;
@@ -77,6 +78,9 @@ public:
         bool m_FullRepaint = true;
         bool m_FillAroundChild = false;
         FitMode m_FitMode = fmNone;
+        CVisualElement const* m_FittedChild = nullptr;  // the last one that was fitted; only compared
+        size<int> m_FittedView;                         // for a view of this size,
+        size<int> m_FittedSize;                         // and what it asked for thereafter
     };
 
     CScrollContainer(CVisualElement* parent, size<int> const& extent, Alignment alignment);
