@@ -69,7 +69,16 @@ void CEventLog::CLogList::RecalcSize()
 {
     CAliveGuard const alive(this);
     CList::RecalcSize();
-    ISysWindow* const window = alive && GetControl() ? GetControl()->GetWindow() : nullptr;
+    if (alive)
+        MeasureNewLines();
+    if (alive)
+        Update(utElement);
+}
+
+void CEventLog::CLogList::MeasureNewLines()
+{
+    CAliveGuard const alive(this);
+    ISysWindow* const window = GetControl() ? GetControl()->GetWindow() : nullptr;
     if (!window || !GetModel())
         return;
     // Lines that were taken away will be new when they come back.
@@ -94,8 +103,6 @@ void CEventLog::CLogList::RecalcSize()
     m_MeasuredCount = count;
     if (widest > GetSize().width)
         SetWidth(widest, false);
-    if (alive)
-        Update(utElement);
 }
 
 // With image and title ----------------------------------------------------------------------------------------------------------
@@ -150,6 +157,10 @@ CEventLog::~CEventLog()
 void CEventLog::SetModel(IItemsModel* model)
 {
     CAliveGuard const alive(this);
+    if (model)
+        m_TitledList.SetVisible(true);  // before the lines are measured: they are laid out beside the image
+    if (!alive)
+        return;
     GetList().SetModel(model);
     if (!alive)
         return;
@@ -173,13 +184,15 @@ void CEventLog::Clear()
         if (last > 0 && children.GetItem(last) == &m_TitledList)
             --last;
         if (last <= 0)
-            return;
+            break;
         CVisualElement* const child = children.GetItem(last);
         if (child->IsDynamic())
             delete child;
         else
             child->ReParent(nullptr, true);
     }
+    if (alive)
+        RecalculateSize();  // a child counts until it has gone
 }
 
 void CEventLog::MoveElementBack(CVisualElement* element)
@@ -233,10 +246,11 @@ void CEventLog::SetPos(rectangle<int> const& rect, bool force)
 
 void CEventLog::ProcessRearrange(CVisualElement** element)
 {
-    rectangle<int> const bounds = GetBounds();
-    if (!m_Built || !IsChildrenAvailable(0) || bounds.right <= 0 || bounds.bottom <= 0)
+    if (!m_Built || !IsChildrenAvailable(0))
         return;
-    bool const follows = m_AutoScroll && IsEndInView();
+    // One that has no extent yet has no end to follow, but asks for its height, or it would never get one.
+    rectangle<int> const bounds = GetBounds();
+    bool const follows = m_AutoScroll && bounds.right > 0 && bounds.bottom > 0 && IsEndInView();
     CAliveGuard const alive(this);
     CVertBox::ProcessRearrange(element);
     if (alive && m_TitledList.IsVisible() && m_TitledList.GetSize().width > GetSize().width)
