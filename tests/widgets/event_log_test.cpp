@@ -222,27 +222,34 @@ TEST_F(EventLog, AChangeWithoutNewLinesMeasuresNone)
     EXPECT_TRUE(m_Host.IsFramePending());
 }
 
-TEST_F(EventLog, LinesThatAreTakenAwayAndComeAgainAreNotMeasuredOnceMore)
+TEST_F(EventLog, LinesThatAreTakenAwayAreNewWhenTheyComeBack)
 {
     CLogLines lines(5);
     Use(lines);
     lines.Shrink(2);
     m_Host.Paint();
-    EXPECT_EQ(List().GetMeasuredCount(), 5);
-    EXPECT_EQ(List().GetSize().height, 26);
-    lines.TakeAsked();
-    lines.Append("wider than all that were before");
-    EXPECT_EQ(lines.TakeAsked(), "0");
-    m_Host.Paint();
-    EXPECT_EQ(List().GetSize(), (Size{10, 39})) << "the height follows, the width doesn't";
-    lines.AppendNumbers(2);
-    m_Host.Paint();
+    EXPECT_EQ(List().GetMeasuredCount(), 2);
+    EXPECT_EQ(List().GetSize(), (Size{10, 26}));
     lines.TakeAsked();
     lines.Append("12345");
-    EXPECT_EQ(lines.TakeAsked(), "0 5");
+    EXPECT_EQ(lines.TakeAsked(), "0 2");
     m_Host.Paint();
-    EXPECT_EQ(List().GetSize(), (Size{40, 78}));
+    EXPECT_EQ(List().GetSize(), (Size{40, 39}));
+    EXPECT_EQ(List().GetMeasuredCount(), 3);
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(EventLog, WithoutItsLastLineItKeepsItsHeightAndShowsNone)
+{
+    CLogLines lines(3);
+    Use(lines);
+    lines.Shrink(0);
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+    EXPECT_EQ(List().GetSize().height, 39);
+    EXPECT_EQ(List().GetMeasuredCount(), 0);
+    lines.Append("first");
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+    EXPECT_EQ(List().GetSize(), (Size{40, 13}));
 }
 
 TEST_F(EventLog, AMillionLinesCostNothingExtraPerLine)
@@ -261,12 +268,12 @@ TEST_F(EventLog, AMillionLinesCostNothingExtraPerLine)
     m_Host.Paint();
     lines.TakeAsked();
     m_Host.FullPaint();
-    EXPECT_EQ(lines.TakeAsked(), "0 1");
-    m_Container->GetCentralPart().SetVertStart(6500031);
+    EXPECT_EQ(lines.TakeAsked(), "0 1 2");
+    m_Container->GetCentralPart().SetVertStart(6500032);
     m_Host.Paint();
     lines.TakeAsked();
     m_Host.FullPaint();
-    EXPECT_EQ(lines.TakeAsked(), "500000 500001 500002 500003");
+    EXPECT_EQ(lines.TakeAsked(), "500000 500001 500002 500003 500004");
 }
 
 TEST_F(EventLog, MeasuringLeavesAPaintThatIsUnderWayOpenAndEndsItsOwn)
@@ -626,7 +633,7 @@ TEST_F(EventLog, FillsWhatShowsOfItWithinItsBounds)
     Use(lines);
     ScrollTo(100);
     PaintLog const log = m_Host.FullPaint().Of("log");
-    EXPECT_THAT(log, Draws("SetClipRect 0 0 50 292").Then("FillRect 0 100 50 159"));
+    EXPECT_THAT(log, Draws("SimpleSetClipRect 0 0 51 60").Then("FillRect 0 100 50 159"));
 }
 
 TEST_F(EventLog, ATransparentLogFillsNothing)
