@@ -157,16 +157,18 @@ CEventLog::~CEventLog()
 void CEventLog::SetModel(IItemsModel* model)
 {
     CAliveGuard const alive(this);
-    if (model)
-        m_TitledList.SetVisible(true);  // before the lines are measured: they are laid out beside the image
-    if (!alive)
-        return;
     GetList().SetModel(model);
+    if (alive)
+        m_TitledList.SetVisible(model != nullptr);
     if (!alive)
         return;
-    m_TitledList.SetVisible(model != nullptr);
-    if (!alive || model)
+    if (model)
+    {
+        ForceRearrange();  // only from now on the list stands beside the image, and its box may be too narrow for both
+        if (alive)
+            m_TitledList.OnRearrange(&m_TitledList);
         return;
+    }
     GetList().SetSize(g_PartSize, false);
     if (alive)
         m_TitledList.SetWidth(g_PartSize.width, false);
