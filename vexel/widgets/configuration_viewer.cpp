@@ -161,10 +161,12 @@ void CConfigurationViewer::AddCategory(ICategorySet const* set, std::vector<int>
     {
         int const row = static_cast<int>(m_Categories.size());
         m_Categories.push_back(path);
+        m_Unmeasured = m_Unmeasured || !painter;
         auto const* const category = dynamic_cast<IConfigCategory const*>(set);
         if (painter && category)
             GetRowViewModel()->SetItemSize(row, m_Visualisation->GetCollapsedSize(painter, category, m_CategoryWidth));
-        m_Unmeasured = m_Unmeasured || !painter;
+        if (!alive)
+            return;
     }
     path.push_back(0);
     int const count = set->GetCategoryCount();
