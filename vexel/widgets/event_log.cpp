@@ -210,8 +210,12 @@ void CEventLog::SetInitialWidth(int width, bool now)
 {
     if (now)
     {
-        if (!m_TitledList.IsVisible())
-            SetWidth(width, true);
+        if (m_TitledList.IsVisible())
+            return;
+        CAliveGuard const alive(this);
+        SetWidth(width, true);
+        if (alive)
+            RecalculateSize();  // the height was scaled along, once too often
         return;
     }
     if (width == m_InitialWidth)
