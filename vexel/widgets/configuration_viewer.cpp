@@ -7,6 +7,7 @@
 #include "vexel/core/measure_bracket.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/sys_window.h"
+#include "vexel/scroll/detail/clip_scope.h"
 #include "vexel/views/item_walks.h"
 
 #include <limits>
@@ -260,6 +261,8 @@ void CConfigurationViewer::CloseCategory(int row, IPainter* painter)
     if (alive)
         GetRowViewModel()->SetItemSize(
             row, m_Visualisation->GetCollapsedSize(painter, GetCategoryByRow(row), m_CategoryWidth));
+    if (alive)
+        GetRowSelectionModel()->SelectItem(row, false);  // it would look open
 }
 
 void CConfigurationViewer::OpenCategory(int row, IPainter* painter)
@@ -339,6 +342,29 @@ void CConfigurationViewer::MoveEditors(int dx, int dy, int from)
 }
 
 // Painting ------------------------------------------------------------------------------------------------------------------------
+
+void CConfigurationViewer::OnDraw(IPainter* painter)
+{
+    if (!IsVisible() || GetBounds().IsEmpty())
+        return;
+    CAlivePtr<IPainter> const surface(painter);
+    detail::CClipScope const clip(surface, GetBounds());
+    CRowViewer::OnDraw(painter);
+}
+
+// An editor that isn't wholly in view is painted along with the viewer, which cuts it.
+void CConfigurationViewer::ProcessChange(CVisualElement** element)
+{
+    if (*element == this)
+        return;
+    CVisualElement const* editor = *element;
+    while (editor && editor->GetParent() != this)
+        editor = editor->GetParent();
+    rectangle<int> const bounds = GetBounds();
+    rectangle<int> const place = editor ? editor->GetPos() : bounds;
+    if (place.left < 0 || place.top < 0 || place.right > bounds.right || place.bottom > bounds.bottom)
+        *element = this;
+}
 
 void CConfigurationViewer::DrawRow(IPainter* painter, int row, int skip, int state, rectangle<double> const& rect,
                                    IDirtyItemSet::DirtyType dirty)
