@@ -22,7 +22,8 @@ public:
     CTestHost* m_Host = nullptr;
     void SetPos(Rect const& rect, bool force) override
     {
-        m_Log.Add(Describe(rect) + (force ? " force" : "") + (m_Host && m_Host->Window().IsDrawingLocked() ? " locked" : ""));
+        m_Log.Add(Describe(rect) + (force ? " force" : "") +
+                  (m_Host && m_Host->Window().IsDrawingLocked() ? " locked" : ""));
         CVisualElement::SetPos(rect, force);
     }
 };
@@ -74,7 +75,8 @@ protected:
     }
     vexelbase::memory::CMemoryScrollBar& Bar() const
     {
-        return *m_Host.Native<vexelbase::memory::CMemoryScrollBar>(m_Host.Native<vexelbase::memory::CMemoryScrollBar>()->IsVertical() ? 0 : 1);
+        return *m_Host.Native<vexelbase::memory::CMemoryScrollBar>(
+            m_Host.Native<vexelbase::memory::CMemoryScrollBar>()->IsVertical() ? 0 : 1);
     }
     void ExpectBeside()
     {
@@ -289,6 +291,84 @@ TEST_F(ConfigurationScroll, RefreshingInAScrolledViewPlacesTheEditorsThere)
     m_Viewer.RefreshActiveCategory();
     m_Host.Paint();
     Stand({185, 2, 245, 22}, {185, 27, 275, 47});
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+// What is cut off -----------------------------------------------------------------------------------------------------------
+
+class CSolidEditor : public CVisualElement
+{
+public:
+    using CVisualElement::CVisualElement;
+    void DrawContent(IPainter* painter) override
+    {
+        rectangle<int> const bounds = GetBounds();
+        painter->SetBrush({color_table[6], brush::bsSolid});
+        painter->FillRect(0, 0, bounds.right, bounds.bottom);
+    }
+};
+
+TEST_F(ConfigurationScroll, AnEditorThatSticksOutIsNotPaintedBesideTheViewer)
+{
+    auto& wide = m_Other.AddEditor<CSolidEditor>("Wide", 300);
+    NameElement(wide, "wide");
+    CVisualElement head(nullptr, {10, 30}, alTop);
+    head.SetDynamic(false);
+    m_Viewer.ReParent(nullptr, true);
+    head.ReParent(m_Host.Root(), true);
+    m_Viewer.ReParent(m_Host.Root(), true);
+    m_Host.Resize(300, 81);  // the viewer: 300 x 50, from 31 on
+    m_Host.Paint();
+    Open(2);
+    Rows().SetOffset(71);
+    m_Host.Paint();
+    ASSERT_EQ(Rows().GetOffset(), 56);  // 105 - 49
+    ASSERT_EQ(wide.GetPos(), (Rect{185, 22, 485, 42}));
+    EXPECT_EQ(Describe(m_Host.PixelAt(200, 60)), "red");
+    Rows().SetItemSize(2, 150);
+    Rows().SetOffset(85);
+    m_Host.Paint();
+    ASSERT_EQ(wide.GetPos().top, -7);
+    EXPECT_EQ(Describe(m_Host.PixelAt(200, 31)), "red");
+    EXPECT_NE(Describe(m_Host.PixelAt(200, 30)), "red");
+    wide.Update(utElement);
+    EXPECT_EQ(m_Host.Paint().Elements(), "viewer wide") << "it is cut by the viewer";
+    EXPECT_NE(Describe(m_Host.PixelAt(200, 30)), "red");
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+    EXPECT_NE(Describe(m_Host.PixelAt(200, 30)), "red");
+    m_Viewer.ReParent(nullptr, true);
+    head.ReParent(nullptr, true);
+    m_Viewer.ReParent(m_Host.Root(), true);
+}
+
+TEST_F(ConfigurationScroll, AnEditorInViewIsPaintedAlone)
+{
+    auto& editor = m_Other.AddEditor<CSolidEditor>("Short", 30);
+    NameElement(editor, "short");
+    m_Host.Resize(400, 200);
+    Open(2);
+    editor.Update(utElement);
+    EXPECT_EQ(m_Host.Paint().Elements(), "short");
+}
+
+TEST_F(ConfigurationScroll, AViewerThatIsHiddenPaintsNoEditor)
+{
+    Open(0);
+    m_Viewer.SetVisible(false);
+    m_Name.Update(utElement);
+    EXPECT_EQ(m_Host.FullPaint().Of("viewer").Text(), m_Host.FullPaint().Of("nobody").Text());
+}
+
+TEST_F(ConfigurationScroll, AnotherHeightOfARowInViewLeavesTheEditorsAboveIt)
+{
+    m_Host.Resize(400, 300);
+    Open(0);
+    Rows().SetItemSize(2, 100);
+    m_Host.Paint();
+    Stand({185, 22, 245, 42}, {185, 47, 275, 67});
+    Rows().SetItemSize(1, 50);
+    m_Host.Paint();
+    Stand({185, 22, 245, 42}, {185, 47, 275, 67});
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 

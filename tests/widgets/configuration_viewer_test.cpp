@@ -329,8 +329,7 @@ TEST_F(ConfigurationViewer, ANewCurrentRowClosesTheOldOneFirst)
     auto const d = Listen(m_Other.m_Deactivated, note("close"));
     m_Told.m_Log.Take();
     m_Viewer.GetRowSelectionModel()->SetCurrent(0);
-    EXPECT_EQ(m_Told.m_Log.Take(),
-              "open General; expanded General 370; arrange General in viewer (0, 0, 370, 89)");
+    EXPECT_EQ(m_Told.m_Log.Take(), "open General; expanded General 370; arrange General in viewer (0, 0, 370, 89)");
     m_Name.ReParent(&m_Viewer, true);
     m_Viewer.GetRowSelectionModel()->SetCurrent(2);
     EXPECT_EQ(m_Told.m_Log.Take(), "close General with name; collapsed General 370; open Other; "
@@ -364,6 +363,26 @@ TEST_F(ConfigurationViewer, ClosingHidesEveryChildOfTheViewer)
     EXPECT_EQ(Shown(), "stranger name kind");
     Open(1);
     EXPECT_EQ(Shown(), "below");
+}
+
+TEST_F(ConfigurationViewer, ARowThatClosesIsNoLongerSelected)
+{
+    m_Viewer.SetVisualisation(&m_Told);
+    SetUpModel();
+    m_Host.Mouse().Click(m_Viewer, 20, 10);
+    m_Host.Paint();
+    EXPECT_TRUE(m_Viewer.GetRowSelectionModel()->IsItemSelected(0));
+    Open(1);
+    EXPECT_FALSE(m_Viewer.GetRowSelectionModel()->IsItemSelected(0));
+    m_Told.m_Log.Take();
+    m_Host.FullPaint();
+    EXPECT_TRUE(
+        m_Told.m_Log.Take().starts_with("draw General (0, 0, 399, 29) 370 0; draw Sub (0, 30, 399, 119) 370 3"));
+    m_Host.Mouse().Click(m_Viewer, 20, 10);
+    EXPECT_TRUE(m_Viewer.GetRowSelectionModel()->IsItemSelected(0));
+    EXPECT_EQ(m_Viewer.GetRowSelectionModel()->GetSelectedCount(), 1);
+    Open(-1);
+    EXPECT_EQ(m_Viewer.GetRowSelectionModel()->GetSelectedCount(), 0);
 }
 
 TEST_F(ConfigurationViewer, ACategoryWithoutItemsIsAsHighOpenAsClosed)

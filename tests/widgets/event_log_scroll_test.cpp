@@ -80,7 +80,7 @@ TEST_F(EventLogScroll, StaysWhereItIsUnlessItIsToldToFollow)
 TEST_F(EventLogScroll, ItsEndIsOneBelowItsLastPixel)
 {
     m_Log.GotoEnd();
-    EXPECT_EQ(Start(), 234);  // 292 + 1 - 59
+    EXPECT_EQ(Start(), 234);                          // 292 + 1 - 59
     m_Container->GetCentralPart().Update(utElement);  // whoever moves it repaints what it leaves
     m_Host.Paint();
     EXPECT_EQ(Start(), 234);

@@ -291,9 +291,9 @@ TEST_P(PageDeletion, InEachSlotAndBeforeEachStep)
 {
     // Setting a model tells of new rows.
     auto const leaveOut = [&](std::string const& signal) { return signal == "rows" && Is("DropModel"); };
-    char const* const signals[] = {"general.activated", "general.deactivated", "other.activated", "other.deactivated",
-                                   "name.size",         "name.visible",        "check.size",      "check.changed",
-                                   "current",           "resized",             "rows"};
+    char const* const signals[] = {
+        "general.activated", "general.deactivated", "other.activated", "other.deactivated", "name.size", "name.visible",
+        "check.size",        "check.changed",       "current",         "resized",           "rows"};
     DoInEachSlot(signals, leaveOut);
     DoBeforeEachStep([](CPageScene&) {});
 }
