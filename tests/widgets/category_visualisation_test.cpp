@@ -9,6 +9,7 @@
 #include "vexel/platform/painter.h"
 #include "vexel/testing/test_kit.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <functional>

@@ -50,7 +50,7 @@ public:
     /// An item with an editor that is so wide before it gets a place.
     template <class Editor = CVisualElement> Editor& AddEditor(std::string const& caption, int width = 60)
     {
-        auto made = std::make_unique<Editor>(nullptr, size<int>(width, 20), alNone);
+        auto made = std::make_unique<Editor>(nullptr, size<int>{width, 20}, alNone);
         made->SetDynamic(false);
         made->SetPos({0, 0, width, 20}, false);
         Editor& editor = *made;

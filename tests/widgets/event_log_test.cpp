@@ -10,6 +10,7 @@
 #include "vexel/scroll/scroll_container.h"
 #include "vexel/testing/test_kit.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -84,6 +85,7 @@ TEST_F(EventLog, ItsTitledListStandsAtTheBottomAndIsHidden)
     EXPECT_EQ(titled.GetAlignment(), alBottom);
     EXPECT_FALSE(titled.IsVisible());
     EXPECT_FALSE(titled.IsDynamic());
+    EXPECT_FALSE(Titled().IsDynamic());
     EXPECT_EQ(titled.GetSize(), (Size{10, 5})) << "five wide, until it finds that its list asks for ten";
 }
 

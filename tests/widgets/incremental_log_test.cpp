@@ -33,9 +33,7 @@ int const s_Rounds = 40;
 class CGame
 {
 public:
-    CGame(std::uint64_t seed, double scale)
-        : m_Random(seed), m_Scale(scale), m_Host(400, 240, scale)
-    {}
+    CGame(std::uint64_t seed, double scale) : m_Random(seed), m_Scale(scale), m_Host(400, 240, scale) {}
 
     std::string Compare() { return m_Host.CompareWithFullPaint(); }
     std::string Tell() { return m_Log.Text() + DescribeTree(m_Host.Root()); }
@@ -331,8 +329,7 @@ private:
     }
     CTreeCategory* Open()
     {
-        return dynamic_cast<CTreeCategory*>(
-            m_Page->GetCategoryByRow(m_Page->GetRowSelectionModel()->GetCurrent()));
+        return dynamic_cast<CTreeCategory*>(m_Page->GetCategoryByRow(m_Page->GetRowSelectionModel()->GetCurrent()));
     }
     void Click()
     {

@@ -8,6 +8,7 @@
 #include "vexel/testing/test_kit.h"
 #include "vexel/widgets/configuration_viewer.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
