@@ -1,10 +1,10 @@
 #include "vexel/scroll/scroll_container.h"
 
+#include "vexel/core/clip_scope.h"
 #include "vexel/core/control.h"
 #include "vexel/core/draw_elements.h"
 #include "vexel/platform/painter.h"
 #include "vexel/platform/sys_window.h"
-#include "vexel/scroll/detail/clip_scope.h"
 
 #include <algorithm>
 #include <cmath>
@@ -220,7 +220,7 @@ void CScrollContainer::CCentralPart::OnDraw(IPainter* painter)
         return;
     CAliveGuard const alive(this);
     CAlivePtr<IPainter> const surface(painter);
-    std::optional<detail::CClipScope> clip;
+    std::optional<CClipScope> clip;
     if (GetScrolled())
         clip.emplace(surface, bounds);
     if (DrawsOnlyChanges(painter))
@@ -389,9 +389,17 @@ void CScrollContainer::GetWheelStepSize(CVisualElement* element, int& step)
     step = element->GetTextLineHeight();
 }
 
-void CScrollContainer::OnScrolledResized(CVisualElement*)
+void CScrollContainer::OnScrolledResized(CVisualElement* element)
 {
-    RefreshScroll();
+    // One that moves by itself may uncover what it has not to paint.
+    CAliveGuard const alive(this);
+    if (element->GetPos() != m_ScrolledPos)
+    {
+        m_ScrolledPos = element->GetPos();
+        m_CentralPart.Update(utElement);
+    }
+    if (alive)
+        RefreshScroll();
 }
 
 }  // namespace vexel

@@ -27,8 +27,8 @@ public:
     public:
         CCentralPart(CVisualElement* parent, size<int> const& extent, Alignment alignment);
 
-        CVisualElement* GetScrolled() const;  ///< Null also for one that has another parent now.
-        void SetScrolled(CVisualElement* element);  ///< Called by the container.
+        CVisualElement* GetScrolled() const;          ///< Null also for one that has another parent now.
+        void SetScrolled(CVisualElement* element);    ///< Called by the container.
         void SetSteps(int horizontal, int vertical);  ///< Line steps in pixels; 10 at first. 0: no range on that axis.
         FitMode GetFitMode() const { return m_FitMode; }
         void SetFitMode(FitMode mode);  ///< fmNone at first. Lays out.
@@ -101,6 +101,7 @@ private:
 
     CCentralPart m_CentralPart;
     CVisualElement* m_Scrolled = nullptr;
+    rectangle<int> m_ScrolledPos;  // when it was last heard of
 };
 
 }  // namespace vexel

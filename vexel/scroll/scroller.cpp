@@ -1,8 +1,8 @@
 #include "vexel/scroll/scroller.h"
 
+#include "vexel/core/clip_scope.h"
 #include "vexel/platform/convert.h"
 #include "vexel/platform/painter.h"
-#include "vexel/scroll/detail/clip_scope.h"
 
 #include <algorithm>
 #include <optional>
@@ -80,7 +80,7 @@ void CScroller::CCentralPart::OnDraw(IPainter* painter)
     if (bounds.IsEmpty() || !IsVisible())
         return;
     CAlivePtr<IPainter> const surface(painter);
-    std::optional<detail::CClipScope> clip;
+    std::optional<CClipScope> clip;
     if (GetScrolled())
         clip.emplace(surface, bounds);
     CVisualElement::OnDraw(painter);

@@ -1,6 +1,7 @@
 #include "vexel/widgets/configuration_viewer.h"
 
 #include "vexel/core/clip_holder.h"
+#include "vexel/core/clip_scope.h"
 #include "vexel/core/control.h"
 #include "vexel/core/measure_bracket.h"
 #include "vexel/platform/device_pixels.h"
@@ -160,10 +161,12 @@ void CConfigurationViewer::AddCategory(ICategorySet const* set, std::vector<int>
     {
         int const row = static_cast<int>(m_Categories.size());
         m_Categories.push_back(path);
+        m_Unmeasured = m_Unmeasured || !painter;
         auto const* const category = dynamic_cast<IConfigCategory const*>(set);
         if (painter && category)
             GetRowViewModel()->SetItemSize(row, m_Visualisation->GetCollapsedSize(painter, category, m_CategoryWidth));
-        m_Unmeasured = m_Unmeasured || !painter;
+        if (!alive)
+            return;
     }
     path.push_back(0);
     int const count = set->GetCategoryCount();
@@ -257,6 +260,8 @@ void CConfigurationViewer::CloseCategory(int row, IPainter* painter)
     if (alive)
         GetRowViewModel()->SetItemSize(
             row, m_Visualisation->GetCollapsedSize(painter, GetCategoryByRow(row), m_CategoryWidth));
+    if (alive)
+        GetRowSelectionModel()->SelectItem(row, false);  // it would look open
 }
 
 void CConfigurationViewer::OpenCategory(int row, IPainter* painter)
@@ -336,6 +341,29 @@ void CConfigurationViewer::MoveEditors(int dx, int dy, int from)
 }
 
 // Painting ------------------------------------------------------------------------------------------------------------------------
+
+void CConfigurationViewer::OnDraw(IPainter* painter)
+{
+    if (!IsVisible() || GetBounds().IsEmpty())
+        return;
+    CAlivePtr<IPainter> const surface(painter);
+    CClipScope const clip(surface, GetBounds());
+    CRowViewer::OnDraw(painter);
+}
+
+// An editor that isn't wholly in view is painted along with the viewer, which cuts it.
+void CConfigurationViewer::ProcessChange(CVisualElement** element)
+{
+    if (*element == this)
+        return;
+    CVisualElement const* editor = *element;
+    while (editor && editor->GetParent() != this)
+        editor = editor->GetParent();
+    rectangle<int> const bounds = GetBounds();
+    rectangle<int> const place = editor ? editor->GetPos() : bounds;
+    if (place.left < 0 || place.top < 0 || place.right > bounds.right || place.bottom > bounds.bottom)
+        *element = this;
+}
 
 void CConfigurationViewer::DrawRow(IPainter* painter, int row, int skip, int state, rectangle<double> const& rect,
                                    IDirtyItemSet::DirtyType dirty)

@@ -46,6 +46,8 @@ public:
 
 public:  // From CVisualElement and CRowViewer
     void AfterSetControl() override;
+    void OnDraw(IPainter* painter) override;  ///< Nothing of the editors is painted beside the viewer.
+    void ProcessChange(CVisualElement** element) override;
     void DrawRow(IPainter* painter, int row, int skip, int state, rectangle<double> const& rect,
                  IDirtyItemSet::DirtyType dirty) override;
     void DrawRowEmptyArea(IPainter* painter, rectangle<double> const& rect) override;

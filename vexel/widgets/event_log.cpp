@@ -69,7 +69,16 @@ void CEventLog::CLogList::RecalcSize()
 {
     CAliveGuard const alive(this);
     CList::RecalcSize();
-    ISysWindow* const window = alive && GetControl() ? GetControl()->GetWindow() : nullptr;
+    if (alive)
+        MeasureNewLines();
+    if (alive)
+        Update(utElement);
+}
+
+void CEventLog::CLogList::MeasureNewLines()
+{
+    CAliveGuard const alive(this);
+    ISysWindow* const window = GetControl() ? GetControl()->GetWindow() : nullptr;
     if (!window || !GetModel())
         return;
     // Lines that were taken away will be new when they come back.
@@ -94,8 +103,6 @@ void CEventLog::CLogList::RecalcSize()
     m_MeasuredCount = count;
     if (widest > GetSize().width)
         SetWidth(widest, false);
-    if (alive)
-        Update(utElement);
 }
 
 // With image and title ----------------------------------------------------------------------------------------------------------
@@ -151,11 +158,17 @@ void CEventLog::SetModel(IItemsModel* model)
 {
     CAliveGuard const alive(this);
     GetList().SetModel(model);
+    if (alive)
+        m_TitledList.SetVisible(model != nullptr);
     if (!alive)
         return;
-    m_TitledList.SetVisible(model != nullptr);
-    if (!alive || model)
+    if (model)
+    {
+        ForceRearrange();  // only from now on the list stands beside the image, and its box may be too narrow for both
+        if (alive)
+            m_TitledList.OnRearrange(&m_TitledList);
         return;
+    }
     GetList().SetSize(g_PartSize, false);
     if (alive)
         m_TitledList.SetWidth(g_PartSize.width, false);
@@ -173,13 +186,15 @@ void CEventLog::Clear()
         if (last > 0 && children.GetItem(last) == &m_TitledList)
             --last;
         if (last <= 0)
-            return;
+            break;
         CVisualElement* const child = children.GetItem(last);
         if (child->IsDynamic())
             delete child;
         else
             child->ReParent(nullptr, true);
     }
+    if (alive)
+        RecalculateSize();  // a child counts until it has gone
 }
 
 void CEventLog::MoveElementBack(CVisualElement* element)
@@ -195,8 +210,12 @@ void CEventLog::SetInitialWidth(int width, bool now)
 {
     if (now)
     {
-        if (!m_TitledList.IsVisible())
-            SetWidth(width, true);
+        if (m_TitledList.IsVisible())
+            return;
+        CAliveGuard const alive(this);
+        SetWidth(width, true);
+        if (alive)
+            RecalculateSize();  // the height was scaled along, once too often
         return;
     }
     if (width == m_InitialWidth)

@@ -31,6 +31,7 @@ public:
 
     private:
         void ModelChanged() { RecalcSize(); }
+        void MeasureNewLines();
 
         int m_MeasuredCount = 0;
     };

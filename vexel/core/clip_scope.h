@@ -3,7 +3,7 @@
 #include "vexel/core/alive_guard.h"
 #include "vexel/platform/painter.h"
 
-namespace vexel::detail
+namespace vexel
 {
 
 /// The painter's clip, narrowed for a scope to a rectangle (logical coordinates, edges included), also to nothing.
@@ -29,4 +29,4 @@ private:
     rectangle<double> const m_Saved;
 };
 
-}  // namespace vexel::detail
+}  // namespace vexel
