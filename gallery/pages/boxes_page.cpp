@@ -91,6 +91,7 @@ public:
     {
         m_Third->SetText("a third");
         m_Third->SetBkColor(color_table[24]);
+        m_Third->SetFgColor(color_table[1]);  // the ground is light in every theme
         m_Third->SetFrame(true);
         auto* const rest = new CPanel(this, {0, 0}, alClient);
         rest->SetText("CHorzProportionalResizer leaves the rest");

@@ -73,9 +73,11 @@ void CButtonsPage::Build(CVisualElement* parent)
     Report(link->m_LinkClicked, "link");
     auto* const coloured = Add(grid, "Coloured", lkRaised);
     coloured->SetBkColor(color_table[24]);
+    coloured->SetFgColor(color_table[1]);  // the ground is light in every theme
     Report(coloured->m_Clicked, "coloured.clicked");
     auto* const flat = Add(grid, "Coloured, flat", lkFlat);
     flat->SetBkColor(color_table[26]);
+    flat->SetFgColor(color_table[1]);  // the ground is light in every theme
     Report(flat->m_Clicked, "coloured flat.clicked");
 
     auto* const arrows = new CGrid(parent, {0, 52}, alTop, {36, 36}, 8);

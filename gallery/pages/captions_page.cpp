@@ -81,6 +81,7 @@ void CCaptionsPage::Build(CVisualElement* parent)
     {
         auto* const caption = Add(pane, edge.text, g_HCenter | g_VCenter, 0, edge.alignment, {10, 10});
         caption->SetBkColor(color_table[24 + edge.alignment % 4]);
+        caption->SetFgColor(color_table[1]);  // the ground is light in every theme
         caption->SetTextLayout(true);
         caption->SetAutoSize(true);
         ReportMouse(caption, edge.text);

@@ -84,7 +84,7 @@ void CEventLogPage::AddBox(CButton*)
     box->SetImageType(workbench::CMessageSetUp::ImageWarning);
     box->GetTitle().SetCaption("A worker waits for long");
     box->GetText().SetCaption("Any element may stand in the log.");
-    m_Log->MoveElementBack(box);
+    m_Log->MoveElementBack(&m_Log->GetTitledList());  // the last one is docked above the others
 }
 
 void CEventLogPage::Clear(CButton*)

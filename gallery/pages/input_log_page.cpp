@@ -63,14 +63,17 @@ void CInputLogPage::Build(CVisualElement* parent)
     new CLogView(parent, {330, 0}, alRight);
     auto* const outer = new CPanel(parent, {0, 0}, alClient);
     outer->SetBkColor(color_table[26]);
+    outer->SetFgColor(color_table[1]);  // the ground is light in every theme
     outer->SetCanHaveFocus(true);
     outer->SetText("outer");
     outer->SetTextFlags(IPainter::AlignLeft | IPainter::AlignTop);
     auto* const margin = new CPanel(outer, {0, 60}, alTop);
     margin->SetBkColor(color_table[26]);
+    margin->SetFgColor(color_table[1]);  // the ground is light in every theme
     margin->SetText("a child that covers the upper part of the outer box");
     auto* const inner = new CPanel(outer, {0, 150}, alTop);
     inner->SetBkColor(color_table[21]);
+    inner->SetFgColor(color_table[1]);  // the ground is light in every theme
     inner->SetText("inner: click here, then type");
     inner->SetCanHaveFocus(true);
     inner->SetCursor(12);

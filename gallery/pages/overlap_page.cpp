@@ -24,6 +24,7 @@ public:
     {
         ApplyDPIScale(place);
         SetBkColor(color_table[color]);
+        SetFgColor(color_table[1]);  // the ground is light in every theme
         SetTransparent(alpha < 255);
         SetCursor(12);
         SetPos(place, true);

@@ -58,6 +58,7 @@ void CSlantedTabsPage::Build(CVisualElement* parent)
     high->SetActiveColor(color_table[25]);
     high->SetInactiveColor(color_table[26]);
     high->SetBkColor(ISysPalette::scFace);
+    high->SetFgColor(color_table[1]);
     high->SetCurrentTab(1);
 
     new CLabel(parent, {0, 22}, alTop, "Winter is forbidden here");
