@@ -53,7 +53,7 @@ void CMemoryPalette::SetDark()
                 Grey(0x38),                          // face
                 Grey(0x60),                          // light
                 Grey(0x50),                          // half light
-                Grey(0x18),                          // shadow
+                Grey(0x8C),                          // shadow: also of what is disabled, and so readable
                 Grey(0x08),                          // dark shadow
                 Grey(0xE0),                          // control text
                 _color::FromRgb(0x20, 0x58, 0xA0),   // highlight
