@@ -3,6 +3,7 @@
 #include "gallery/frame/frame.h"
 #include "gallery/pages.h"
 #include "tests/support/controls_game.h"
+#include "tests/support/nested_game.h"
 #include "tests/support/tree_game.h"
 #include "vexel/controls/round_bg_button.h"
 #include "vexel/core/base_control.h"
@@ -115,6 +116,33 @@ private:
     CControlsGame m_Game;
 };
 
+class CNestedScene : public IMonkeyScene
+{
+public:
+    CNestedScene(double scale, std::uint64_t seed) : m_Game(seed, scale) {}
+
+    CTestHost& Host() override { return m_Game.Host(); }
+    bool CanChange() const override { return true; }
+    void Change(std::uint64_t seed) override
+    {
+        m_Game.Reseed(seed);
+        m_Game.Step();
+    }
+    void Paint() override { m_Game.Paint(); }
+    std::string Compare() override
+    {
+        Paint();
+        std::string const difference = m_Game.Compare();
+        return difference.empty() ? "" : "The widgets don't look as if painted at once.\n" + difference;
+    }
+    size<int> GetSmallest() const override { return {250, 250}; }
+    size<int> GetLargest() const override { return {400, 400}; }
+    rectangle<int> GetBusyArea() const override { return {0, 0, 400, 400}; }
+
+private:
+    CNestedGame m_Game;
+};
+
 }  // namespace
 
 std::unique_ptr<IMonkeyScene> MakeMonkeyScene(std::string const& name)
@@ -132,6 +160,8 @@ std::unique_ptr<IMonkeyScene> MakeMonkeyScene(std::string const& name)
     }
     if (kind == "tree" && words >> scale >> seed)
         return std::make_unique<CTreeScene>(scale, seed);
+    if (kind == "nested" && words >> scale >> seed)
+        return std::make_unique<CNestedScene>(scale, seed);
     if (kind == "controls" && words >> seed)
         return std::make_unique<CControlsScene>(seed);
     return nullptr;
@@ -144,7 +174,7 @@ std::string NameMonkeyScene(int number, std::uint64_t seed)
     std::string const tail = std::to_string(random.Next() >> 32);
     std::string const scale = random.Pick(scales);
     if (number % 4 == 2)
-        return "tree " + scale + " " + tail;
+        return (number % 8 == 2 ? "tree " : "nested ") + scale + " " + tail;
     if (number % 4 == 3)
         return "controls " + tail;
     int const pages = static_cast<int>(GetPages().size());
