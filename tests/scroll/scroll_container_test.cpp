@@ -744,7 +744,7 @@ public:
     }
 };
 
-TEST_F(ScrollContainer, AnElementThatInsistsOnItsWidthIsAskedOnceForEachView)
+TEST_F(ScrollContainer, AnElementThatInsistsOnItsWidthIsAskedAgainWhenItHasAnother)
 {
     auto* const stubborn = new CStubborn(nullptr, {300, 400}, alNone);
     Part().SetFitMode(CScrollContainer::fmWidth);
@@ -754,14 +754,48 @@ TEST_F(ScrollContainer, AnElementThatInsistsOnItsWidthIsAskedOnceForEachView)
     EXPECT_FALSE(m_Host.IsFramePending());
     EXPECT_EQ(stubborn->GetSize().width, 300);
     EXPECT_EQ(Part().GetHorzTo(), 301);
-    ExpectPainted();
+    for (int const width : {120, 101, 40, 300, 100})
+    {
+        m_Host.Resize(width, 80);
+        m_Host.Paint();
+        EXPECT_FALSE(m_Host.IsFramePending());
+        EXPECT_EQ(stubborn->GetSize().width, 300) << width;
+        ExpectPainted();
+    }
 
+    m_Host.Resize(400, 80);
+    m_Host.Paint();
+    EXPECT_EQ(stubborn->GetSize().width, 381);  // so much is more than it wants
     stubborn->m_Wanted = 0;
     m_Host.Resize(120, 80);
     m_Host.Paint();
-    EXPECT_EQ(stubborn->GetSize().width, 101);  // the other view is taken
+    EXPECT_EQ(stubborn->GetSize().width, 101);
     stubborn->SetWidth(250, false);
     m_Host.Paint();
-    EXPECT_EQ(stubborn->GetSize().width, 101);  // also after a change of its own
+    EXPECT_EQ(stubborn->GetSize().width, 101);
     ExpectPainted();
+}
+
+// The same for less than it is given.
+class CNarrow : public CPlaced
+{
+public:
+    using CPlaced::CPlaced;
+    void ProcessRearrange(CVisualElement**) override { SetWidth(50, false); }
+};
+
+TEST_F(ScrollContainer, AnElementThatInsistsOnLessKeepsIt)
+{
+    auto* const narrow = new CNarrow(nullptr, {50, 400}, alNone);
+    Part().SetFitMode(CScrollContainer::fmWidth);
+    m_Container->SetScrolled(narrow);
+    delete m_Content;
+    for (int const width : {100, 200, 90})
+    {
+        m_Host.Resize(width, 80);
+        m_Host.Paint();
+        EXPECT_FALSE(m_Host.IsFramePending());
+        EXPECT_EQ(narrow->GetSize().width, 50) << width;
+        ExpectPainted();
+    }
 }

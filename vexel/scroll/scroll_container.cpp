@@ -158,23 +158,27 @@ void CScrollContainer::CCentralPart::SetPos(rectangle<int> const& rect, bool for
     child->SetPos({left, top, AddSaturated(left, extent.width), AddSaturated(top, extent.height)}, force);
 }
 
-// An element that insists on a size of its own is asked once for each size of the view: both would go on laying out.
+// An element that insists on a larger extent, or on a smaller one, is not given any other that it would refuse as well:
+// both would go on laying out.
 void CScrollContainer::CCentralPart::FitChild(CVisualElement& child)
 {
-    size<int> const view{GetBounds().right, GetBounds().bottom};
-    if (&child == m_FittedChild && view == m_FittedView && child.GetSize() == m_FittedSize)
+    bool const high = m_FitMode == fmHeight;
+    int const given = SubtractSaturated(high ? GetBounds().bottom : GetBounds().right, 1);
+    int const present = high ? child.GetSize().height : child.GetSize().width;
+    if (&child == m_FittedChild && present == m_WantedExtent &&
+        ((m_WantedExtent > m_GivenExtent && present >= given) || (m_WantedExtent < m_GivenExtent && present <= given)))
         return;
     CAliveGuard const alive(this);
     CAliveGuard const childAlive(&child);
-    if (m_FitMode == fmHeight)
-        child.SetHeight(SubtractSaturated(view.height, 1), false);
-    else if (m_FitMode == fmWidth)
-        child.SetWidth(SubtractSaturated(view.width, 1), false);
+    if (high)
+        child.SetHeight(given, false);
+    else
+        child.SetWidth(given, false);
     if (!alive || !childAlive)
         return;
     m_FittedChild = &child;
-    m_FittedView = view;
-    m_FittedSize = child.GetSize();
+    m_GivenExtent = given;
+    m_WantedExtent = high ? child.GetSize().height : child.GetSize().width;
 }
 
 // Native controls in the tree below follow.

@@ -78,9 +78,10 @@ public:
         bool m_FullRepaint = true;
         bool m_FillAroundChild = false;
         FitMode m_FitMode = fmNone;
-        CVisualElement const* m_FittedChild = nullptr;  // the last one that was fitted; only compared
-        size<int> m_FittedView;                         // for a view of this size,
-        size<int> m_FittedSize;                         // and what it asked for thereafter
+        // The last fit: whose (only compared), the extent that it was given, and what it asked for thereafter.
+        CVisualElement const* m_FittedChild = nullptr;
+        int m_GivenExtent = 0;
+        int m_WantedExtent = 0;
     };
 
     CScrollContainer(CVisualElement* parent, size<int> const& extent, Alignment alignment);
