@@ -470,3 +470,29 @@ TEST_F(Caption, WithoutTheFlagAShortenedTextIsNoTooltip)
     Settle();
     EXPECT_EQ(m_Caption.GetTooltip(), "");
 }
+
+// A turned one is as thick as its lines, and wraps in what the edge gives it.
+TEST(CaptionAtTheSide, WithTheHeightAdjustedATurnedTextComesToRest)
+{
+    for (int const height : {30, 60, 100})
+    {
+        CTestHost host(200, height);
+        auto* const caption = new CCaption(host.Root(), {40, 40}, alLeft);
+        caption->SetTextLayout(true);
+        caption->SetCaption("aa bb cc dd");
+        caption->SetAutoSize(true);
+        caption->AdjustHeight(true);
+        host.Paint();
+        EXPECT_FALSE(host.IsFramePending()) << height;
+        EXPECT_EQ(host.CompareWithFullPaint(), "") << height;
+    }
+    // 8 pixels a character: "aa bb" and "cc dd" are 40 long, and fit in a height of 60.
+    CTestHost host(200, 61);
+    auto* const caption = new CCaption(host.Root(), {40, 40}, alLeft);
+    caption->SetTextLayout(true);
+    caption->SetCaption("aa bb cc dd");
+    caption->SetAutoSize(true);
+    caption->AdjustHeight(true);
+    host.Paint();
+    EXPECT_EQ(caption->GetSize().width, 2 * 8 + CCaption::GetAutoSizeExtent().height);
+}

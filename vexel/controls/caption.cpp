@@ -170,9 +170,9 @@ void CCaption::SetAlignment(Alignment alignment)
 void CCaption::SetPos(rectangle<int> const& rect, bool force)
 {
     CAliveGuard const alive(this);
-    int const before = GetBounds().right;
+    int const before = GetWrapExtent();
     CVisualElement::SetPos(rect, force);
-    if (alive && m_AdjustHeight && GetBounds().right != before)
+    if (alive && m_AdjustHeight && GetWrapExtent() != before)
         RecalculateSize();
 }
 
@@ -254,6 +254,14 @@ void CCaption::RecalculateSize()
         OnChange(this, utElement);  // the same size may be drawn otherwise, and the links are known again then
 }
 
+// What the text wraps in. A turned one wraps in the height, which the edge gives it: in its own width, which follows from
+// the lines, it would never come to rest.
+int CCaption::GetWrapExtent() const
+{
+    rectangle<int> const bounds = GetBounds();
+    return IsTextConverted() ? ToInt(GetAlong(bounds.right, bounds.bottom)) : bounds.right;
+}
+
 size<double> CCaption::MeasureText(IPainter* painter, size<int> const& image, size<int> const& extra)
 {
     if (m_Caption.empty())
@@ -261,9 +269,8 @@ size<double> CCaption::MeasureText(IPainter* painter, size<int> const& image, si
     double width = CMeasureBracket::s_Unlimited;
     if (m_AdjustHeight)
     {
-        rectangle<int> const bounds = GetBounds();
         int const along = ToInt(GetAlong(extra.width, extra.height));
-        width = SubtractSaturated(bounds.right, AddSaturated(AddSaturated(bounds.left, image.width), along));
+        width = SubtractSaturated(GetWrapExtent(), AddSaturated(image.width, along));
     }
     if (m_MaxTextWidth != 0 && m_MaxTextWidth < width)
         width = m_MaxTextWidth;

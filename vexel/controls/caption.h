@@ -125,6 +125,7 @@ protected:
 private:
     char const* GetDelimiters() const { return m_UseHTML ? HTMLDelimiters : DefaultDelimiters; }
     IPainter::ITextFormatter* GetFormatter() { return m_UseHTML ? this : nullptr; }
+    int GetWrapExtent() const;
     size<double> MeasureText(IPainter* painter, size<int> const& image, size<int> const& extra);
     template <class Draw> void FollowDrawing(IPainter* painter, Draw const& draw);
     void FollowShortening(bool shortened);

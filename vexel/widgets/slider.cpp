@@ -329,6 +329,7 @@ void CSlider::DrawCaptions(IPainter* painter, rectangle<int> const& track, recta
 {
     // The text's height is the measure of both directions.
     int const length = ToInt(painter->GetTextSize("W", nullptr).height) + ToDevicePixels(g_CaptionGap);
+    int const half = length / 2;
     rectangle<int> const bounds = GetBounds();
     double const bandStart = GetAcross(pointer.right, pointer.bottom) + 1.0;
     double const bandEnd = GetAcross(bounds.right, bounds.bottom);
@@ -356,7 +357,7 @@ void CSlider::DrawCaptions(IPainter* painter, rectangle<int> const& track, recta
         if (isOver())
             return;
 
-        double const start = CalcPosByPoint(i) + trackStart - length / 2;
+        double const start = CalcPosByPoint(i) + trackStart - half;
         if (isOver())
             return;
         rectangle<double> place = MakeRect(start, bandStart, start + length, bandEnd);

@@ -80,7 +80,8 @@ rectangle<int> CDefSliderDrawingModel::GetSlotRect(rectangle<double> const& boun
     used.GetAlongRef(slot.left, slot.top) += end;
     used.GetAlongRef(slot.right, slot.bottom) -= end;
     double& start = used.GetAcrossRef(slot.left, slot.top);
-    start += SubtractSaturated(across, thickness) / 2;
+    int const above = SubtractSaturated(across, thickness) / 2;
+    start += above;
     used.GetAcrossRef(slot.right, slot.bottom) = start + thickness;
     return {ToInt(slot.left), ToInt(slot.top), ToInt(slot.right), ToInt(slot.bottom)};
 }
