@@ -121,9 +121,16 @@ TEST_F(ConfigurationTurns, AnEditorThatOpensAnotherCategoryWhenItGetsItsPlaceHas
 
 TEST_F(ConfigurationTurns, ARowThatGetsItsHeightCanOpenAnotherOne)
 {
+    CVisualElement extra(nullptr, {10, 10}, alNone);
+    extra.SetDynamic(false);
+    extra.SetPos({5, 200, 15, 210}, true);
+    extra.ReParent(&m_Viewer, true);
     auto const slot = Listen(Rows().m_SigSizeChanged, [&](int, int, bool*) { SetCurrentOnce(1); });
     Open(0);
     ExpectSub();
+    EXPECT_EQ(m_Name.GetParent(), nullptr);
+    EXPECT_EQ(extra.GetPos(), (Rect{5, 200, 15, 210}));
+    extra.ReParent(nullptr, true);
 }
 
 TEST_F(ConfigurationTurns, ARowThatLosesItsHeightCanOpenAnotherOne)
@@ -143,6 +150,54 @@ TEST_F(ConfigurationTurns, TheEditorsOfTheCategoryThatStaysOpenKeepShowing)
     Open(2);
     ExpectGeneral();
     EXPECT_EQ(hidden, 1);  // when its category closed
+}
+
+TEST_F(ConfigurationTurns, TheEditorsOfTheOtherCategoryAreNotHiddenByTheWay)
+{
+    Open(0);
+    auto const slot = Turn(m_General.m_Deactivated, 1);
+    m_Below.ReParent(&m_Viewer, true);
+    m_Below.SetVisible(false);
+    std::string told;
+    auto const ear =
+        Listen(m_Below.m_SigVisible, [&](CVisualElement*, bool visible) { told += visible ? "shown " : "hidden "; });
+    Open(2);
+    EXPECT_EQ(told, "shown ");
+    ExpectSub();
+}
+
+TEST_F(ConfigurationTurns, WhatWasOvertakenIsMeasuredAtTheEnd)
+{
+    m_Viewer.SetVisualisation(&m_Told);
+    auto const slot = Turn(m_General.m_Activated, 1);
+    m_Told.m_Log.Take();
+    m_Viewer.GetRowSelectionModel()->SetCurrent(0);
+    EXPECT_EQ(m_Told.m_Log.Take(), "collapsed General 370; expanded Sub 370; arrange Sub in viewer (0, 30, 370, 119); "
+                                   "collapsed General 370; expanded Sub 370; arrange Sub in viewer (0, 30, 370, 119)");
+    EXPECT_EQ(Heights(), "30 90 32");
+}
+
+TEST_F(ConfigurationTurns, ARowThatIsOpenAgainIsNotMeasuredClosed)
+{
+    m_Viewer.SetVisualisation(&m_Told);
+    Open(0);
+    auto const slot = Turn(m_General.m_Deactivated, 0);
+    m_Told.m_Log.Take();
+    m_Viewer.GetRowSelectionModel()->SetCurrent(2);
+    EXPECT_EQ(m_Told.m_Log.Take(),
+              "collapsed Other 370; expanded General 370; arrange General in viewer (0, 0, 370, 89); "
+              "collapsed Other 370; expanded General 370; arrange General in viewer (0, 0, 370, 89)");
+    EXPECT_EQ(Heights(), "90 24 30");
+}
+
+TEST_F(ConfigurationTurns, ARowThatIsOpenAgainStaysSelected)
+{
+    Open(0);
+    m_Viewer.GetRowSelectionModel()->SelectItem(0, true);
+    auto const slot = Listen(Rows().m_SigSizeChanged, [&](int, int, bool*) { SetCurrentOnce(0); });
+    Open(2);
+    ExpectGeneral();
+    EXPECT_TRUE(m_Viewer.GetRowSelectionModel()->IsItemSelected(0));
 }
 
 // Exceptions ------------------------------------------------------------------------------------------------------------------
@@ -274,6 +329,19 @@ TEST_F(ConfigurationTurns, TheOpenCategoryGoesAlongToAnotherControl)
     m_Viewer.ReParent(m_Host.Root(), true);
     m_Host.Paint();
     ExpectSub();
+}
+
+TEST_F(ConfigurationTurns, WhatHasBeenMeasuredIsNotOpenedAnewInAnotherControl)
+{
+    m_Viewer.ReParent(nullptr, true);
+    m_Viewer.GetRowSelectionModel()->SetCurrent(0);
+    int opened = 0;
+    auto const slot = Listen(m_General.m_Activated, [&](CTreeCategory*) { ++opened; });
+    m_Viewer.ReParent(m_Host.Root(), true);
+    EXPECT_EQ(opened, 1);
+    m_Viewer.ReParent(nullptr, true);
+    m_Viewer.ReParent(m_Host.Root(), true);
+    EXPECT_EQ(opened, 1);
 }
 
 TEST_F(ConfigurationTurns, AnotherRowThatBecameCurrentWithoutAWindowOpensWithTheNextOne)

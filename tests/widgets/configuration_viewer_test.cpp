@@ -27,6 +27,7 @@ TEST_F(ConfigurationViewer, StartsEmptyWithTheDefaultLookAndNothingToSelect)
     EXPECT_EQ(m_Viewer.GetCategoryWidth(), 370);
     EXPECT_NE(dynamic_cast<CDefCategoryVis*>(m_Viewer.GetVisualisation()), nullptr);
     EXPECT_FALSE(m_Viewer.GetCanHaveFocus());
+    EXPECT_FALSE(m_Viewer.IsAutoRowHeight());
     EXPECT_EQ(m_Viewer.GetSelectionType(), CEventHandlerBase::stOneItem);
     EXPECT_EQ(m_Viewer.GetRowHandler().GetSelectionType(), CEventHandlerBase::stOneItem);
     EXPECT_EQ(m_Viewer.GetRowSelectionModel()->GetSelectedCount(), 0);

@@ -1,6 +1,5 @@
 #include "vexel/widgets/configuration_viewer.h"
 
-#include "vexel/core/clip_holder.h"
 #include "vexel/core/clip_scope.h"
 #include "vexel/core/control.h"
 #include "vexel/core/measure_bracket.h"
@@ -330,7 +329,7 @@ void CConfigurationViewer::CloseCategory(int row, CTurn const& turn)
 void CConfigurationViewer::Collapse(int row, CTurn const& turn)
 {
     int const height = m_Visualisation->GetCollapsedSize(turn.GetPainter(), GetCategoryByRow(row), m_CategoryWidth);
-    if (turn.IsOver() || m_OpenRow == row)
+    if (turn.IsOver())
         return;
     GetRowViewModel()->SetItemSize(row, height);
     if (!turn.IsOver() && m_OpenRow != row)
@@ -351,7 +350,7 @@ void CConfigurationViewer::OpenCategory(int row, CTurn const& turn)
 void CConfigurationViewer::Expand(int row, CTurn const& turn)
 {
     int const size = m_Visualisation->GetExpandedSize(turn.GetPainter(), GetCategoryByRow(row), m_CategoryWidth);
-    if (turn.IsOver() || m_OpenRow != row)
+    if (turn.IsOver())
         return;
     GetRowViewModel()->SetItemSize(row, size);
     if (turn.IsOver() || m_OpenRow != row)
@@ -451,6 +450,7 @@ void CConfigurationViewer::OnDraw(IPainter* painter)
     if (!IsVisible() || GetBounds().IsEmpty())
         return;
     CAlivePtr<IPainter> const surface(painter);
+    // Rows begin above the view and end below it, and a category may be wider than the view.
     CClipScope const clip(surface, GetBounds());
     CRowViewer::OnDraw(painter);
 }
@@ -476,8 +476,6 @@ void CConfigurationViewer::DrawRow(IPainter* painter, int row, int skip, int sta
         return;
     rectangle<double> place = rect;
     place.top -= skip;
-    // Rows begin above the view and end below it, and a category may be wider than the view.
-    CClipHolder const clip(painter, ToDouble(GetBounds()));
     IConfigCategory const* const category = GetCategoryByRow(row);
     if (!category)
         return DrawRowEmptyArea(painter, rect);
