@@ -433,6 +433,18 @@ TEST_F(ConfigurationViewer, ARowWhoseCategoryHasGoneIsMeasuredAllTheSame)
     EXPECT_EQ(Rows().GetItemSize(2), 4);
 }
 
+TEST_F(ConfigurationViewer, ARowWhoseCategoryHasGoneIsEmpty)
+{
+    SetUpModel();
+    Open(2);
+    ASSERT_NE(m_Host.PixelAt(100, 52), m_Host.PixelAt(390, 52));
+    m_Model.m_Categories.back().reset();
+    m_Viewer.UpdateAll();
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.PixelAt(100, 52), m_Host.PixelAt(390, 52));
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
 TEST_F(ConfigurationViewer, AClickOpensTheRowUnderThePointer)
 {
     SetUpModel();
