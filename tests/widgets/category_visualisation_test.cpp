@@ -3,6 +3,7 @@
 #include "vexel/widgets/category_visualisation.h"
 
 #include "tests/support/paint_calls.h"
+#include "tests/support/recording_painter.h"
 #include "tests/support/virtual_order.h"
 #include "tests/widgets/config_tree.h"
 #include "vexel/core/base_control.h"
@@ -193,6 +194,28 @@ TEST_F(CategoryVis, TheTitleIsBoldAndTwoLargerTheDescriptionPlain)
     EXPECT_EQ(Describe(Painter()->GetFont()), "\"Square\" 8");
 }
 
+// Writes down what it is asked to measure.
+class CMeasuringPainter : public CRecordingPainter
+{
+public:
+    using CRecordingPainter::CRecordingPainter;
+    using IPainter::DrawString;
+    std::string m_Asked;
+    vexelbase::size<double> DrawString(Area const& rect, char const* text, int flags, int) override
+    {
+        m_Asked += std::string(text) + " in " + Describe(rect) + " by " + std::to_string(flags) + "; ";
+        return {50, 7.75};
+    }
+};
+
+TEST_F(CategoryVis, TextsAreMeasuredInTheWidthOfACategoryTheDescriptionIndented)
+{
+    CCallLog calls;
+    CMeasuringPainter painter(calls);
+    EXPECT_EQ(m_Vis.GetCollapsedSize(&painter, &m_General, 200), 20);  // 7 + 7 + 6
+    EXPECT_EQ(painter.m_Asked, "General in (5, 0, 197, 1000) by 4105; of all in (15, 0, 197, 1000) by 4105; ");
+}
+
 // Editors -------------------------------------------------------------------------------------------------------------------
 
 TEST_F(CategoryVis, EditorsStandInTheRightHalfTwentyFivePixelsApart)
@@ -236,6 +259,18 @@ TEST_F(CategoryVis, ItemsThatAreNotThereTakeNoRoomAmongTheEditors)
     Arrange(&m_General, {0, 0, 370, 99});
     EXPECT_EQ(m_First.GetPos().top, 22);
     EXPECT_EQ(m_Last.GetPos().top, 72);
+}
+
+TEST_F(CategoryVis, AnEditorWithoutAPlaceIsAsWideAsItAsksForAndOneWithAPlaceAsThat)
+{
+    m_First.SetPos({0, 0, 0, 0}, true);
+    m_First.SetSize({70, 20}, false);
+    m_Last.SetPos({5, 5, 50, 25}, true);
+    m_Last.SetSize({110, 20}, false);
+    ASSERT_EQ(m_Last.GetBounds().right, 45);
+    Arrange(&m_General, {0, 0, 370, 99});
+    EXPECT_EQ(m_First.GetPos(), (Rect{185, 22, 255, 42}));
+    EXPECT_EQ(m_Last.GetPos(), (Rect{185, 72, 230, 92}));
 }
 
 class CForcedEditor : public CVisualElement

@@ -212,6 +212,83 @@ TEST_F(CheckStageRuns, APressMayRunTheStageAgain)
     EXPECT_FALSE(Box().IsVisible());
 }
 
+TEST_F(CheckStageRuns, ARunThatPassesTakesTheBoxOfTheLastRunAway)
+{
+    GiveTimer();
+    Process();
+    m_Stage->m_Fails = false;
+    m_Log.Clear();
+    Process();
+    EXPECT_EQ(m_Log.Take(), "check(false) focus() complete(true) told(true)");
+    EXPECT_EQ(BoxCount(), 0);
+    EXPECT_EQ(m_Stage->GetBox(), nullptr);
+    EXPECT_FALSE(m_Stage->GetTimer()->IsRunning());
+    m_Host.Clock().Advance(300);
+    EXPECT_EQ(m_Log.Take(), "");  // the chain is told once
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
+}
+
+TEST_F(CheckStageRuns, ARunThatCannotAskTakesTheBoxOfTheLastRunAway)
+{
+    Process();
+    m_Stage->SetMessage(1, "", "");
+    m_Log.Clear();
+    Process();
+    EXPECT_EQ(m_Log.Take(), "check(false) focus() complete(false) told(false)");
+    EXPECT_EQ(BoxCount(), 0);
+}
+
+TEST_F(CheckStageRuns, ARunInTheSlotOfTheResultTakesOver)
+{
+    Process();
+    auto const slot = Listen(m_Stage->m_Result, [this](CCheckStageGui* stage, int) { stage->Process(&m_Notify); });
+    m_Log.Clear();
+    Press(0);
+    EXPECT_EQ(m_Log.Take(), "result(1) check(false) created");
+    EXPECT_EQ(BoxCount(), 1);
+    EXPECT_TRUE(Box().IsVisible());
+}
+
+TEST_F(CheckStageRuns, ARunThatPassesInTheSlotOfTheResultIsToldOnce)
+{
+    Process();
+    auto const slot = Listen(m_Stage->m_Result, [this](CCheckStageGui* stage, int) {
+        m_Stage->m_Fails = false;
+        stage->Process(&m_Notify);
+    });
+    m_Log.Clear();
+    Press(1);
+    EXPECT_EQ(m_Log.Take(), "result(2) check(false) focus() complete(true) told(true)");
+    EXPECT_EQ(BoxCount(), 0);
+}
+
+TEST_F(CheckStageRuns, ARunThatPassesInTheSlotOfTheNewBoxIsToldOnce)
+{
+    auto const slot = Listen(m_Stage->m_BoxCreated, [this](CMessageBox*) {
+        m_Stage->m_Fails = false;
+        m_Stage->Process(&m_Notify);
+    });
+    Process();
+    EXPECT_EQ(m_Log.Take(), "check(false) created check(false) focus() complete(true) told(true)");
+    EXPECT_EQ(BoxCount(), 0);
+}
+
+TEST_F(CheckStageRuns, ARunInTheSlotOfTheParentsFocusTakesOver)
+{
+    m_Stage->m_Fails = false;
+    bool done = false;
+    auto const slot = Listen(m_Pane.m_SigGetFocus, [&](CVisualElement*) {
+        m_Stage->m_Fails = true;
+        if (!std::exchange(done, true))
+            m_Stage->Process(&m_Notify);
+    });
+    Process();
+    EXPECT_EQ(m_Log.Take(), "check(false) focus() check(false) created");
+    EXPECT_EQ(BoxCount(), 1);
+    Press(0);
+    EXPECT_EQ(m_Log.Take(), "result(1) focus() complete(true) told(true)");
+}
+
 TEST_F(CheckStageRuns, AStageThatDiesTakesItsBoxAlong)
 {
     vexel_ptr<ISysTimer> const timer = CTestHost::System().CreateTimer(100, 0);

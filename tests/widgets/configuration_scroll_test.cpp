@@ -275,6 +275,25 @@ TEST_F(ConfigurationScroll, AnotherHeightOfARowAboveMovesTheEditorsBelowIt)
     EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
+TEST_F(ConfigurationScroll, AnElementAtTheVeryEndOfARowMovesWithTheNextOne)
+{
+    m_Name.SetPos({0, 24, 60, 44}, true);
+    m_Name.ReParent(&m_Viewer, true);
+    m_Kind.SetPos({0, 23, 60, 43}, true);
+    m_Kind.ReParent(&m_Viewer, true);
+    Rows().SetItemSize(0, 34);
+    EXPECT_EQ(m_Name.GetPos(), (Rect{0, 34, 60, 54}));
+    EXPECT_EQ(m_Kind.GetPos(), (Rect{0, 23, 60, 43}));
+}
+
+TEST_F(ConfigurationScroll, MovingByHandPaintsTheWindowAnewEvenWithNothingToMove)
+{
+    m_Host.Paint();
+    ASSERT_FALSE(m_Host.IsFramePending());
+    m_Viewer.ScrollElements(0, 5);
+    EXPECT_TRUE(m_Host.IsFramePending());
+}
+
 TEST_F(ConfigurationScroll, AnotherHeightOfARowBelowLeavesTheEditors)
 {
     Open(0);
@@ -339,6 +358,19 @@ TEST_F(ConfigurationScroll, AnEditorThatSticksOutIsNotPaintedBesideTheViewer)
     m_Viewer.ReParent(nullptr, true);
     head.ReParent(nullptr, true);
     m_Viewer.ReParent(m_Host.Root(), true);
+}
+
+TEST_F(ConfigurationScroll, AnEditorThatBeginsAboveTheViewerIsPaintedWithItAndNotAlone)
+{
+    Open(0);
+    m_Name.SetPos({185, -7, 245, 13}, true);
+    m_Host.Paint();
+    m_Name.Update(utElement);
+    EXPECT_EQ(m_Host.Paint().Elements(), "viewer name");
+    m_Name.SetPos({185, 0, 245, 20}, true);
+    m_Host.Paint();
+    m_Name.Update(utElement);
+    EXPECT_EQ(m_Host.Paint().Elements(), "name");
 }
 
 TEST_F(ConfigurationScroll, AnEditorInViewIsPaintedAlone)

@@ -27,6 +27,7 @@ TEST_F(ConfigurationViewer, StartsEmptyWithTheDefaultLookAndNothingToSelect)
     EXPECT_EQ(m_Viewer.GetCategoryWidth(), 370);
     EXPECT_NE(dynamic_cast<CDefCategoryVis*>(m_Viewer.GetVisualisation()), nullptr);
     EXPECT_FALSE(m_Viewer.GetCanHaveFocus());
+    EXPECT_FALSE(m_Viewer.IsAutoRowHeight());
     EXPECT_EQ(m_Viewer.GetSelectionType(), CEventHandlerBase::stOneItem);
     EXPECT_EQ(m_Viewer.GetRowHandler().GetSelectionType(), CEventHandlerBase::stOneItem);
     EXPECT_EQ(m_Viewer.GetRowSelectionModel()->GetSelectedCount(), 0);
@@ -430,6 +431,18 @@ TEST_F(ConfigurationViewer, ARowWhoseCategoryHasGoneIsMeasuredAllTheSame)
     EXPECT_EQ(Rows().GetItemSize(2), 4);
     m_Viewer.CategoryChanged(-1, 2);
     EXPECT_EQ(Rows().GetItemSize(2), 4);
+}
+
+TEST_F(ConfigurationViewer, ARowWhoseCategoryHasGoneIsEmpty)
+{
+    SetUpModel();
+    Open(2);
+    ASSERT_NE(m_Host.PixelAt(100, 52), m_Host.PixelAt(390, 52));
+    m_Model.m_Categories.back().reset();
+    m_Viewer.UpdateAll();
+    m_Host.Paint();
+    EXPECT_EQ(m_Host.PixelAt(100, 52), m_Host.PixelAt(390, 52));
+    EXPECT_EQ(m_Host.CompareWithFullPaint(), "");
 }
 
 TEST_F(ConfigurationViewer, AClickOpensTheRowUnderThePointer)

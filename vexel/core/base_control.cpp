@@ -148,6 +148,8 @@ void CBaseControl::OnDestroy(CWindowEvent* event)
 {
     CAlivePtr<CBaseControl> const alive(this);
     ForgetPainter();
+    if (ISysWindow* const window = GetWindow())
+        CAliveLink::Forget(window);
     CVexelControl::OnDestroy(event);
     if (!alive)
         return;

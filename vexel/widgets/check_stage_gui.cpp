@@ -27,6 +27,19 @@ void TakeFgColor(CVisualElement& caption, CVisualElement const& parent)
 
 }  // namespace
 
+// The run that is under way: no slot has begun another one, nor deleted the stage.
+class CCheckStageGui::CThisRun
+{
+public:
+    explicit CThisRun(CCheckStageGui& stage) : m_Stage(&stage), m_Number(stage.m_Run) {}
+
+    bool operator()() const { return m_Stage && m_Stage->m_Run == m_Number; }
+
+private:
+    CAlivePtr<CCheckStageGui> const m_Stage;
+    unsigned int const m_Number;
+};
+
 CCheckStageGui::~CCheckStageGui()
 {
     CAliveLink::Forget(this);
@@ -92,25 +105,29 @@ void CCheckStageGui::DoCheck(bool& failed)
 
 void CCheckStageGui::Process(IStageNotify* notify)
 {
-    CAlivePtr<CCheckStageGui> const alive(this);
+    ++m_Run;
+    CThisRun const isLast(*this);
     m_Notify = notify;
     bool failed = false;
     DoCheck(failed);
-    if (!alive)
+    if (!isLast())
         return;
-    if (!failed)
-        DoComplete(true);
-    else if ((m_Title.empty() && m_Text.empty()) || !m_Parent)
-        DoComplete(false);
-    else
-        ShowBox();
+    if (failed && !(m_Title.empty() && m_Text.empty()) && m_Parent)
+        return ShowBox();
+    if (m_Box)  // of the last run: nobody waits for an answer any more
+    {
+        RunTimer(false);
+        DropBox();
+    }
+    if (isLast())
+        DoComplete(!failed);
 }
 
 void CCheckStageGui::ShowBox()
 {
-    CAlivePtr<CCheckStageGui> const alive(this);
+    CThisRun const isLast(*this);
     DropBox();
-    if (!alive)
+    if (!isLast())
         return;
     CAlivePtr<CMessageBox> const box(new CMessageBox(nullptr, g_BoxSize, alTop));
     m_Box.Watch(box.get());
@@ -125,7 +142,6 @@ void CCheckStageGui::ShowBox()
     TakeFgColor(box->GetTitle(), *m_Parent);
     TakeFgColor(box->GetText(), *m_Parent);
     box->m_ButtonPressed.connect(this, &CCheckStageGui::ProcessResult);
-    auto const isLast = [&] { return alive && m_Box.get() == box.get(); };  // no slot has begun another run
     m_BoxCreated(box.get());
     if (!isLast())
         return;
@@ -145,27 +161,27 @@ void CCheckStageGui::ShowBox()
 
 void CCheckStageGui::DoComplete(bool ok)
 {
-    CAlivePtr<CCheckStageGui> const alive(this);
+    CThisRun const isLast(*this);
     if (m_Parent)
         m_Parent->SetFocus(true);
-    if (alive)
+    if (isLast())
         OnComplete(ok);
-    if (alive && m_Notify)
+    if (isLast() && m_Notify)
         m_Notify->Complete(ok);
 }
 
 void CCheckStageGui::ProcessResult(CMessageBox* pressed, int value)
 {
-    CAlivePtr<CCheckStageGui> const alive(this);
+    CThisRun const isLast(*this);
     CAlivePtr<CMessageBox> const box(pressed);
     RunTimer(false);
     bool failed = true;
     if (m_RecheckOnButton || m_Timer)
         DoCheck(failed);
-    if (!alive)
+    if (!isLast())
         return;
     m_Result(this, value);
-    if (!alive)
+    if (!isLast())
         return;
     bool const accepted = value == m_AcceptValue;
     if (box && accepted && failed && !(m_WaitTitle.empty() && m_WaitText.empty()))
@@ -181,30 +197,29 @@ void CCheckStageGui::ProcessResult(CMessageBox* pressed, int value)
     }
     else if (box)
         box->SetVisible(false);
-    if (alive)
+    if (isLast())
         DoComplete(accepted);
 }
 
 void CCheckStageGui::OnTimer(CTimerEvent*)
 {
-    CAlivePtr<CCheckStageGui> const alive(this);
+    CThisRun const isLast(*this);
     bool failed = true;
     DoCheck(failed);
-    if (alive && !failed)
+    if (isLast() && !failed)
         Pass();
 }
 
 void CCheckStageGui::Pass()
 {
-    CAlivePtr<CCheckStageGui> const alive(this);
+    CThisRun const isLast(*this);
     CAlivePtr<CMessageBox> const box(m_Box.get());
     bool const waits = box && box->IsVisible() && box->IsButtonsVisible();
     if (box)
         box->SetVisible(false);
-    if (alive && waits && m_Notify)
+    if (isLast() && waits && m_Notify)
         DoComplete(true);
-    // The chain may have begun anew meanwhile, with another box.
-    if (alive && m_Box.get() == box.get())
+    if (isLast())
         RunTimer(false);
 }
 

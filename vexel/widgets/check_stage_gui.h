@@ -19,7 +19,8 @@ namespace vexel
 ///     stage.SetMessage(warningPicture, "Disk almost full", "Free some space, or go on with less.");
 ///     stage.SetButtons(goOnButton | quitButton, goOnButton);
 ///
-/// It makes one box at a time, which the next run replaces, and takes it along when it dies. All belongs to the GUI thread.
+/// It makes one box at a time, which the next run takes away, and takes it along when it dies. A run that begins in the
+/// middle of another one takes over: the other ends without a word. All belongs to the GUI thread.
 class VEXEL_API CCheckStageGui : public ICheckStage, public subscriber_base_t, public CTimerNotify
 {
 public:
@@ -60,7 +61,10 @@ public:
     /// Null: none.
     void SetTimer(vexel_ptr<ISysTimer> timer);
 
-    CMessageBox* GetBox() const { return m_Box.get(); }  ///< Of the last run; null: none, or it has been deleted.
+    CMessageBox* GetBox() const
+    {
+        return m_Box.get();
+    }  ///< Of the last run; null: it needed none, or it has been deleted.
     IStageNotify* GetNotify() const { return m_Notify; }
 
 public:  // Overridable; the first is from ICheckStage, the last from CTimerNotify
@@ -70,6 +74,8 @@ public:  // Overridable; the first is from ICheckStage, the last from CTimerNoti
     void OnTimer(CTimerEvent* event) override;
 
 private:
+    class CThisRun;
+
     void ShowBox();
     void DoComplete(bool ok);
     void ProcessResult(CMessageBox* box, int value);
@@ -89,6 +95,7 @@ private:
     std::string m_WaitText;
     bool m_RecheckOnButton = false;
     CElementPtr<CMessageBox> m_Box;
+    unsigned int m_Run = 0;  // the last one's number
     vexel_ptr<ISysTimer> m_Timer;
 };
 

@@ -1,6 +1,5 @@
 #include "vexel/widgets/configuration_viewer.h"
 
-#include "vexel/core/clip_holder.h"
 #include "vexel/core/clip_scope.h"
 #include "vexel/core/control.h"
 #include "vexel/core/measure_bracket.h"
@@ -48,6 +47,19 @@ template <class Category, class Set> Category* WalkPath(Set* set, std::vector<in
     return category;
 }
 
+// A path that goes one level down for a scope.
+class CDeeper
+{
+public:
+    explicit CDeeper(std::vector<int>& path) : m_Path(path) { m_Path.push_back(0); }
+    ~CDeeper() { m_Path.pop_back(); }
+    CDeeper(CDeeper const&) = delete;
+    CDeeper& operator=(CDeeper const&) = delete;
+
+private:
+    std::vector<int>& m_Path;
+};
+
 // Nothing of what happens meanwhile reaches the screen.
 class CDrawingLock
 {
@@ -66,7 +78,7 @@ public:
     CDrawingLock& operator=(CDrawingLock const&) = delete;
 
 private:
-    ISysWindow* const m_Window;
+    CAlivePtr<ISysWindow> const m_Window;
 };
 
 }  // namespace
@@ -90,6 +102,27 @@ private:
     CAliveGuard const m_Alive;
     CConfigurationViewer& m_Viewer;
     bool const m_Before;
+};
+
+// One opening or closing. What is called meanwhile may begin another one, which then is the last.
+class CConfigurationViewer::CTurn
+{
+public:
+    CTurn(CConfigurationViewer& viewer, CAlivePtr<IPainter> const& painter)
+        : m_Alive(&viewer), m_Updating(viewer), m_Viewer(viewer), m_Painter(painter), m_Number(++viewer.m_Turns)
+    {}
+
+    bool IsOver() const { return !m_Alive || !m_Painter; }  // the viewer or the painter has died
+    bool IsLast() const { return !IsOver() && m_Viewer.m_Turns == m_Number; }
+    bool IsOvertaken() const { return !IsOver() && m_Viewer.m_Turns != m_Number; }
+    IPainter* GetPainter() const { return m_Painter.get(); }
+
+private:
+    CAliveGuard const m_Alive;
+    CUpdating const m_Updating;
+    CConfigurationViewer& m_Viewer;
+    CAlivePtr<IPainter> const& m_Painter;
+    unsigned int const m_Number;
 };
 
 CConfigurationViewer::CConfigurationViewer(CVisualElement* parent, size<int> const& extent, Alignment alignment)
@@ -126,17 +159,31 @@ IPainter* CConfigurationViewer::FindPainter() const
 
 // The model -------------------------------------------------------------------------------------------------------------------
 
+bool CConfigurationViewer::IsRow(int row) const
+{
+    return row >= 0 && row < static_cast<int>(m_Categories.size());
+}
+
 void CConfigurationViewer::SetModel(IConfigModel* model)
 {
-    m_Model = model ? model : &GetEmptyModel();
+    IConfigModel* const old = std::exchange(m_Model, model ? model : &GetEmptyModel());
     CAliveGuard const alive(this);
-    if (IPainter* const painter = FindPainter())
+    try
     {
-        CMeasureBracket const measuring(painter, GetFont());
-        FillCategories(painter);
+        if (IPainter* const painter = FindPainter())
+        {
+            CMeasureBracket const measuring(painter, GetFont(), FindWindow());
+            FillCategories(painter);
+        }
+        else
+            FillCategories(nullptr);
     }
-    else
-        FillCategories(nullptr);
+    catch (...)
+    {
+        if (alive)
+            m_Model = old;
+        throw;
+    }
     if (alive)
         GetRowViewModel()->SetCount(static_cast<int>(m_Categories.size()));
     if (alive)
@@ -148,8 +195,19 @@ void CConfigurationViewer::SetModel(IConfigModel* model)
 void CConfigurationViewer::FillCategories(IPainter* painter)
 {
     CUpdating const updating(*this);
+    CAliveGuard const alive(this);
+    std::size_t const before = m_Categories.size();
     std::vector<int> path;
-    AddCategory(m_Model, path, painter);
+    try
+    {
+        AddCategory(m_Model, path, painter);
+    }
+    catch (...)
+    {
+        if (alive)
+            m_Categories.resize(before);  // all of them or none
+        throw;
+    }
 }
 
 void CConfigurationViewer::AddCategory(ICategorySet const* set, std::vector<int>& path, IPainter* painter)
@@ -168,14 +226,13 @@ void CConfigurationViewer::AddCategory(ICategorySet const* set, std::vector<int>
         if (!alive)
             return;
     }
-    path.push_back(0);
+    CDeeper const deeper(path);
     int const count = set->GetCategoryCount();
     for (int i = 0; i < count && alive; ++i)
     {
         path.back() = i;
         AddCategory(set->GetCategory(i), path, painter);
     }
-    path.pop_back();
 }
 
 // Rows that came while there was no window.
@@ -184,18 +241,21 @@ void CConfigurationViewer::MeasureCategories()
     IPainter* const painter = FindPainter();
     if (!painter)
         return;
-    m_Unmeasured = false;
     CAliveGuard const alive(this);
     {
         CUpdating const updating(*this);
-        CMeasureBracket const measuring(painter, GetFont());
+        CMeasureBracket const measuring(painter, GetFont(), FindWindow());
         for (int row = 0; alive && row < static_cast<int>(m_Categories.size()); ++row)
             if (IConfigCategory const* const category = GetCategoryByRow(row))
                 GetRowViewModel()->SetItemSize(row,
                                                m_Visualisation->GetCollapsedSize(painter, category, m_CategoryWidth));
     }
-    if (alive && GetRowSelectionModel()->GetCurrent() >= 0)
-        RefreshActiveCategory();
+    if (!alive)
+        return;
+    m_Unmeasured = false;
+    int const current = GetRowSelectionModel()->GetCurrent();
+    if (m_OpenRow >= 0 || current >= 0)
+        CategoryChanged(m_OpenRow >= 0 ? m_OpenRow : current, current);
 }
 
 void CConfigurationViewer::AfterSetControl()
@@ -220,14 +280,14 @@ void CConfigurationViewer::UpdateAll()
 
 IConfigCategory const* CConfigurationViewer::GetCategoryByRow(int row) const
 {
-    if (row < 0 || row >= static_cast<int>(m_Categories.size()))
+    if (!IsRow(row))
         return nullptr;
     return WalkPath<IConfigCategory const, ICategorySet const>(m_Model, m_Categories[static_cast<std::size_t>(row)]);
 }
 
 IConfigCategory* CConfigurationViewer::GetCategoryByRow(int row)
 {
-    if (row < 0 || row >= static_cast<int>(m_Categories.size()))
+    if (!IsRow(row))
         return nullptr;
     return WalkPath<IConfigCategory, ICategorySet>(m_Model, m_Categories[static_cast<std::size_t>(row)]);
 }
@@ -236,52 +296,95 @@ IConfigCategory* CConfigurationViewer::GetCategoryByRow(int row)
 
 void CConfigurationViewer::CategoryChanged(int oldRow, int newRow)
 {
-    IPainter* const painter = FindPainter();
+    CAlivePtr<IPainter> const painter(FindPainter());
     if (!painter)
+    {
+        m_Unmeasured = true;
         return;
-    CAliveGuard const alive(this);
-    CUpdating const updating(*this);
-    CMeasureBracket const measuring(painter, GetFont());
+    }
+    CTurn const turn(*this, painter);
+    CMeasureBracket const measuring(painter.get(), GetFont(), FindWindow());
     if (oldRow != newRow)
-        CloseCategory(oldRow, painter);
-    if (alive)
-        OpenCategory(newRow, painter);
+        CloseCategory(oldRow, turn);
+    if (turn.IsLast())
+        OpenCategory(newRow, turn);
+    if (turn.IsOvertaken())
+        Settle(oldRow, newRow, turn);
 }
 
-void CConfigurationViewer::CloseCategory(int row, IPainter* painter)
+void CConfigurationViewer::CloseCategory(int row, CTurn const& turn)
 {
-    if (row < 0 || row >= static_cast<int>(m_Categories.size()))
+    if (!IsRow(row))
         return;
-    CAliveGuard const alive(this);
+    if (m_OpenRow == row)
+        m_OpenRow = -1;
     if (IConfigCategory* const category = GetCategoryByRow(row))
         category->Deactivate();
-    for (int i = 0; alive && i < GetChildren()->GetCount(); ++i)
+    for (int i = 0; turn.IsLast() && i < GetChildren()->GetCount(); ++i)
         GetChildren()->GetItem(i)->SetVisible(false);
-    if (alive)
-        GetRowViewModel()->SetItemSize(
-            row, m_Visualisation->GetCollapsedSize(painter, GetCategoryByRow(row), m_CategoryWidth));
-    if (alive)
+    if (turn.IsLast())
+        Collapse(row, turn);
+}
+
+void CConfigurationViewer::Collapse(int row, CTurn const& turn)
+{
+    int const height = m_Visualisation->GetCollapsedSize(turn.GetPainter(), GetCategoryByRow(row), m_CategoryWidth);
+    if (turn.IsOver())
+        return;
+    GetRowViewModel()->SetItemSize(row, height);
+    if (!turn.IsOver() && m_OpenRow != row)
         GetRowSelectionModel()->SelectItem(row, false);  // it would look open
 }
 
-void CConfigurationViewer::OpenCategory(int row, IPainter* painter)
+void CConfigurationViewer::OpenCategory(int row, CTurn const& turn)
 {
-    if (row < 0 || row >= static_cast<int>(m_Categories.size()))
+    if (!IsRow(row))
         return;
-    CAliveGuard const alive(this);
+    m_OpenRow = row;
     if (IConfigCategory* const category = GetCategoryByRow(row))
         category->Activate();
-    if (!alive)
+    if (turn.IsLast())
+        Expand(row, turn);
+}
+
+void CConfigurationViewer::Expand(int row, CTurn const& turn)
+{
+    int const size = m_Visualisation->GetExpandedSize(turn.GetPainter(), GetCategoryByRow(row), m_CategoryWidth);
+    if (turn.IsOver())
         return;
-    GetRowViewModel()->SetItemSize(row,
-                                   m_Visualisation->GetExpandedSize(painter, GetCategoryByRow(row), m_CategoryWidth));
-    if (!alive)
+    GetRowViewModel()->SetItemSize(row, size);
+    if (turn.IsOver() || m_OpenRow != row)
         return;
     int const height = GetBounds().bottom > g_SmallestView ? GetBounds().bottom : g_ViewWithoutLayout;
     range<int> const extent = Utils::GetItemIndexRangeEx(GetRowViewModel(), row, {0, height});
-    m_Visualisation->ArrangeEditors(painter, GetCategoryByRow(row), this,
+    m_Visualisation->ArrangeEditors(turn.GetPainter(), GetCategoryByRow(row), this,
                                     {0.0, static_cast<double>(extent.first), static_cast<double>(m_CategoryWidth),
                                      static_cast<double>(extent.second)});
+}
+
+// Another category was opened, or all were closed, in the middle of a turn: what is open now stands as if the turn had ended
+// before.
+void CConfigurationViewer::Settle(int oldRow, int newRow, CTurn const& turn)
+{
+    for (int const row : {oldRow, newRow})
+        if (!turn.IsOver() && IsRow(row) && row != m_OpenRow)
+            Collapse(row, turn);
+    // The others keep the focus, and what else they would lose.
+    for (int i = 0; !turn.IsOver() && i < GetChildren()->GetCount(); ++i)
+        if (CVisualElement* const child = GetChildren()->GetItem(i); !IsOpenEditor(child))
+            child->SetVisible(false);
+    if (!turn.IsOver() && IsRow(m_OpenRow))
+        Expand(m_OpenRow, turn);
+}
+
+bool CConfigurationViewer::IsOpenEditor(CVisualElement const* element)
+{
+    IConfigCategory* const category = GetCategoryByRow(m_OpenRow);
+    int const count = category ? category->GetItemCount() : 0;
+    for (int i = 0; i < count; ++i)
+        if (IConfigItem* const item = category->GetItem(i); item && item->GetEditor() == element)
+            return true;
+    return false;
 }
 
 void CConfigurationViewer::RefreshActiveCategory()
@@ -347,6 +450,7 @@ void CConfigurationViewer::OnDraw(IPainter* painter)
     if (!IsVisible() || GetBounds().IsEmpty())
         return;
     CAlivePtr<IPainter> const surface(painter);
+    // Rows begin above the view and end below it, and a category may be wider than the view.
     CClipScope const clip(surface, GetBounds());
     CRowViewer::OnDraw(painter);
 }
@@ -372,8 +476,6 @@ void CConfigurationViewer::DrawRow(IPainter* painter, int row, int skip, int sta
         return;
     rectangle<double> place = rect;
     place.top -= skip;
-    // Rows begin above the view and end below it, and a category may be wider than the view.
-    CClipHolder const clip(painter, ToDouble(GetBounds()));
     IConfigCategory const* const category = GetCategoryByRow(row);
     if (!category)
         return DrawRowEmptyArea(painter, rect);

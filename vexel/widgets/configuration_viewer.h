@@ -54,17 +54,25 @@ public:  // From CVisualElement and CRowViewer
 
 private:
     class CUpdating;
+    class CTurn;
 
     ISysWindow* FindWindow() const;
     IPainter* FindPainter() const;
     void MeasureCategories();
-    void CloseCategory(int row, IPainter* painter);
-    void OpenCategory(int row, IPainter* painter);
+    bool IsRow(int row) const;
+    void CloseCategory(int row, CTurn const& turn);
+    void Collapse(int row, CTurn const& turn);
+    void OpenCategory(int row, CTurn const& turn);
+    void Expand(int row, CTurn const& turn);
+    void Settle(int oldRow, int newRow, CTurn const& turn);
+    bool IsOpenEditor(CVisualElement const* element);
     void MoveEditors(int dx, int dy, int from);
 
     int m_CategoryWidth;  // device pixels
     bool m_Updating = false;
-    bool m_Unmeasured = false;  // rows came while there was no painter
+    bool m_Unmeasured = false;  // rows came, or were to open or close, while there was no painter
+    int m_OpenRow = -1;         // -1: none
+    unsigned int m_Turns = 0;   // openings and closings so far
     IConfigModel* m_Model;
     ICategoryVis* m_Visualisation;
     std::vector<std::vector<int>> m_Categories;  // by row: the way from the model down

@@ -78,7 +78,7 @@ void CEventLog::CLogList::RecalcSize()
 void CEventLog::CLogList::MeasureNewLines()
 {
     CAliveGuard const alive(this);
-    ISysWindow* const window = GetControl() ? GetControl()->GetWindow() : nullptr;
+    ISysWindow* window = GetControl() ? GetControl()->GetWindow() : nullptr;
     if (!window || !GetModel())
         return;
     // Lines that were taken away will be new when they come back.
@@ -88,7 +88,8 @@ void CEventLog::CLogList::MeasureNewLines()
     if (m_MeasuredCount == 0)
     {
         ForceRearrange();
-        if (!alive || !GetModel() || !GetControl())
+        window = alive && GetControl() ? GetControl()->GetWindow() : nullptr;
+        if (!window || !GetModel())
             return;
     }
 
