@@ -12,6 +12,15 @@ namespace workbench
 
 using namespace vexel;
 
+/// An editor without a parent and a place; the viewer gives it both, in the open category with its highlight.
+template <class Editor> std::unique_ptr<Editor> MakeEditor(int width)
+{
+    auto editor = std::make_unique<Editor>(nullptr, size<int>{width, 20}, alNone);
+    editor->SetBkColor(ISysPalette::scHighlight);
+    editor->SetFgColor(ISysPalette::scHighlightText);
+    return editor;
+}
+
 /// A setting: a label and the element that edits it.
 class CConfigItem : public IConfigItem
 {

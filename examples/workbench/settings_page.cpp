@@ -8,20 +8,6 @@
 namespace workbench
 {
 
-namespace
-{
-
-// Elements without a parent and a place; the viewer gives them both, in the open category with its highlight.
-template <class Editor> std::unique_ptr<Editor> MakeEditor(int width)
-{
-    auto editor = std::make_unique<Editor>(nullptr, size<int>{width, 20}, alNone);
-    editor->SetBkColor(ISysPalette::scHighlight);
-    editor->SetFgColor(ISysPalette::scHighlightText);
-    return editor;
-}
-
-}  // namespace
-
 std::string CSettingsPage::CThemes::GetItemCaption(int index) const
 {
     static char const* const themes[] = {"As the desktop", "Light", "Dark"};

@@ -14,14 +14,7 @@ namespace gallery
 namespace
 {
 
-// Elements without a parent and a place; the viewer gives them both.
-template <class Editor> std::unique_ptr<Editor> MakeEditor(int width)
-{
-    auto editor = std::make_unique<Editor>(nullptr, size<int>{width, 20}, alNone);
-    editor->SetBkColor(ISysPalette::scHighlight);
-    editor->SetFgColor(ISysPalette::scHighlightText);
-    return editor;
-}
+using workbench::MakeEditor;
 
 std::unique_ptr<CCheckBox> MakeSwitch(bool on)
 {
