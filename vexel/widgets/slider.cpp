@@ -177,10 +177,12 @@ rectangle<int> CSlider::CalcPointerRect(rectangle<int> const& track) const
         return {};
     int const along = ToInt(GetAlong(pointer.width, pointer.height));
     int const across = ToInt(GetAcross(pointer.width, pointer.height));
-    double const alongStart = static_cast<double>(ToInt(GetAlong(track.left, track.top))) + position - along / 2;
+    int const beforeAlong = along / 2;
+    int const beforeAcross = across / 2;
+    double const alongStart = static_cast<double>(ToInt(GetAlong(track.left, track.top))) + position - beforeAlong;
     int const thickness =
         ToInt(GetAcross(SubtractSaturated(track.right, track.left), SubtractSaturated(track.bottom, track.top)));
-    double const acrossStart = thickness * 0.5 + ToInt(GetAcross(track.left, track.top)) - across / 2;
+    double const acrossStart = thickness * 0.5 + ToInt(GetAcross(track.left, track.top)) - beforeAcross;
     rectangle<double> const rect = MakeRect(alongStart, acrossStart, alongStart + along, acrossStart + across);
     return {ToInt(rect.left), ToInt(rect.top), ToInt(rect.right), ToInt(rect.bottom)};
 }
