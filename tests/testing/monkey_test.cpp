@@ -23,6 +23,9 @@ using testing::HasSubstr;
 namespace
 {
 
+// What a broken element leaves behind.
+std::unique_ptr<CVisualElement> g_Left;
+
 /// Breaks in one of several ways.
 class CBrokenElement : public CVisualElement
 {
@@ -38,8 +41,8 @@ protected:
             ReportFailure("the second press at " + std::to_string(GetMousePos().x));
         if (m_Fault == "death" && button == mbMiddle)
             std::abort();
-        if (m_Fault == "left" && !m_Left)
-            m_Left = new CVisualElement(nullptr, {0, 0}, alNone);
+        if (m_Fault == "left")
+            g_Left = std::make_unique<CVisualElement>(nullptr, size<int>{0, 0}, alNone);
         return false;
     }
     bool HandleWheel(int, int, int, MouseButton, int) override
@@ -59,7 +62,6 @@ private:
     std::string const m_Fault;
     int m_Presses = 0;
     bool m_Dark = false;
-    CVisualElement* m_Left = nullptr;
 };
 
 class CBrokenScene : public IMonkeyScene, public subscriber_base_t
@@ -167,6 +169,7 @@ TEST_F(MonkeyTest, FindsFramesWithoutAnEnd)
 TEST_F(MonkeyTest, FindsWhatIsLeft)
 {
     EXPECT_EQ(PlayGame({"left", {"move 5 5", "press 1"}}, &MakeScene).failure, "1 element left: CVisualElement");
+    g_Left.reset();
 }
 
 TEST_F(MonkeyTest, SaysWhatItCannotPlay)
